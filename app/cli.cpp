@@ -1,0 +1,89 @@
+#include "app/cli.h"
+
+#include <charconv>
+
+#include "core/edition.h"
+
+namespace lad::app {
+
+namespace {
+
+bool parseListen(const std::string& text, ServeOptions& o) {
+  const auto colon = text.rfind(':');
+  if (colon == std::string::npos || colon == 0) return false;
+  std::string host = text.substr(0, colon);
+  if (host.size() > 2 && host.front() == '[' && host.back() == ']')
+    host = host.substr(1, host.size() - 2);
+  int port = -1;
+  const char* first = text.data() + colon + 1;
+  const char* last = text.data() + text.size();
+  auto [end, ec] = std::from_chars(first, last, port);
+  if (ec != std::errc() || end != last || port < 0 || port > 65535) return false;
+  o.host = host;
+  o.port = port;
+  return true;
+}
+
+std::optional<Command> parseServe(const std::vector<std::string>& args, std::string* error) {
+  Command c{Command::kServe, {}};
+  for (std::size_t i = 1; i < args.size(); ++i) {
+    const std::string& flag = args[i];
+    if (flag != "--data" && flag != "--listen" && flag != "--lang" && flag != "--web") {
+      *error = "unknown option " + flag;
+      return std::nullopt;
+    }
+    if (i + 1 >= args.size()) {
+      *error = flag + " needs a value";
+      return std::nullopt;
+    }
+    const std::string& value = args[++i];
+    if (flag == "--data") {
+      c.serve.dataDir = value;
+    } else if (flag == "--web") {
+      c.serve.webDir = value;
+    } else if (flag == "--listen") {
+      if (!parseListen(value, c.serve)) {
+        *error = "--listen wants HOST:PORT, such as 127.0.0.1:8080, not " + value;
+        return std::nullopt;
+      }
+    } else if ((c.serve.langid = langidFromCode(value)) == 0) {
+      *error = "--lang is one of ru, de, fr, not " + value;
+      return std::nullopt;
+    }
+  }
+  return c;
+}
+
+}  // namespace
+
+std::optional<Command> parseCommandLine(const std::vector<std::string>& args,
+                                        std::string* error) {
+  if (args.empty() || args[0] == "--help" || args[0] == "-h" || args[0] == "help")
+    return Command{Command::kHelp, {}};
+  if (args[0] == "--version") return Command{Command::kVersion, {}};
+  if (args[0] == "serve") return parseServe(args, error);
+  *error = "unknown command " + args[0];
+  return std::nullopt;
+}
+
+std::string usage(const std::string& program) {
+  return "Usage: " + program + " <command> [options]\n"
+         "\n"
+         "Commands:\n"
+         "  serve        run the diary for the browsers of your phone and tablet\n"
+         "\n"
+         "Options of serve:\n"
+         "  --data DIR          the installation's data folder (default: ./data)\n"
+         "  --listen HOST:PORT  where to listen (default: 127.0.0.1:8080)\n"
+         "  --lang ru|de|fr     language of the interface (default: ru)\n"
+         "  --web DIR           the built web app (default: the one of this build)\n"
+         "\n"
+         "  --help              this text\n"
+         "  --version           the program's version\n";
+}
+
+bool isLoopbackHost(const std::string& host) {
+  return host == "localhost" || host == "::1" || host.starts_with("127.");
+}
+
+}  // namespace lad::app

@@ -1,0 +1,32 @@
+// The command line shared by the four editions' executables.
+#pragma once
+
+#include <filesystem>
+#include <optional>
+#include <string>
+#include <vector>
+
+namespace lad::app {
+
+struct ServeOptions {
+  std::filesystem::path dataDir = "data";
+  std::string host = "127.0.0.1";
+  int port = 8080;
+  int langid = 1;
+  std::filesystem::path webDir;
+  std::filesystem::path imagesDir;
+};
+
+struct Command {
+  enum Kind { kHelp, kVersion, kServe } kind = kHelp;
+  ServeOptions serve;
+};
+
+// Parses the arguments after the program name; nullopt with *error filled when they are wrong.
+std::optional<Command> parseCommandLine(const std::vector<std::string>& args, std::string* error);
+
+std::string usage(const std::string& program);
+
+bool isLoopbackHost(const std::string& host);
+
+}  // namespace lad::app

@@ -1,0 +1,81 @@
+#include "app/serve.h"
+
+#include <signal.h>
+
+#include <atomic>
+#include <cstdio>
+#include <thread>
+
+#include "server/http_server.h"
+
+namespace lad::app {
+
+namespace {
+
+// Blocks the stop signals in this thread and every thread made after it, so that only the
+// waiter below takes them.
+sigset_t blockStopSignals() {
+  sigset_t set;
+  sigemptyset(&set);
+  sigaddset(&set, SIGINT);
+  sigaddset(&set, SIGTERM);
+  pthread_sigmask(SIG_BLOCK, &set, nullptr);
+  return set;
+}
+
+// Waits for a stop signal, or for `done`, and stops the server on a signal.
+std::thread signalWaiter(sigset_t set, server::HttpServer& http, std::atomic<bool>& done) {
+  return std::thread([set, &http, &done] {
+    const timespec tick{0, 200'000'000};
+    while (!done) {
+      if (sigtimedwait(&set, nullptr, &tick) > 0) {
+        std::fprintf(stderr, "stopping\n");
+        http.stop();
+        return;
+      }
+    }
+  });
+}
+
+}  // namespace
+
+int serve(int appid, const ServeOptions& o) {
+  if (!isLoopbackHost(o.host)) {
+    std::fprintf(stderr,
+                 "serving hosts other than this machine needs the password lock, which this "
+                 "version does not have yet; listen on 127.0.0.1 and use a reverse proxy\n");
+    return 2;
+  }
+  if (!std::filesystem::exists(o.webDir / "index.html")) {
+    std::fprintf(stderr, "the web app is not built in %s: run scripts/setup\n",
+                 o.webDir.c_str());
+    return 2;
+  }
+  const sigset_t stopSignals = blockStopSignals();
+  std::unique_ptr<server::Installation> installation;
+  try {
+    installation = std::make_unique<server::Installation>(
+        ContextOptions{appid, o.langid, o.dataDir, LADANEYA_VERSION, nullptr});
+  } catch (const std::exception& e) {
+    std::fprintf(stderr, "cannot open the installation in %s: %s\n", o.dataDir.c_str(), e.what());
+    return 1;
+  }
+  server::HttpServer http(*installation, {o.host, o.port, o.webDir, o.imagesDir});
+  std::string error;
+  const int port = http.bind(&error);
+  if (port < 0) {
+    std::fprintf(stderr, "%s\n", error.c_str());
+    return 1;
+  }
+  std::printf("serving http://%s:%d (data in %s)\n", o.host.c_str(), port, o.dataDir.c_str());
+  std::fflush(stdout);
+  std::atomic<bool> done = false;
+  std::thread waiter = signalWaiter(stopSignals, http, done);
+  http.run();
+  done = true;
+  waiter.join();
+  installation->shutdown();
+  return 0;
+}
+
+}  // namespace lad::app

@@ -1,0 +1,16 @@
+// Base64 of raw bytes, for bytes that travel inside JSON.
+#pragma once
+
+#include <optional>
+#include <string>
+#include <string_view>
+
+#include "core/value.h"
+
+namespace lad {
+
+std::string base64Encode(const Bytes& bytes);
+// Standard alphabet with padding; nullopt for anything else.
+std::optional<Bytes> base64Decode(std::string_view text);
+
+}  // namespace lad

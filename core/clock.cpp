@@ -1,0 +1,50 @@
+#include "core/clock.h"
+
+#include <stdexcept>
+
+#include <unicode/timezone.h>
+
+namespace lad {
+
+namespace {
+
+std::unique_ptr<icu::TimeZone> openZone(const std::string& name) {
+  std::unique_ptr<icu::TimeZone> tz(
+      icu::TimeZone::createTimeZone(icu::UnicodeString::fromUTF8(name)));
+  icu::UnicodeString id, unknown;
+  tz->getID(id);
+  icu::TimeZone::getUnknown().getID(unknown);
+  if (id == unknown) throw std::invalid_argument("unknown time zone: " + name);
+  return tz;
+}
+
+}  // namespace
+
+Clock::Clock(const std::string& zone) : zone_(zone), tz_(openZone(zone)) {}
+
+Clock::~Clock() = default;
+
+Date Clock::now() const {
+  return std::chrono::time_point_cast<std::chrono::milliseconds>(
+      std::chrono::system_clock::now());
+}
+
+int Clock::utcOffsetSeconds(Date at) const {
+  int32_t raw = 0, dst = 0;
+  UErrorCode status = U_ZERO_ERROR;
+  tz_->getOffset(static_cast<UDate>(at.time_since_epoch().count()), false, raw, dst, status);
+  if (U_FAILURE(status)) return 0;
+  return (raw + dst) / 1000;
+}
+
+std::string Clock::hostZone() {
+  std::unique_ptr<icu::TimeZone> tz(icu::TimeZone::detectHostTimeZone());
+  icu::UnicodeString id;
+  tz->getID(id);
+  std::string name;
+  id.toUTF8String(name);
+  if (name.empty() || name == "Etc/Unknown") return "UTC";
+  return name;
+}
+
+}  // namespace lad

@@ -1,0 +1,57 @@
+// Messages that the main thread pushes to open browsers as server-sent events.
+#pragma once
+
+#include <chrono>
+#include <condition_variable>
+#include <deque>
+#include <memory>
+#include <mutex>
+#include <optional>
+#include <string>
+#include <vector>
+
+namespace lad::server {
+
+struct PushMessage {
+  std::string event;  // "refresh", "notice"
+  std::string data;   // JSON text
+};
+
+// One open event stream of one browser session.
+class Subscriber {
+ public:
+  explicit Subscriber(std::string session) : session_(std::move(session)) {}
+  const std::string& session() const { return session_; }
+
+  // The next message, or nullopt after the timeout or once the hub has closed.
+  std::optional<PushMessage> next(std::chrono::milliseconds timeout);
+  bool closed() const;
+
+ private:
+  friend class EventHub;
+  void push(const PushMessage& m);
+  void close();
+
+  const std::string session_;
+  mutable std::mutex mutex_;
+  std::condition_variable wake_;
+  std::deque<PushMessage> queue_;
+  bool closed_ = false;
+};
+
+class EventHub {
+ public:
+  std::shared_ptr<Subscriber> subscribe(const std::string& session);
+  void unsubscribe(const std::shared_ptr<Subscriber>& s);
+  // To every subscriber except those of exceptSession (empty: to all).
+  void publish(const PushMessage& m, const std::string& exceptSession = {});
+  // Ends every stream, now and for later subscribers.
+  void close();
+
+ private:
+  std::mutex mutex_;
+  std::vector<std::shared_ptr<Subscriber>> subscribers_;
+  bool closed_ = false;
+};
+
+}  // namespace lad::server

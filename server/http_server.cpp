@@ -1,0 +1,177 @@
+// The only translation unit that sees the HTTP library.
+#include "server/http_server.h"
+
+#include <httplib.h>
+
+#include <cerrno>
+#include <cstdio>
+#include <cstring>
+
+namespace lad::server {
+
+namespace {
+
+using namespace std::chrono_literals;
+
+constexpr char kSessionCookie[] = "lsid";
+constexpr auto kKeepAlivePeriod = 10s;
+constexpr std::size_t kHandlerThreads = 48;  // event streams each hold one
+
+std::string cookieValue(const httplib::Request& req, const std::string& name) {
+  const std::string cookies = req.get_header_value("Cookie");
+  std::size_t pos = 0;
+  while (pos < cookies.size()) {
+    std::size_t end = cookies.find(';', pos);
+    if (end == std::string::npos) end = cookies.size();
+    std::string part = cookies.substr(pos, end - pos);
+    part.erase(0, part.find_first_not_of(' '));
+    if (part.starts_with(name + "=")) return part.substr(name.size() + 1);
+    pos = end + 1;
+  }
+  return {};
+}
+
+void sendJson(httplib::Response& res, const Reply& reply) {
+  res.status = reply.status;
+  res.set_header("Cache-Control", "no-store");
+  if (reply.newSession)
+    res.set_header("Set-Cookie", std::string(kSessionCookie) + "=" + reply.session +
+                                     "; Path=/; HttpOnly; SameSite=Strict");
+  res.set_content(reply.body, "application/json");
+}
+
+void sendError(httplib::Response& res, int status, const std::string& message) {
+  Map m;
+  m.set("error", message);
+  Reply reply;
+  reply.status = status;
+  reply.body = Value(std::move(m)).toJson();
+  sendJson(res, reply);
+}
+
+// State-changing requests must come from the app's own pages, as JSON.
+std::string crossOriginProblem(const httplib::Request& req) {
+  const std::string origin = req.get_header_value("Origin");
+  const std::string host = req.get_header_value("Host");
+  if (!origin.empty() && origin != "http://" + host && origin != "https://" + host)
+    return "requests from other sites are refused";
+  const std::string site = req.get_header_value("Sec-Fetch-Site");
+  if (!site.empty() && site != "same-origin" && site != "none")
+    return "requests from other sites are refused";
+  return {};
+}
+
+std::string sseChunk(const PushMessage& m) {
+  return "event: " + m.event + "\ndata: " + m.data + "\n\n";
+}
+
+}  // namespace
+
+struct HttpServer::Impl {
+  Installation& installation;
+  HttpOptions options;
+  httplib::Server http;
+
+  Impl(Installation& i, HttpOptions o) : installation(i), options(std::move(o)) {
+    http.new_task_queue = [] { return new httplib::ThreadPool(kHandlerThreads); };
+    http.set_payload_max_length(options.maxBodyBytes);
+    http.set_default_headers({{"X-Content-Type-Options", "nosniff"},
+                              {"Referrer-Policy", "no-referrer"},
+                              {"X-Frame-Options", "DENY"}});
+    if (options.logRequests)
+      http.set_logger([](const httplib::Request& req, const httplib::Response& res) {
+        std::fprintf(stderr, "%s %s %d\n", req.method.c_str(), req.path.c_str(), res.status);
+      });
+    http.set_error_handler([](const httplib::Request& req, httplib::Response& res) {
+      if (!res.body.empty()) return;
+      if (res.status == 413)
+        sendError(res, 413, "the request is larger than this server takes");
+      else if (res.status == 404 && req.path.starts_with("/api/"))
+        sendError(res, res.status, "no such endpoint: " + req.method + " " + req.path);
+    });
+    http.set_exception_handler(
+        [](const httplib::Request&, httplib::Response& res, std::exception_ptr e) {
+          std::string what = "internal error";
+          try {
+            if (e) std::rethrow_exception(e);
+          } catch (const std::exception& ex) {
+            what = ex.what();
+          }
+          sendError(res, 503, what);
+        });
+    routeApi();
+    mountStatic();
+  }
+
+  void routeApi() {
+    http.Get("/api/view", [this](const httplib::Request& req, httplib::Response& res) {
+      sendJson(res, installation.view(cookieValue(req, kSessionCookie)));
+    });
+    http.Post("/api/event", [this](const httplib::Request& req, httplib::Response& res) {
+      if (auto problem = crossOriginProblem(req); !problem.empty())
+        return sendError(res, 403, problem);
+      if (!req.get_header_value("Content-Type").starts_with("application/json"))
+        return sendError(res, 415, "an event must be sent as application/json");
+      sendJson(res, installation.event(cookieValue(req, kSessionCookie), req.body));
+    });
+    http.Get("/api/events", [this](const httplib::Request& req, httplib::Response& res) {
+      streamEvents(req, res);
+    });
+  }
+
+  void streamEvents(const httplib::Request& req, httplib::Response& res) {
+    Reply reply = installation.openStream(cookieValue(req, kSessionCookie));
+    sendJson(res, reply);
+    auto subscriber = installation.hub().subscribe(reply.session);
+    EventHub& hub = installation.hub();
+    res.set_chunked_content_provider(
+        "text/event-stream",
+        [subscriber](std::size_t offset, httplib::DataSink& sink) {
+          if (offset == 0) {
+            const std::string hello = "retry: 2000\n\n";
+            return sink.write(hello.data(), hello.size());
+          }
+          auto message = subscriber->next(kKeepAlivePeriod);
+          if (subscriber->closed()) {
+            sink.done();
+            return true;
+          }
+          const std::string chunk = message ? sseChunk(*message) : ": keep-alive\n\n";
+          return sink.write(chunk.data(), chunk.size());
+        },
+        [&hub, subscriber](bool) { hub.unsubscribe(subscriber); });
+  }
+
+  void mountStatic() {
+    const httplib::Headers noCache{{"Cache-Control", "no-cache"}};
+    if (!options.imagesDir.empty()) http.set_mount_point("/img", options.imagesDir, noCache);
+    if (!options.webDir.empty()) http.set_mount_point("/", options.webDir, noCache);
+  }
+};
+
+HttpServer::HttpServer(Installation& installation, HttpOptions options)
+    : impl_(std::make_unique<Impl>(installation, std::move(options))) {}
+
+HttpServer::~HttpServer() { stop(); }
+
+int HttpServer::bind(std::string* error) {
+  const auto& o = impl_->options;
+  int port = o.port;
+  if (port == 0)
+    port = impl_->http.bind_to_any_port(o.host);
+  else if (!impl_->http.bind_to_port(o.host, port))
+    port = -1;
+  if (port < 0 && error)
+    *error = "cannot listen on " + o.host + ":" + std::to_string(o.port) + " (" +
+             std::strerror(errno) + ")";
+  return port;
+}
+
+void HttpServer::run() { impl_->http.listen_after_bind(); }
+
+void HttpServer::stop() {
+  impl_->installation.hub().close();
+  impl_->http.stop();
+}
+
+}  // namespace lad::server

@@ -1,0 +1,118 @@
+#include "server/installation.h"
+
+#include <cstdio>
+
+#include "core/ids.h"
+#include "core/launch.h"
+
+namespace lad::server {
+
+namespace {
+
+constexpr std::size_t kMaxSessions = 256;
+
+std::string errorBody(const std::string& message) {
+  Map m;
+  m.set("error", message);
+  return Value(std::move(m)).toJson();
+}
+
+std::string viewBody(shell::Session& s) {
+  Map m;
+  m.set("view", s.view());
+  return Value(std::move(m)).toJson();
+}
+
+const PushMessage kRefresh{"refresh", "{}"};
+
+}  // namespace
+
+Installation::Installation(ContextOptions options) {
+  loop_.call([&] {
+    context_ = std::make_unique<Context>(std::move(options));
+    if (!context_->settings().loadProblem().empty())
+      std::fprintf(stderr, "%s\n", context_->settings().loadProblem().c_str());
+    launch(*context_);
+  });
+}
+
+Installation::~Installation() { shutdown(); }
+
+void Installation::shutdown() {
+  if (shutDown_) return;
+  shutDown_ = true;
+  hub_.close();
+  loop_.post([this] {
+    std::string error;
+    if (!context_->settings().synchronize(&error))
+      std::fprintf(stderr, "settings not written: %s\n", error.c_str());
+  });
+  loop_.stop();
+}
+
+shell::Session& Installation::sessionFor(const std::string& id, Reply& reply) {
+  auto it = sessions_.find(id);
+  if (it == sessions_.end()) {
+    if (sessions_.size() >= kMaxSessions) evictOldestSession();
+    it = sessions_.emplace(newID(), SessionEntry{std::make_unique<shell::Session>(*context_)})
+             .first;
+    reply.newSession = true;
+  }
+  it->second.lastUse = ++useCounter_;
+  reply.session = it->first;
+  return *it->second.session;
+}
+
+void Installation::evictOldestSession() {
+  auto oldest = sessions_.begin();
+  for (auto it = sessions_.begin(); it != sessions_.end(); ++it)
+    if (it->second.lastUse < oldest->second.lastUse) oldest = it;
+  sessions_.erase(oldest);
+}
+
+Reply Installation::view(const std::string& session) {
+  return loop_.call([&] {
+    Reply reply;
+    reply.body = viewBody(sessionFor(session, reply));
+    return reply;
+  });
+}
+
+Reply Installation::openStream(const std::string& session) {
+  return loop_.call([&] {
+    Reply reply;
+    sessionFor(session, reply);
+    return reply;
+  });
+}
+
+Reply Installation::event(const std::string& session, std::string_view body) {
+  std::string parseError;
+  auto parsed = Value::fromJson(body, &parseError);
+  return loop_.call([&] {
+    Reply reply;
+    shell::Session& s = sessionFor(session, reply);
+    if (!parsed) {
+      reply.status = 400;
+      reply.body = errorBody("the event is not valid JSON: " + parseError);
+      return reply;
+    }
+    shell::EventResult result = s.handle(*parsed);
+    if (!result.ok()) {
+      reply.status = 400;
+      reply.body = errorBody(result.error);
+      return reply;
+    }
+    afterEvent(result, reply.session);
+    reply.body = viewBody(s);
+    return reply;
+  });
+}
+
+void Installation::afterEvent(const shell::EventResult& result, const std::string& session) {
+  if (result.installationChanged) hub_.publish(kRefresh, session);
+  if (result.redrawAfter.count() > 0)
+    loop_.addTimer(result.redrawAfter, [this] { hub_.publish(kRefresh); });
+}
+
+}  // namespace lad::server

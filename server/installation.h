@@ -1,0 +1,64 @@
+// One running installation behind the HTTP server: its context and browser sessions live on the
+// main loop; HTTP handler threads reach them only through the calls below.
+#pragma once
+
+#include <memory>
+#include <string>
+#include <string_view>
+#include <unordered_map>
+
+#include "core/context.h"
+#include "server/event_hub.h"
+#include "server/main_loop.h"
+#include "shell/session.h"
+
+namespace lad::server {
+
+struct Reply {
+  int status = 200;
+  std::string body;     // JSON
+  std::string session;  // the session the request ran in
+  bool newSession = false;
+};
+
+class Installation {
+ public:
+  // Opens the installation and runs its launch on the main loop.
+  explicit Installation(ContextOptions options);
+  ~Installation();
+
+  Reply view(const std::string& session);
+  Reply event(const std::string& session, std::string_view body);
+  // The session to attach an event stream to (made if unknown).
+  Reply openStream(const std::string& session);
+
+  EventHub& hub() { return hub_; }
+  MainLoop& loop() { return loop_; }
+  // Ends every event stream, runs what is queued, and writes the settings. Idempotent.
+  void shutdown();
+
+  // Runs f with the context on the main loop (for tools and tests).
+  template <class F>
+  auto withContext(F f) {
+    return loop_.call([&] { return f(*context_); });
+  }
+
+ private:
+  struct SessionEntry {
+    std::unique_ptr<shell::Session> session;
+    std::uint64_t lastUse = 0;
+  };
+  // Main loop only.
+  shell::Session& sessionFor(const std::string& id, Reply& reply);
+  void evictOldestSession();
+  void afterEvent(const shell::EventResult& result, const std::string& session);
+
+  MainLoop loop_;
+  EventHub hub_;
+  std::unique_ptr<Context> context_;
+  std::unordered_map<std::string, SessionEntry> sessions_;
+  std::uint64_t useCounter_ = 0;
+  bool shutDown_ = false;
+};
+
+}  // namespace lad::server

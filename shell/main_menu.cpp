@@ -1,0 +1,115 @@
+#include "shell/main_menu.h"
+
+#include <charconv>
+
+#include "core/menu_table.h"
+#include "shell/view.h"
+
+namespace lad::shell {
+
+namespace {
+
+using namespace std::chrono_literals;
+
+constexpr std::string_view kTargetPrefix = "menu:";
+constexpr std::size_t kDiaryPage = 8;
+
+// A menu switch and the setting behind it. A switch with a shared value keeps it in step;
+// an inverted one stores the opposite of what it shows.
+struct SwitchSetting {
+  int id;
+  const char* key;
+  bool ProcessValues::*shared;
+  bool inverted;
+  bool built;  // its effect exists in this build
+};
+
+const SwitchSetting kSwitches[] = {
+    {51, "emptyNote", nullptr, false, true},
+    {52, "pass", nullptr, false, false},
+    {53, "accStop", &ProcessValues::accStop, true, true},
+    {54, "pillsAlarm", &ProcessValues::pillsAlarm, false, false},
+    {55, "chatIndi", &ProcessValues::chatIndi, false, true},
+    {56, "showRec", &ProcessValues::showRec, false, true},
+};
+
+const SwitchSetting* switchFor(int id) {
+  for (const auto& s : kSwitches)
+    if (s.id == id) return &s;
+  return nullptr;
+}
+
+bool storedState(const Context& context, const SwitchSetting& s) {
+  if (s.shared) return context.values().*s.shared;
+  return context.settings().boolForKey(s.key);
+}
+
+bool switchShows(const Context& context, const SwitchSetting& s) {
+  return storedState(context, s) != s.inverted;
+}
+
+std::optional<int> parseTarget(std::string_view target) {
+  if (!target.starts_with(kTargetPrefix)) return std::nullopt;
+  target.remove_prefix(kTargetPrefix.size());
+  int id = 0;
+  auto [end, ec] = std::from_chars(target.data(), target.data() + target.size(), id);
+  if (ec != std::errc() || end != target.data() + target.size()) return std::nullopt;
+  return id;
+}
+
+RowView rowOf(const Value& item) {
+  const int id = static_cast<int>(item["id"].intValue());
+  const SwitchSetting* sw = switchFor(id);
+  RowView row;
+  row.id = menuTarget(id);
+  row.icon = item["pic"].text();
+  row.caption = item["name"].text();
+  row.comment = item["comment"].text();
+  if (item["hint"].intValue() > 0) row.badge = item["hint"].text();
+  row.enabled = sw && sw->built;
+  if (item["tp"].intValue() == kMenuSwitch) row.checked = item["checked"].boolValue();
+  return row;
+}
+
+}  // namespace
+
+std::string menuTarget(int id) { return std::string(kTargetPrefix) + std::to_string(id); }
+
+void MainMenu::updateMenu() {
+  for (const auto& s : kSwitches)
+    menuItemCheck(context_.values().tabMenu, s.id, switchShows(context_, s));
+}
+
+Value MainMenu::view() {
+  updateMenu();
+  List rows;
+  for (const Value& item : context_.values().tabMenu) rows.push_back(rowOf(item).toValue());
+  List children;
+  children.push_back(listView(std::move(rows)));
+  return pageView(context_.translate(context_.edition().caption), std::move(children));
+}
+
+EventResult MainMenu::tap(std::string_view target) {
+  auto id = parseTarget(target);
+  if (!id || !menuRow(context_.values().tabMenu, *id))
+    return EventResult::refused("no menu item " + std::string(target));
+  const SwitchSetting* sw = switchFor(*id);
+  if (!sw || !sw->built) return EventResult::refused("menu item " + std::string(target) +
+                                                     " is not available in this version");
+  return toggleSwitch(*id);
+}
+
+EventResult MainMenu::toggleSwitch(int id) {
+  const SwitchSetting& s = *switchFor(id);
+  const bool stored = !storedState(context_, s);
+  if (s.shared) context_.values().*s.shared = stored;
+  context_.settings().set(s.key, stored);
+  context_.settings().synchronize();
+  EventResult result;
+  result.installationChanged = true;
+  if (id == 51) context_.values().pageDirty[kDiaryPage] = 1;
+  if (id == 55) result.redrawAfter = 1s;
+  return result;
+}
+
+}  // namespace lad::shell

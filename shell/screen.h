@@ -1,0 +1,30 @@
+// A screen controller: describes what the browser shows and takes the user's gestures.
+#pragma once
+
+#include <chrono>
+#include <string>
+#include <string_view>
+
+#include "core/value.h"
+
+namespace lad::shell {
+
+struct EventResult {
+  std::string error;  // non-empty: the event was refused, nothing changed
+  // The installation's data or settings changed: other browsers must redraw.
+  bool installationChanged = false;
+  // Every browser redraws once more after this delay (zero: no later redraw).
+  std::chrono::milliseconds redrawAfter{0};
+
+  bool ok() const { return error.empty(); }
+  static EventResult refused(std::string why) { return {std::move(why)}; }
+};
+
+class Screen {
+ public:
+  virtual ~Screen() = default;
+  virtual Value view() = 0;
+  virtual EventResult tap(std::string_view target) = 0;
+};
+
+}  // namespace lad::shell

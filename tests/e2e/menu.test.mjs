@@ -1,0 +1,304 @@
+// Browser test of the main menu against the real server, in headless Chromium.
+//   node tests/e2e/menu.test.mjs --server PATH_TO_SERVER --out SCREENSHOT_DIR
+import assert from 'node:assert/strict';
+import { spawn } from 'node:child_process';
+import fs from 'node:fs';
+import net from 'node:net';
+import os from 'node:os';
+import path from 'node:path';
+import { parseArgs } from 'node:util';
+import { chromium } from 'playwright-core';
+
+const PREGNANCY_MENU = [
+  'Сегодня',
+  'Расписание на день',
+  'Графики ребенка',
+  'Развитие ребенка',
+  'Женщина',
+  'Схватки',
+  'К доктору',
+  'Беременность в 3D',
+  'Хронология',
+  'Дневник',
+];
+const NOT_BUILT_ROW = 'menu:1';
+const SWITCH_ROW = 'menu:51';
+const SWITCH_TEXT = 'Не показывать в дневнике пустые дни';
+const SWITCH = `[data-id="${SWITCH_ROW}"] .switch`;
+const CHROMIUM_ARGS = [
+  '--headless',
+  '--no-sandbox',
+  '--disable-gpu',
+  '--disable-background-networking',
+  '--disable-component-update',
+  '--disable-sync',
+  '--no-first-run',
+  '--disable-quic',
+];
+const START_TIMEOUT_MS = 20000;
+const STOP_TIMEOUT_MS = 10000;
+const STEP_TIMEOUT_MS = 10000;
+
+/** A running server process with its output kept for failure reports. */
+function startServer(executable, dataDir, port) {
+  const child = spawn(executable, ['serve', '--data', dataDir, '--listen', `127.0.0.1:${port}`], {
+    stdio: ['ignore', 'pipe', 'pipe'],
+  });
+  const server = { child, log: '', exit: null };
+  const keep = (chunk) => (server.log = (server.log + chunk).slice(-8000));
+  child.stdout.on('data', keep);
+  child.stderr.on('data', keep);
+  server.exited = new Promise((resolve) => {
+    child.on('error', (error) => {
+      server.exit = { error };
+      resolve(server.exit);
+    });
+    child.on('exit', (code, signal) => {
+      server.exit = { code, signal };
+      resolve(server.exit);
+    });
+  });
+  return server;
+}
+
+function freePort() {
+  return new Promise((resolve, reject) => {
+    const probe = net.createServer();
+    probe.on('error', reject);
+    probe.listen(0, '127.0.0.1', () => {
+      const { port } = probe.address();
+      probe.close(() => resolve(port));
+    });
+  });
+}
+
+const sleep = (ms) => new Promise((resolve) => setTimeout(resolve, ms));
+
+function describeExit(exit) {
+  return exit.error ? `failed to start: ${exit.error.message}` : `exited (code ${exit.code}, signal ${exit.signal})`;
+}
+
+async function waitUntilServing(server, base) {
+  const deadline = Date.now() + START_TIMEOUT_MS;
+  while (Date.now() < deadline) {
+    if (server.exit) throw new Error(`server ${describeExit(server.exit)} before answering`);
+    const status = await fetch(`${base}/api/view`).then((r) => r.status, () => 0);
+    if (status === 200) return;
+    await sleep(100);
+  }
+  throw new Error(`GET /api/view did not answer 200 within ${START_TIMEOUT_MS / 1000} s`);
+}
+
+async function checkManifest(base) {
+  const response = await fetch(`${base}/manifest.webmanifest`);
+  assert.equal(response.status, 200, 'GET /manifest.webmanifest');
+  const manifest = JSON.parse(await response.text());
+  assert.equal(manifest.start_url, '/', 'manifest start_url');
+  const shortcuts = manifest.shortcuts.map((s) => new URL(s.url, base).searchParams.get('shortcut'));
+  assert.deepEqual(shortcuts, ['SCHVATKI', 'NEWNOTE'], 'manifest shortcuts in order');
+  for (const icon of manifest.icons) {
+    const status = (await fetch(new URL(icon.src, base))).status;
+    assert.equal(status, 200, `manifest icon ${icon.src}`);
+  }
+}
+
+async function checkMalformedEvent(base) {
+  const response = await fetch(`${base}/api/event`, {
+    method: 'POST',
+    headers: { 'Content-Type': 'application/json' },
+    body: '{"type": "tap", "target":',
+  });
+  assert.equal(response.status, 400, 'POST /api/event with malformed JSON');
+  const body = JSON.parse(await response.text());
+  assert.equal(typeof body.error, 'string', 'the 400 answer carries a JSON "error" string');
+  assert.ok(body.error.length > 0, 'the "error" message is not empty');
+}
+
+/** Opens the app in a new tab; uncaught page errors are collected into `errors`. */
+async function openApp(context, base, errors) {
+  const page = await context.newPage();
+  page.setDefaultTimeout(STEP_TIMEOUT_MS);
+  page.on('pageerror', (error) => errors.push(error.message));
+  const listening = waitForPushChannel(page);
+  await page.goto(`${base}/`);
+  await page.waitForSelector('.row[data-id]');
+  await listening;
+  return page;
+}
+
+/** Resolves once the page's server-sent event stream has been answered. */
+function waitForPushChannel(page) {
+  return page.waitForResponse((r) => new URL(r.url()).pathname === '/api/events' && r.status() === 200);
+}
+
+function rowText(node) {
+  return node.caption || node.comment || '';
+}
+
+function rowsOf(node) {
+  if (node.kind === 'row') return [node];
+  return (node.rows ?? node.children ?? []).flatMap(rowsOf);
+}
+
+async function checkMenuRows(page) {
+  const view = await page.evaluate(() => fetch('/api/view').then((r) => r.json()).then((b) => b.view));
+  const expected = rowsOf(view).map((row) => ({ id: row.id, text: rowText(row), enabled: row.enabled }));
+  const drawn = await page.$$eval('.row', (rows) =>
+    rows.map((row) => ({
+      id: row.dataset.id,
+      text: row.querySelector('.caption')?.textContent ?? '',
+      enabled: !row.classList.contains('disabled') && row.getAttribute('aria-disabled') !== 'true',
+    })),
+  );
+  assert.deepEqual(drawn, expected, 'rows drawn as the server described them');
+  assert.deepEqual(drawn.slice(0, PREGNANCY_MENU.length).map((r) => r.text), PREGNANCY_MENU, 'menu rows');
+  assert.equal(await page.textContent('.page-title'), view.title, 'page title from the server');
+  assert.equal(view.title, 'Ладанея', 'page title');
+
+  const notBuilt = drawn.find((row) => row.id === NOT_BUILT_ROW);
+  assert.ok(notBuilt && !notBuilt.enabled, `${NOT_BUILT_ROW} is drawn disabled`);
+  const switchRow = drawn.find((row) => row.id === SWITCH_ROW);
+  assert.equal(switchRow?.text, SWITCH_TEXT, `${SWITCH_ROW} text`);
+  assert.ok(switchRow.enabled, `${SWITCH_ROW} is enabled`);
+
+  const heights = await page.$$eval('.row', (rows) => rows.map((row) => row.getBoundingClientRect().height));
+  assert.ok(Math.min(...heights) >= 48, `rows are at least 48px tall (smallest ${Math.min(...heights)})`);
+}
+
+async function checkDisabledTapSendsNothing(page) {
+  const sent = [];
+  const record = (request) => request.url().endsWith('/api/event') && sent.push(request.postData());
+  page.on('request', record);
+  await page.tap(`[data-id="${NOT_BUILT_ROW}"]`);
+  await sleep(500);
+  page.off('request', record);
+  assert.deepEqual(sent, [], `tapping disabled ${NOT_BUILT_ROW} sends no event`);
+}
+
+async function checkFont(page) {
+  const font = await page.evaluate(async () => {
+    await document.fonts.ready;
+    const faces = [...document.fonts].filter((f) => f.family.replace(/["']/g, '') === 'DejaVu Sans');
+    return {
+      family: getComputedStyle(document.querySelector('.row .caption')).fontFamily,
+      check: document.fonts.check('16px "DejaVu Sans"'),
+      regular: faces.find((f) => f.weight === '400' || f.weight === 'normal')?.status,
+    };
+  });
+  assert.match(font.family, /^["']?DejaVu Sans["']?(,|$)/, 'rows use DejaVu Sans first');
+  assert.ok(font.check, 'document.fonts.check for DejaVu Sans');
+  assert.equal(font.regular, 'loaded', 'the DejaVu Sans font file was loaded');
+}
+
+async function checkIcons(page) {
+  // Every row picture either shows or, when it cannot be loaded, is hidden.
+  await page.waitForFunction(() =>
+    [...document.querySelectorAll('img.icon')].every(
+      (img) => img.complete && (img.naturalWidth > 0 || img.classList.contains('broken')),
+    ),
+  );
+}
+
+async function waitForSwitch(page, checked, why) {
+  const selector = `${SWITCH}[role="switch"][aria-checked="${checked}"]`;
+  await page.waitForSelector(selector).catch(() => {
+    throw new Error(`${why}: ${SWITCH_ROW} did not become ${checked ? 'checked' : 'unchecked'}`);
+  });
+}
+
+async function checkServiceWorker(page) {
+  const active = await page.evaluate(() =>
+    Promise.race([
+      navigator.serviceWorker.ready.then((r) => r.active !== null),
+      new Promise((resolve) => setTimeout(() => resolve(false), 5000)),
+    ]),
+  );
+  assert.ok(active, 'the service worker /sw.js becomes active');
+}
+
+async function checkInBrowser(browser, base, outDir) {
+  const context = await browser.newContext({
+    viewport: { width: 390, height: 844 },
+    isMobile: true,
+    hasTouch: true,
+    deviceScaleFactor: 2,
+  });
+  const errors = [];
+  const page = await openApp(context, base, errors);
+  await checkMenuRows(page);
+  await checkFont(page);
+  await checkIcons(page);
+  await checkDisabledTapSendsNothing(page);
+  await checkServiceWorker(page);
+
+  await waitForSwitch(page, false, 'fresh data');
+  await page.tap(`[data-id="${SWITCH_ROW}"]`);
+  await waitForSwitch(page, true, 'after a tap');
+
+  const relistening = waitForPushChannel(page);
+  await page.reload();
+  await relistening;
+  await waitForSwitch(page, true, 'after reload');
+
+  const other = await openApp(context, base, errors);
+  await waitForSwitch(other, true, 'second tab');
+  const refetched = page.waitForRequest((r) => new URL(r.url()).pathname === '/api/view');
+  await other.tap(`[data-id="${SWITCH_ROW}"]`);
+  await waitForSwitch(other, false, 'second tab after its tap');
+  await refetched.catch(() => {
+    throw new Error('first tab did not fetch /api/view after a refresh event');
+  });
+  await waitForSwitch(page, false, 'first tab after the second tab tapped');
+
+  await page.screenshot({ path: path.join(outDir, 'menu.png'), fullPage: true });
+  assert.deepEqual(errors, [], 'no uncaught errors in the page');
+}
+
+async function stopServer(server) {
+  server.child.kill('SIGTERM');
+  const exit = await Promise.race([server.exited, sleep(STOP_TIMEOUT_MS).then(() => null)]);
+  if (!exit) throw new Error(`server still running ${STOP_TIMEOUT_MS / 1000} s after SIGTERM`);
+  assert.deepEqual(exit, { code: 0, signal: null }, 'server exit after SIGTERM');
+}
+
+async function main() {
+  const { values } = parseArgs({ options: { server: { type: 'string' }, out: { type: 'string' } } });
+  if (!values.server || !values.out) {
+    console.error('usage: node tests/e2e/menu.test.mjs --server PATH --out DIR');
+    process.exit(2);
+  }
+  fs.mkdirSync(values.out, { recursive: true });
+  const dataDir = fs.mkdtempSync(path.join(os.tmpdir(), 'ladaneya-e2e-'));
+  let server = null;
+  let browser = null;
+  const cleanup = () => {
+    if (server && !server.exit) server.child.kill('SIGKILL');
+    fs.rmSync(dataDir, { recursive: true, force: true });
+  };
+  process.once('SIGINT', () => {
+    cleanup();
+    process.exit(130);
+  });
+  try {
+    const port = await freePort();
+    const base = `http://127.0.0.1:${port}`;
+    server = startServer(path.resolve(values.server), dataDir, port);
+    await waitUntilServing(server, base);
+    await checkManifest(base);
+    await checkMalformedEvent(base);
+    browser = await chromium.launch({ executablePath: '/usr/bin/chromium', args: CHROMIUM_ARGS });
+    await checkInBrowser(browser, base, values.out);
+    await stopServer(server);
+    console.log('menu: 1 passed, 0 failed');
+  } catch (error) {
+    console.error(`menu: FAILED: ${error.message}`);
+    if (server?.log) console.error(`--- server output (last part) ---\n${server.log}`);
+    console.log('menu: 0 passed, 1 failed');
+    process.exitCode = 1;
+  } finally {
+    await browser?.close().catch(() => {});
+    cleanup();
+  }
+}
+
+await main();

@@ -1,0 +1,94 @@
+// Entry point: loads the view, sends the user's taps, follows the server's pushes.
+// When the server cannot be reached the last view stays up and loading is retried quietly.
+import { fetchView, RefusedError, sendEvent } from './api.js';
+import { listen } from './events.js';
+import { showNotice } from './notice.js';
+import { show } from './screen.js';
+import type { ViewNode } from './view.js';
+import { onViewportChange, viewportEvent } from './viewport.js';
+
+const RETRY_FIRST_MS = 1000;
+const RETRY_MAX_MS = 30000;
+
+const root = document.getElementById('app') ?? document.body;
+let newest = 0; // number of the newest request; answers to older ones are dropped
+let viewportSent = false;
+let tapping = false;
+let listening = false;
+let retryDelay = RETRY_FIRST_MS;
+let retryTimer: number | undefined;
+
+/** Runs a request whose answer is a view and shows it. Resolves to whether the server answered. */
+async function request(load: () => Promise<ViewNode>): Promise<boolean> {
+  const ticket = ++newest;
+  try {
+    const view = await load();
+    if (ticket === newest) show(root, view);
+    retryDelay = RETRY_FIRST_MS;
+    startListening();
+    return true;
+  } catch (error) {
+    if (error instanceof RefusedError) console.warn(error.message);
+    else retryLater();
+    return false;
+  }
+}
+
+/** Brings the screen up to date with the server, telling it the viewport size if it lacks it. */
+async function sync(): Promise<void> {
+  if ((await request(fetchView)) && !viewportSent) {
+    viewportSent = await request(() => sendEvent(viewportEvent()));
+  }
+}
+
+function retryLater(): void {
+  if (retryTimer !== undefined) return;
+  retryTimer = window.setTimeout(() => {
+    retryTimer = undefined;
+    void sync();
+  }, retryDelay);
+  retryDelay = Math.min(retryDelay * 2, RETRY_MAX_MS);
+}
+
+// The push channel opens only once a request has succeeded, so that it joins the session
+// cookie the server set rather than starting a session of its own.
+function startListening(): void {
+  if (listening) return;
+  listening = true;
+  listen({ refresh: () => void request(fetchView), notice: showNotice, reconnected: () => void sync() });
+}
+
+async function tap(row: HTMLElement): Promise<void> {
+  const id = row.dataset.id;
+  if (tapping || id === undefined || row.classList.contains('disabled')) return;
+  tapping = true;
+  root.classList.add('busy');
+  try {
+    await request(() => sendEvent({ type: 'tap', target: id }));
+  } finally {
+    tapping = false;
+    root.classList.remove('busy');
+  }
+}
+
+function rowOf(target: EventTarget | null): HTMLElement | null {
+  return target instanceof Element ? target.closest<HTMLElement>('.row') : null;
+}
+
+root.addEventListener('click', (event) => {
+  const row = rowOf(event.target);
+  if (row) void tap(row);
+});
+root.addEventListener('keydown', (event) => {
+  const row = rowOf(event.target);
+  if (row && (event.key === 'Enter' || event.key === ' ')) {
+    event.preventDefault();
+    void tap(row);
+  }
+});
+onViewportChange(() => {
+  viewportSent = false;
+  void sync();
+});
+window.addEventListener('online', () => void sync());
+void sync();

@@ -1,0 +1,86 @@
+// Turns a view description into DOM. All text shown comes from the description itself.
+import { element } from './dom.js';
+import type { ListNode, PageNode, RowNode, ViewNode } from './view.js';
+
+export function render(node: ViewNode): HTMLElement | null {
+  switch (node.kind) {
+    case 'page':
+      return renderPage(node);
+    case 'list':
+      return renderList(node);
+    case 'section':
+      return element('h2', 'section', node.caption);
+    case 'row':
+      return renderRow(node);
+    default:
+      return null; // kinds this build does not know are skipped
+  }
+}
+
+function renderPage(node: PageNode): HTMLElement {
+  const page = element('div', 'page');
+  const header = element('header', 'page-header');
+  header.append(element('h1', 'page-title', node.title));
+  const body = element('main', 'page-body');
+  body.append(...renderAll(node.children));
+  page.append(header, body);
+  return page;
+}
+
+function renderList(node: ListNode): HTMLElement {
+  const list = element('div', 'list');
+  list.setAttribute('role', 'list');
+  list.append(...renderAll(node.rows));
+  return list;
+}
+
+function renderAll(nodes: readonly ViewNode[]): HTMLElement[] {
+  return nodes.map(render).filter((child): child is HTMLElement => child !== null);
+}
+
+function renderRow(node: RowNode): HTMLElement {
+  const row = element('div', 'row');
+  row.dataset.id = node.id;
+  row.setAttribute('role', 'listitem');
+  if (node.icon) row.append(renderIcon(node.icon));
+
+  // With no caption the comment becomes the main text.
+  const caption = node.caption || node.comment || '';
+  const text = element('div', 'text');
+  text.append(element('div', 'caption', caption));
+  if (node.caption && node.comment) text.append(element('div', 'comment', node.comment));
+  row.append(text);
+
+  if (node.badge) row.append(element('span', 'badge', node.badge));
+
+  // The part a keyboard or screen reader operates: the toggle, or else the text.
+  const toggle = typeof node.checked === 'boolean' ? renderSwitch(node.checked, caption) : null;
+  const control = toggle ?? text;
+  if (toggle) row.append(toggle);
+  else text.setAttribute('role', 'button');
+  if (node.enabled) {
+    control.tabIndex = 0;
+  } else {
+    row.classList.add('disabled');
+    row.setAttribute('aria-disabled', 'true');
+    control.setAttribute('aria-disabled', 'true');
+  }
+  return row;
+}
+
+function renderIcon(name: string): HTMLElement {
+  const img = element('img', 'icon');
+  img.alt = '';
+  // A missing picture leaves its slot empty so the rows stay aligned.
+  img.addEventListener('error', () => img.classList.add('broken'), { once: true });
+  img.src = `/img/${encodeURIComponent(name)}`;
+  return img;
+}
+
+function renderSwitch(checked: boolean, label: string): HTMLElement {
+  const toggle = element('span', 'switch');
+  toggle.setAttribute('role', 'switch');
+  toggle.setAttribute('aria-checked', String(checked));
+  toggle.setAttribute('aria-label', label);
+  return toggle;
+}

@@ -1,0 +1,47 @@
+// Service worker: keeps the app's static files so it starts without the network.
+// Static files come from the cache first; /api/ always goes to the network.
+
+// Written in front of this script by build.mjs: a digest of the built files and their paths.
+declare const BUILD: { readonly version: string; readonly assets: readonly string[] };
+
+const worker = self as unknown as ServiceWorkerGlobalScope;
+const CACHE = `ladaneya-${BUILD.version}`;
+
+worker.addEventListener('install', (event) => {
+  event.waitUntil(precache().then(() => worker.skipWaiting()));
+});
+
+worker.addEventListener('activate', (event) => {
+  event.waitUntil(dropOldCaches().then(() => worker.clients.claim()));
+});
+
+worker.addEventListener('fetch', (event) => {
+  const { request } = event;
+  const url = new URL(request.url);
+  const isStatic =
+    request.method === 'GET' &&
+    url.origin === worker.location.origin &&
+    !url.pathname.startsWith('/api/');
+  if (isStatic) event.respondWith(cacheFirst(request));
+});
+
+async function precache(): Promise<void> {
+  const cache = await caches.open(CACHE);
+  // One file failing to load must not keep the others out of the cache.
+  await Promise.allSettled(BUILD.assets.map((path) => cache.add(path)));
+}
+
+async function dropOldCaches(): Promise<void> {
+  const names = await caches.keys();
+  await Promise.all(names.filter((name) => name !== CACHE).map((name) => caches.delete(name)));
+}
+
+async function cacheFirst(request: Request): Promise<Response> {
+  const cache = await caches.open(CACHE);
+  // The start page opened with a query (a home-screen shortcut) is still the start page.
+  const cached = await cache.match(request, { ignoreSearch: request.mode === 'navigate' });
+  if (cached) return cached;
+  const response = await fetch(request);
+  if (response.ok) await cache.put(request, response.clone());
+  return response;
+}
