@@ -56,8 +56,7 @@ std::optional<Command> parseServe(const std::vector<std::string>& args, std::str
 
 }  // namespace
 
-std::optional<Command> parseCommandLine(const std::vector<std::string>& args,
-                                        std::string* error) {
+std::optional<Command> parseCommandLine(const std::vector<std::string>& args, std::string* error) {
   if (args.empty() || args[0] == "--help" || args[0] == "-h" || args[0] == "help")
     return Command{Command::kHelp, {}};
   if (args[0] == "--version") return Command{Command::kVersion, {}};
@@ -67,7 +66,8 @@ std::optional<Command> parseCommandLine(const std::vector<std::string>& args,
 }
 
 std::string usage(const std::string& program) {
-  return "Usage: " + program + " <command> [options]\n"
+  return "Usage: " + program +
+         " <command> [options]\n"
          "\n"
          "Commands:\n"
          "  serve        run the diary for the browsers of your phone and tablet\n"

@@ -47,8 +47,7 @@ int serve(int appid, const ServeOptions& o) {
     return 2;
   }
   if (!std::filesystem::exists(o.webDir / "index.html")) {
-    std::fprintf(stderr, "the web app is not built in %s: run scripts/setup\n",
-                 o.webDir.c_str());
+    std::fprintf(stderr, "the web app is not built in %s: run scripts/setup\n", o.webDir.c_str());
     return 2;
   }
   const sigset_t stopSignals = blockStopSignals();

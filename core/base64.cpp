@@ -43,7 +43,9 @@ std::optional<Bytes> base64Decode(std::string_view text) {
     if (i + 4 == text.size() && text[i + 3] == '=') pad = text[i + 2] == '=' ? 2 : 1;
     std::uint32_t n = 0;
     for (std::size_t k = 0; k < 4; ++k) {
-      int v = k >= static_cast<std::size_t>(4 - pad) ? 0 : kReverse[static_cast<unsigned char>(text[i + k])];
+      int v = k >= static_cast<std::size_t>(4 - pad)
+                  ? 0
+                  : kReverse[static_cast<unsigned char>(text[i + k])];
       if (v < 0) return std::nullopt;
       n = (n << 6) | static_cast<std::uint32_t>(v);
     }

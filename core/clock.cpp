@@ -1,8 +1,8 @@
 #include "core/clock.h"
 
-#include <stdexcept>
-
 #include <unicode/timezone.h>
+
+#include <stdexcept>
 
 namespace lad {
 
@@ -25,8 +25,7 @@ Clock::Clock(const std::string& zone) : zone_(zone), tz_(openZone(zone)) {}
 Clock::~Clock() = default;
 
 Date Clock::now() const {
-  return std::chrono::time_point_cast<std::chrono::milliseconds>(
-      std::chrono::system_clock::now());
+  return std::chrono::time_point_cast<std::chrono::milliseconds>(std::chrono::system_clock::now());
 }
 
 int Clock::utcOffsetSeconds(Date at) const {

@@ -2,13 +2,13 @@
 // Tests pin both.
 #pragma once
 
+#include <unicode/uversion.h>
+
 #include <atomic>
 #include <memory>
 #include <string>
 
 #include "core/value.h"
-
-#include <unicode/uversion.h>
 
 U_NAMESPACE_BEGIN
 class TimeZone;

@@ -18,8 +18,8 @@ struct ContextOptions {
   int appid = 1;
   int langid = 1;
   std::filesystem::path dataDir = "data";
-  std::string version;            // the program's short version, such as "0.1.0"
-  std::shared_ptr<Clock> clock;   // nullptr: the system clock in the configured zone
+  std::string version;           // the program's short version, such as "0.1.0"
+  std::shared_ptr<Clock> clock;  // nullptr: the system clock in the configured zone
 };
 
 class Context {

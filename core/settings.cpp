@@ -8,7 +8,9 @@
 
 namespace lad {
 
-SettingsStore::SettingsStore(std::filesystem::path file) : file_(std::move(file)) { load(); }
+SettingsStore::SettingsStore(std::filesystem::path file) : file_(std::move(file)) {
+  load();
+}
 
 void SettingsStore::load() {
   std::ifstream in(file_, std::ios::binary);
@@ -23,8 +25,8 @@ void SettingsStore::load() {
   }
   if (error.empty()) error = "not a JSON object";
   auto aside = file_;
-  aside += ".unreadable-" + std::to_string(std::chrono::system_clock::to_time_t(
-                                std::chrono::system_clock::now()));
+  aside += ".unreadable-" +
+           std::to_string(std::chrono::system_clock::to_time_t(std::chrono::system_clock::now()));
   std::error_code ec;
   std::filesystem::rename(file_, aside, ec);
   loadProblem_ = "settings file " + file_.string() + " could not be read (" + error + ")";
@@ -43,15 +45,21 @@ bool SettingsStore::contains(std::string_view key) const {
   return values_.contains(key);
 }
 
-bool SettingsStore::boolForKey(std::string_view key) const { return get(key).boolValue(); }
+bool SettingsStore::boolForKey(std::string_view key) const {
+  return get(key).boolValue();
+}
 
 std::int64_t SettingsStore::integerForKey(std::string_view key) const {
   return get(key).intValue();
 }
 
-double SettingsStore::doubleForKey(std::string_view key) const { return get(key).doubleValue(); }
+double SettingsStore::doubleForKey(std::string_view key) const {
+  return get(key).doubleValue();
+}
 
-std::string SettingsStore::stringForKey(std::string_view key) const { return get(key).text(); }
+std::string SettingsStore::stringForKey(std::string_view key) const {
+  return get(key).text();
+}
 
 std::optional<Date> SettingsStore::dateForKey(std::string_view key) const {
   return get(key).asDate();

@@ -24,7 +24,9 @@ std::size_t skipBlanks(std::string_view s) {
   return i;
 }
 
-bool isDigit(char c) { return c >= '0' && c <= '9'; }
+bool isDigit(char c) {
+  return c >= '0' && c <= '9';
+}
 
 std::size_t digitsFrom(std::string_view s, std::size_t i) {
   while (i < s.size() && isDigit(s[i])) ++i;
@@ -125,7 +127,9 @@ Value& Value::operator=(const Value&) = default;
 Value& Value::operator=(Value&&) noexcept = default;
 Value::~Value() = default;
 
-Value::Type Value::type() const { return static_cast<Type>(v_.index()); }
+Value::Type Value::type() const {
+  return static_cast<Type>(v_.index());
+}
 
 std::int64_t Value::intValue() const {
   switch (type()) {
@@ -192,14 +196,18 @@ std::string Value::text() const {
   }
 }
 
-const std::string* Value::asText() const { return std::get_if<std::string>(&v_); }
+const std::string* Value::asText() const {
+  return std::get_if<std::string>(&v_);
+}
 
 std::optional<Date> Value::asDate() const {
   if (auto d = std::get_if<Date>(&v_)) return *d;
   return std::nullopt;
 }
 
-const Bytes* Value::asBytes() const { return std::get_if<Bytes>(&v_); }
+const Bytes* Value::asBytes() const {
+  return std::get_if<Bytes>(&v_);
+}
 
 const List* Value::asList() const {
   auto b = std::get_if<Box<List>>(&v_);
@@ -227,7 +235,9 @@ const Value& Value::operator[](std::string_view key) const {
   return v ? *v : nullValue();
 }
 
-bool Value::operator==(const Value& o) const { return v_ == o.v_; }
+bool Value::operator==(const Value& o) const {
+  return v_ == o.v_;
+}
 
 nlohmann::ordered_json Value::toJsonTree() const {
   switch (type()) {
@@ -367,26 +377,39 @@ std::string dateToIso(Date d) {
   char buf[40];
   std::snprintf(buf, sizeof buf, "%04d-%02u-%02uT%02d:%02d:%02d.%03dZ", int(ymd.year()),
                 unsigned(ymd.month()), unsigned(ymd.day()), int(t.hours().count()),
-                int(t.minutes().count()), int(t.seconds().count()),
-                int(t.subseconds().count()));
+                int(t.minutes().count()), int(t.seconds().count()), int(t.subseconds().count()));
   return buf;
 }
 
 std::optional<Date> dateFromIso(std::string_view s) {
   using namespace std::chrono;
-  int y = 0, mo = 0, da = 0, h = 0, mi = 0, se = 0, ms = 0;
-  char tail = 0;
-  std::string text(s);
-  int n = std::sscanf(text.c_str(), "%4d-%2d-%2dT%2d:%2d:%2d.%3d%c", &y, &mo, &da, &h, &mi, &se,
-                      &ms, &tail);
-  if (n < 8) {
-    ms = 0;
-    n = std::sscanf(text.c_str(), "%4d-%2d-%2dT%2d:%2d:%2d%c", &y, &mo, &da, &h, &mi, &se, &tail);
-    if (n < 7) return std::nullopt;
+  // Fixed "yyyy-MM-ddTHH:mm:ss", an optional fraction, and "Z".
+  auto number = [&](std::size_t at, std::size_t len) -> int {
+    if (at + len > s.size()) return -1;
+    int n = 0;
+    for (std::size_t i = at; i < at + len; ++i) {
+      if (!isDigit(s[i])) return -1;
+      n = n * 10 + (s[i] - '0');
+    }
+    return n;
+  };
+  if (s.size() < 20 || s[4] != '-' || s[7] != '-' || s[10] != 'T' || s[13] != ':' || s[16] != ':')
+    return std::nullopt;
+  const int y = number(0, 4), mo = number(5, 2), da = number(8, 2);
+  const int h = number(11, 2), mi = number(14, 2), se = number(17, 2);
+  if (y < 0 || mo < 0 || da < 0 || h < 0 || h > 23 || mi < 0 || mi > 59 || se < 0 || se > 59)
+    return std::nullopt;
+  std::size_t i = 19;
+  int ms = 0;
+  if (s[i] == '.') {
+    const std::size_t end = digitsFrom(s, i + 1);
+    if (end == i + 1) return std::nullopt;
+    for (std::size_t k = i + 1; k < i + 4; ++k) ms = ms * 10 + (k < end ? s[k] - '0' : 0);
+    i = end;
   }
-  if (tail != 'Z') return std::nullopt;
-  year_month_day ymd{year(y), month(unsigned(mo)), day(unsigned(da))};
-  if (!ymd.ok() || h > 23 || mi > 59 || se > 60 || h < 0 || mi < 0 || se < 0) return std::nullopt;
+  if (i + 1 != s.size() || s[i] != 'Z') return std::nullopt;
+  const year_month_day ymd{year(y), month(unsigned(mo)), day(unsigned(da))};
+  if (!ymd.ok()) return std::nullopt;
   return sys_days(ymd) + hours(h) + minutes(mi) + seconds(se) + milliseconds(ms);
 }
 

@@ -42,8 +42,8 @@ void Subscriber::close() {
   wake_.notify_all();
 }
 
-std::shared_ptr<Subscriber> EventHub::subscribe(const std::string& session) {
-  auto s = std::make_shared<Subscriber>(session);
+std::shared_ptr<Subscriber> EventHub::subscribe() {
+  auto s = std::make_shared<Subscriber>();
   std::lock_guard lock(mutex_);
   if (closed_)
     s->close();
@@ -57,10 +57,9 @@ void EventHub::unsubscribe(const std::shared_ptr<Subscriber>& s) {
   std::erase(subscribers_, s);
 }
 
-void EventHub::publish(const PushMessage& m, const std::string& exceptSession) {
+void EventHub::publish(const PushMessage& m) {
   std::lock_guard lock(mutex_);
-  for (const auto& s : subscribers_)
-    if (exceptSession.empty() || s->session() != exceptSession) s->push(m);
+  for (const auto& s : subscribers_) s->push(m);
 }
 
 void EventHub::close() {

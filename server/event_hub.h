@@ -17,12 +17,9 @@ struct PushMessage {
   std::string data;   // JSON text
 };
 
-// One open event stream of one browser session.
+// One open event stream of one browser tab.
 class Subscriber {
  public:
-  explicit Subscriber(std::string session) : session_(std::move(session)) {}
-  const std::string& session() const { return session_; }
-
   // The next message, or nullopt after the timeout or once the hub has closed.
   std::optional<PushMessage> next(std::chrono::milliseconds timeout);
   bool closed() const;
@@ -32,7 +29,6 @@ class Subscriber {
   void push(const PushMessage& m);
   void close();
 
-  const std::string session_;
   mutable std::mutex mutex_;
   std::condition_variable wake_;
   std::deque<PushMessage> queue_;
@@ -41,10 +37,10 @@ class Subscriber {
 
 class EventHub {
  public:
-  std::shared_ptr<Subscriber> subscribe(const std::string& session);
+  std::shared_ptr<Subscriber> subscribe();
   void unsubscribe(const std::shared_ptr<Subscriber>& s);
-  // To every subscriber except those of exceptSession (empty: to all).
-  void publish(const PushMessage& m, const std::string& exceptSession = {});
+  // To every open stream: tabs of one browser share a session, so none is left out.
+  void publish(const PushMessage& m);
   // Ends every stream, now and for later subscribers.
   void close();
 

@@ -32,11 +32,11 @@ std::string cookieValue(const httplib::Request& req, const std::string& name) {
 }
 
 void sendJson(httplib::Response& res, const Reply& reply) {
-  res.status = reply.status;
   res.set_header("Cache-Control", "no-store");
   if (reply.newSession)
     res.set_header("Set-Cookie", std::string(kSessionCookie) + "=" + reply.session +
                                      "; Path=/; HttpOnly; SameSite=Strict");
+  res.status = reply.status;
   res.set_content(reply.body, "application/json");
 }
 
@@ -75,6 +75,7 @@ struct HttpServer::Impl {
   Impl(Installation& i, HttpOptions o) : installation(i), options(std::move(o)) {
     http.new_task_queue = [] { return new httplib::ThreadPool(kHandlerThreads); };
     http.set_payload_max_length(options.maxBodyBytes);
+    http.set_file_extension_and_mimetype_mapping("webmanifest", "application/manifest+json");
     http.set_default_headers({{"X-Content-Type-Options", "nosniff"},
                               {"Referrer-Policy", "no-referrer"},
                               {"X-Frame-Options", "DENY"}});
@@ -114,15 +115,15 @@ struct HttpServer::Impl {
         return sendError(res, 415, "an event must be sent as application/json");
       sendJson(res, installation.event(cookieValue(req, kSessionCookie), req.body));
     });
-    http.Get("/api/events", [this](const httplib::Request& req, httplib::Response& res) {
-      streamEvents(req, res);
-    });
+    http.Get("/api/events",
+             [this](const httplib::Request&, httplib::Response& res) { streamEvents(res); });
   }
 
-  void streamEvents(const httplib::Request& req, httplib::Response& res) {
-    Reply reply = installation.openStream(cookieValue(req, kSessionCookie));
-    sendJson(res, reply);
-    auto subscriber = installation.hub().subscribe(reply.session);
+  void streamEvents(httplib::Response& res) {
+    // Only the stream's own content type is set: the library picks compression by the first
+    // one, and a compressed stream would hold events back.
+    res.set_header("Cache-Control", "no-store");
+    auto subscriber = installation.hub().subscribe();
     EventHub& hub = installation.hub();
     res.set_chunked_content_provider(
         "text/event-stream",
@@ -152,7 +153,9 @@ struct HttpServer::Impl {
 HttpServer::HttpServer(Installation& installation, HttpOptions options)
     : impl_(std::make_unique<Impl>(installation, std::move(options))) {}
 
-HttpServer::~HttpServer() { stop(); }
+HttpServer::~HttpServer() {
+  stop();
+}
 
 int HttpServer::bind(std::string* error) {
   const auto& o = impl_->options;
@@ -167,7 +170,9 @@ int HttpServer::bind(std::string* error) {
   return port;
 }
 
-void HttpServer::run() { impl_->http.listen_after_bind(); }
+void HttpServer::run() {
+  impl_->http.listen_after_bind();
+}
 
 void HttpServer::stop() {
   impl_->installation.hub().close();

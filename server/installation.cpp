@@ -36,7 +36,9 @@ Installation::Installation(ContextOptions options) {
   });
 }
 
-Installation::~Installation() { shutdown(); }
+Installation::~Installation() {
+  shutdown();
+}
 
 void Installation::shutdown() {
   if (shutDown_) return;
@@ -54,8 +56,8 @@ shell::Session& Installation::sessionFor(const std::string& id, Reply& reply) {
   auto it = sessions_.find(id);
   if (it == sessions_.end()) {
     if (sessions_.size() >= kMaxSessions) evictOldestSession();
-    it = sessions_.emplace(newID(), SessionEntry{std::make_unique<shell::Session>(*context_)})
-             .first;
+    it =
+        sessions_.emplace(newID(), SessionEntry{std::make_unique<shell::Session>(*context_)}).first;
     reply.newSession = true;
   }
   it->second.lastUse = ++useCounter_;
@@ -78,14 +80,6 @@ Reply Installation::view(const std::string& session) {
   });
 }
 
-Reply Installation::openStream(const std::string& session) {
-  return loop_.call([&] {
-    Reply reply;
-    sessionFor(session, reply);
-    return reply;
-  });
-}
-
 Reply Installation::event(const std::string& session, std::string_view body) {
   std::string parseError;
   auto parsed = Value::fromJson(body, &parseError);
@@ -103,14 +97,14 @@ Reply Installation::event(const std::string& session, std::string_view body) {
       reply.body = errorBody(result.error);
       return reply;
     }
-    afterEvent(result, reply.session);
+    afterEvent(result);
     reply.body = viewBody(s);
     return reply;
   });
 }
 
-void Installation::afterEvent(const shell::EventResult& result, const std::string& session) {
-  if (result.installationChanged) hub_.publish(kRefresh, session);
+void Installation::afterEvent(const shell::EventResult& result) {
+  if (result.installationChanged) hub_.publish(kRefresh);
   if (result.redrawAfter.count() > 0)
     loop_.addTimer(result.redrawAfter, [this] { hub_.publish(kRefresh); });
 }

@@ -29,8 +29,6 @@ class Installation {
 
   Reply view(const std::string& session);
   Reply event(const std::string& session, std::string_view body);
-  // The session to attach an event stream to (made if unknown).
-  Reply openStream(const std::string& session);
 
   EventHub& hub() { return hub_; }
   MainLoop& loop() { return loop_; }
@@ -51,7 +49,7 @@ class Installation {
   // Main loop only.
   shell::Session& sessionFor(const std::string& id, Reply& reply);
   void evictOldestSession();
-  void afterEvent(const shell::EventResult& result, const std::string& session);
+  void afterEvent(const shell::EventResult& result);
 
   MainLoop loop_;
   EventHub hub_;

@@ -19,7 +19,9 @@ void runGuarded(const MainLoop::Task& task) {
 
 MainLoop::MainLoop() : thread_([this] { run(); }) {}
 
-MainLoop::~MainLoop() { stop(); }
+MainLoop::~MainLoop() {
+  stop();
+}
 
 bool MainLoop::post(Task task) {
   {
@@ -35,7 +37,8 @@ void MainLoop::addTimer(Duration delay, Task task, bool repeat) {
   {
     std::lock_guard lock(mutex_);
     if (stopping_) return;
-    timers_.emplace(std::chrono::steady_clock::now() + delay, Timer{delay, std::move(task), repeat});
+    timers_.emplace(std::chrono::steady_clock::now() + delay,
+                    Timer{delay, std::move(task), repeat});
   }
   wake_.notify_one();
 }

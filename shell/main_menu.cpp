@@ -73,7 +73,9 @@ RowView rowOf(const Value& item) {
 
 }  // namespace
 
-std::string menuTarget(int id) { return std::string(kTargetPrefix) + std::to_string(id); }
+std::string menuTarget(int id) {
+  return std::string(kTargetPrefix) + std::to_string(id);
+}
 
 void MainMenu::updateMenu() {
   for (const auto& s : kSwitches)
@@ -94,8 +96,9 @@ EventResult MainMenu::tap(std::string_view target) {
   if (!id || !menuRow(context_.values().tabMenu, *id))
     return EventResult::refused("no menu item " + std::string(target));
   const SwitchSetting* sw = switchFor(*id);
-  if (!sw || !sw->built) return EventResult::refused("menu item " + std::string(target) +
-                                                     " is not available in this version");
+  if (!sw || !sw->built)
+    return EventResult::refused("menu item " + std::string(target) +
+                                " is not available in this version");
   return toggleSwitch(*id);
 }
 

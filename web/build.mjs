@@ -20,7 +20,7 @@ async function main() {
   const args = process.argv.slice(2);
   if (args.length !== 1) throw new BuildError('usage: node web/build.mjs OUTDIR');
   const out = path.resolve(args[0]);
-  const stage = path.join(out, '.tsc'); // compiler output and the stamp of its inputs
+  const stage = `${out}.tsc`; // compiler output and the stamp of its inputs, beside OUTDIR
   await compile(stage);
 
   // Served path (relative to OUTDIR) -> source file.

@@ -128,7 +128,20 @@ async function openApp(context, base, errors) {
 
 /** Resolves once the page's server-sent event stream has been answered. */
 function waitForPushChannel(page) {
-  return page.waitForResponse((r) => new URL(r.url()).pathname === '/api/events' && r.status() === 200);
+  return settleLater(
+    page.waitForResponse((r) => new URL(r.url()).pathname === '/api/events' && r.status() === 200),
+    'GET /api/events was not answered with 200',
+  );
+}
+
+/** A waiter started ahead of the action it watches: it fails with `message` when awaited,
+ *  and a failure is not reported as unhandled if an earlier step fails first. */
+function settleLater(waiter, message) {
+  const settled = waiter.catch(() => {
+    throw new Error(message);
+  });
+  settled.catch(() => {});
+  return settled;
 }
 
 function rowText(node) {
@@ -242,14 +255,16 @@ async function checkInBrowser(browser, base, outDir) {
 
   const other = await openApp(context, base, errors);
   await waitForSwitch(other, true, 'second tab');
-  const refetched = page.waitForRequest((r) => new URL(r.url()).pathname === '/api/view');
+  const refetched = settleLater(
+    page.waitForRequest((r) => new URL(r.url()).pathname === '/api/view'),
+    'first tab did not fetch /api/view after a refresh event',
+  );
   await other.tap(`[data-id="${SWITCH_ROW}"]`);
   await waitForSwitch(other, false, 'second tab after its tap');
-  await refetched.catch(() => {
-    throw new Error('first tab did not fetch /api/view after a refresh event');
-  });
+  await refetched;
   await waitForSwitch(page, false, 'first tab after the second tab tapped');
 
+  await page.evaluate(() => window.scrollTo(0, 0)); // the sticky header then sits on top
   await page.screenshot({ path: path.join(outDir, 'menu.png'), fullPage: true });
   assert.deepEqual(errors, [], 'no uncaught errors in the page');
 }

@@ -1,0 +1,115 @@
+#include "core/launch.h"
+
+#include <gtest/gtest.h>
+
+#include <algorithm>
+#include <regex>
+
+#include "tests/core/temp_dir.h"
+
+namespace lad {
+namespace {
+
+class LaunchTest : public ::testing::Test {
+ protected:
+  // A fresh Context over the same folder is the next launch of the installation.
+  std::unique_ptr<Context> launchOnce(int appid = 1, int langid = 1) {
+    auto clock = std::make_shared<ManualClock>(*dateFromIso("2026-11-23T09:00:00Z"), "UTC");
+    auto c = std::make_unique<Context>(ContextOptions{appid, langid, dir.path(), "2.4.1", clock});
+    launch(*c);
+    return c;
+  }
+  SettingsStore storedSettings() const {
+    return SettingsStore(dir.path() / "Library" / "Preferences.json");
+  }
+
+  lad::testing::TempDir dir;
+};
+
+TEST_F(LaunchTest, FirstLaunchWritesItsDefaultsAndIdentityOnce) {
+  std::string guid;
+  {
+    auto c = launchOnce();
+    const ProcessValues& v = c->values();
+    EXPECT_TRUE(v.accStop);
+    EXPECT_FALSE(v.pillsAlarm);
+    EXPECT_EQ(v.backgroundId, 2);
+    EXPECT_EQ(v.cloudMode, 1);
+    EXPECT_EQ(v.versionTag, "2-4-1");
+    EXPECT_TRUE(std::all_of(v.pageDirty.begin(), v.pageDirty.end(), [](auto f) { return f == 1; }));
+    guid = v.appGuid;
+    EXPECT_TRUE(std::regex_match(guid, std::regex("[0-9A-F]{8}(-[0-9A-F]{4}){3}-[0-9A-F]{12}")));
+  }
+  SettingsStore s = storedSettings();
+  EXPECT_TRUE(s.contains("chatIndi"));
+  EXPECT_TRUE(s.boolForKey("showRec"));
+  EXPECT_FALSE(s.contains("accStop"));  // true in memory only
+  EXPECT_FALSE(s.contains("icloud"));
+  EXPECT_TRUE(s.contains("WebKitDiskImageCacheEnabled"));
+  EXPECT_FALSE(s.boolForKey("WebKitDiskImageCacheEnabled"));
+  EXPECT_EQ(launchOnce()->values().appGuid, guid);
+}
+
+TEST_F(LaunchTest, StoredChoicesAreReadAndDeactivationForgotten) {
+  {
+    SettingsStore s = storedSettings();
+    s.set("accStop", false);
+    s.set("pillsAlarm", "1");
+    s.set("backgroundId", 7);
+    s.set("chatIndi", false);
+    s.set("deactive", Date(std::chrono::milliseconds(1)));
+    ASSERT_TRUE(s.synchronize());
+  }
+  auto c = launchOnce();
+  EXPECT_FALSE(c->values().accStop);
+  EXPECT_TRUE(c->values().pillsAlarm);
+  EXPECT_EQ(c->values().backgroundId, 7);
+  EXPECT_FALSE(c->values().chatIndi);
+  EXPECT_TRUE(c->values().showRec);
+  EXPECT_FALSE(storedSettings().contains("deactive"));
+}
+
+TEST_F(LaunchTest, CloudModeTwoRunsAsElevenOnceThenAsOne) {
+  {
+    SettingsStore s = storedSettings();
+    s.set("icloud", 2);
+    ASSERT_TRUE(s.synchronize());
+  }
+  EXPECT_EQ(launchOnce()->values().cloudMode, 11);
+  EXPECT_EQ(storedSettings().get("icloud"), Value(true));
+  EXPECT_EQ(launchOnce()->values().cloudMode, 1);
+}
+
+TEST_F(LaunchTest, RetiredCloudModesFallBackToOne) {
+  for (int retired : {4, 5}) {
+    {
+      SettingsStore s = storedSettings();
+      s.set("icloud", retired);
+      ASSERT_TRUE(s.synchronize());
+    }
+    EXPECT_EQ(launchOnce()->values().cloudMode, 1) << retired;
+    EXPECT_EQ(storedSettings().get("icloud"), Value(true)) << retired;
+  }
+  {
+    SettingsStore s = storedSettings();
+    s.set("icloud", 11);
+    ASSERT_TRUE(s.synchronize());
+  }
+  EXPECT_EQ(launchOnce()->values().cloudMode, 11);
+}
+
+TEST_F(LaunchTest, OtherLanguagesLoseTheRussianOnlyRows) {
+  auto ru = launchOnce(1, 1);
+  auto de = launchOnce(1, 2);
+  EXPECT_EQ(ru->values().tabMenu.size() - de->values().tabMenu.size(), 6u);
+  EXPECT_EQ(ru->values().homePage, 10);
+  EXPECT_EQ(de->values().homePage, 9);
+  EXPECT_EQ(de->values().langid, 2);
+}
+
+TEST_F(LaunchTest, UnknownEditionIsRefused) {
+  EXPECT_THROW(Context(ContextOptions{5, 1, dir.path(), "1.0", nullptr}), std::invalid_argument);
+}
+
+}  // namespace
+}  // namespace lad

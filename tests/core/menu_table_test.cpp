@@ -1,0 +1,73 @@
+#include "core/menu_table.h"
+
+#include <gtest/gtest.h>
+
+#include <set>
+
+namespace lad {
+namespace {
+
+std::string passThrough(std::string_view s) {
+  return std::string(s);
+}
+
+std::vector<int> ids(const List& menu) {
+  std::vector<int> out;
+  for (const Value& row : menu) out.push_back(static_cast<int>(row["id"].intValue()));
+  return out;
+}
+
+TEST(MenuTable, PregnancyRowsInOrder) {
+  const List menu = buildMenuTable(1, 1, "3.2", passThrough);
+  EXPECT_EQ(ids(menu),
+            (std::vector<int>{1,  2,  3,  4,  5,  6,  7,  24, 9,  8,  23, 21, 22, 31, 32, 33,
+                              40, 46, 45, 48, 34, 36, 37, 38, 42, 51, 52, 53, 54, 55, 56, 0}));
+  const Value& first = menu.front();
+  EXPECT_EQ(first["tp"].intValue(), kMenuPage);
+  EXPECT_EQ(first["pic"].text(), "icon-today.png");
+  EXPECT_EQ(first["name"].text(), "Сегодня");
+  EXPECT_EQ(first["gid"].text(), "LOCAL");
+  EXPECT_EQ(first["needupdate"], Value(false));
+  EXPECT_TRUE(menu[10]["pic"].isNull());  // command rows have no picture
+  EXPECT_EQ(menu.back()["tp"].intValue(), kMenuVersion);
+  EXPECT_EQ(menu.back()["comment"].text(), "Версия 3.2");
+  EXPECT_EQ(homePageOf(menu), 10);
+  // The pregnancy edition with the 3D view has the same table.
+  EXPECT_EQ(buildMenuTable(14, 1, "3.2", passThrough), menu);
+}
+
+TEST(MenuTable, EveryEditionHasUniqueIdsAndTheSwitches) {
+  for (int appid : {1, 2, 3, 14})
+    for (int langid : {1, 2, 3}) {
+      const List menu = buildMenuTable(appid, langid, "1.0", passThrough);
+      const auto all = ids(menu);
+      EXPECT_EQ(std::set<int>(all.begin(), all.end()).size(), all.size()) << appid;
+      for (int sw : {51, 52, 53, 54, 55, 56}) EXPECT_TRUE(menuRow(menu, sw)) << appid << sw;
+      EXPECT_GT(homePageOf(menu), 0);
+      EXPECT_EQ(menuRow(menu, 34) != nullptr, langid == 1);
+    }
+  EXPECT_FALSE(menuRow(buildMenuTable(2, 1, "1.0", passThrough), 6));  // no contractions
+  EXPECT_FALSE(menuRow(buildMenuTable(3, 1, "1.0", passThrough), 31));
+}
+
+TEST(MenuTable, CaptionsPassThroughTranslation) {
+  const List menu = buildMenuTable(1, 2, "1.0", [](std::string_view s) {
+    return s.empty() ? std::string() : "[" + std::string(s) + "]";
+  });
+  EXPECT_EQ(menu.front()["name"].text(), "[Сегодня]");
+  EXPECT_EQ(menu.front()["comment"].text(), "");
+  EXPECT_EQ(menu.back()["comment"].text(), "[Версия 1.0]");
+}
+
+TEST(MenuTable, MenuItemCheckMarksOneRow) {
+  List menu = buildMenuTable(1, 1, "1.0", passThrough);
+  const List before = menu;
+  EXPECT_EQ(menuItemCheck(menu, 999, true), -1);
+  EXPECT_EQ(menu, before);
+  EXPECT_EQ(menuItemCheck(menu, 53, true), 28);
+  EXPECT_EQ((*menuRow(menu, 53)->find("checked")), Value(true));
+  EXPECT_FALSE(menuRow(menu, 52)->contains("checked"));
+}
+
+}  // namespace
+}  // namespace lad

@@ -1,0 +1,134 @@
+#include "core/value.h"
+
+#include <gtest/gtest.h>
+
+#include <clocale>
+#include <string>
+
+namespace lad {
+namespace {
+
+TEST(ValueCoercion, TextReadsItsLeadingNumber) {
+  EXPECT_EQ(Value("3").intValue(), 3);
+  EXPECT_EQ(Value("3 шт.").intValue(), 3);
+  EXPECT_EQ(Value("  -12abc").intValue(), -12);
+  EXPECT_EQ(Value("+7").intValue(), 7);
+  EXPECT_EQ(Value("abc").intValue(), 0);
+  EXPECT_EQ(Value("").intValue(), 0);
+  EXPECT_EQ(Value("99999999999999999999").intValue(), INT64_MAX);
+  EXPECT_EQ(Value("-99999999999999999999").intValue(), INT64_MIN);
+  EXPECT_EQ(Value("1.9").intValue(), 1);
+
+  EXPECT_DOUBLE_EQ(Value("36.6").doubleValue(), 36.6);
+  EXPECT_DOUBLE_EQ(Value("36,6").doubleValue(), 36.0);  // only "." is a decimal point
+  EXPECT_DOUBLE_EQ(Value("-.5").doubleValue(), -0.5);
+  EXPECT_DOUBLE_EQ(Value("5.").doubleValue(), 5.0);
+  EXPECT_DOUBLE_EQ(Value(".").doubleValue(), 0.0);
+  EXPECT_DOUBLE_EQ(Value("-").doubleValue(), 0.0);
+  EXPECT_DOUBLE_EQ(Value("1e3 г").doubleValue(), 1000.0);
+  EXPECT_DOUBLE_EQ(Value("2e").doubleValue(), 2.0);
+  EXPECT_DOUBLE_EQ(Value("+2.25kg").doubleValue(), 2.25);
+}
+
+TEST(ValueCoercion, DecimalPointIgnoresTheProcessLocale) {
+  // A locale with a decimal comma, where the machine has one; the reading must not change.
+  const bool switched = std::setlocale(LC_NUMERIC, "de_DE.UTF-8") != nullptr ||
+                        std::setlocale(LC_NUMERIC, "ru_RU.UTF-8") != nullptr;
+  EXPECT_DOUBLE_EQ(Value("36.6").doubleValue(), 36.6);
+  EXPECT_EQ(Value(36.6).text(), "36.6");
+  if (switched) std::setlocale(LC_NUMERIC, "C");
+}
+
+TEST(ValueCoercion, NumbersAndBooleansCrossOver) {
+  EXPECT_EQ(Value(true).intValue(), 1);
+  EXPECT_EQ(Value(false).intValue(), 0);
+  EXPECT_EQ(Value(2.9).intValue(), 2);
+  EXPECT_EQ(Value(-2.9).intValue(), -2);
+  EXPECT_EQ(Value(1e300).intValue(), INT64_MAX);
+  EXPECT_DOUBLE_EQ(Value(true).doubleValue(), 1.0);
+  EXPECT_TRUE(Value(3).boolValue());
+  EXPECT_FALSE(Value(0.0).boolValue());
+  EXPECT_EQ(Value(true).text(), "1");
+  EXPECT_EQ(Value(42).text(), "42");
+  EXPECT_EQ(Value(0.1).text(), "0.1");
+  EXPECT_EQ(Value(List{}).intValue(), 0);
+  EXPECT_EQ(Value(Date{}).text(), "");
+  EXPECT_EQ(Value().text(), "");
+}
+
+TEST(ValueCoercion, TextReadsAsBoolLikeStoredFlags) {
+  for (const char* yes : {"YES", "yes", "true", "T", "1", "0001", " 7", "-5", "y"})
+    EXPECT_TRUE(Value(yes).boolValue()) << yes;
+  for (const char* no : {"NO", "no", "false", "0", "", " ", "-0", "000", "abc"})
+    EXPECT_FALSE(Value(no).boolValue()) << no;
+}
+
+TEST(ValueMap, KeepsInsertionOrderAndReplacesInPlace) {
+  Map m;
+  m.set("b", 1);
+  m.set("a", 2);
+  m.set("c", 3);
+  m.set("a", "two");
+  std::string keys;
+  for (const auto& [k, v] : m) keys += k;
+  EXPECT_EQ(keys, "bac");
+  EXPECT_EQ(Value(m)["a"].text(), "two");
+  EXPECT_TRUE(m.erase("b"));
+  EXPECT_FALSE(m.erase("b"));
+  EXPECT_EQ(m.size(), 2u);
+  EXPECT_TRUE(Value(m)["missing"].isNull());
+  EXPECT_TRUE(Value(5)["a"].isNull());
+}
+
+TEST(ValueJson, RoundTripKeepsTypesOrderDatesAndBytes) {
+  Map inner;
+  inner.set("z", 1.5);
+  inner.set("a", List{1, "x", nullptr, false});
+  Map m;
+  m.set("when", Date(std::chrono::milliseconds(1700000000123)));
+  m.set("raw", Bytes{0, 1, 2, 250, 255});
+  m.set("inner", inner);
+  m.set("count", std::int64_t{9007199254740993});
+  m.set("text", "Ладанея <tr> \"q\"");
+  const Value original(m);
+
+  auto back = Value::fromJson(original.toJson(2));
+  ASSERT_TRUE(back);
+  EXPECT_EQ(*back, original);
+  EXPECT_EQ((*back)["count"].type(), Value::Type::Integer);
+  EXPECT_EQ((*back)["inner"]["z"].type(), Value::Type::Double);
+  EXPECT_EQ(original.toJson().find("{\"when\":{\"$date\":\"2023-11-14T22:13:20.123Z\"}"), 0u);
+}
+
+TEST(ValueJson, BadInputGivesAnErrorNotACrash) {
+  std::string error;
+  EXPECT_FALSE(Value::fromJson("{\"a\":", &error));
+  EXPECT_FALSE(error.empty());
+
+  error.clear();
+  EXPECT_FALSE(Value::fromJson("{\"$date\":\"yesterday\"}", &error));
+  EXPECT_NE(error.find("$date"), std::string::npos);
+
+  EXPECT_FALSE(Value::fromJson("{\"$bytes\":\"a=b=\"}"));
+  EXPECT_FALSE(Value::fromJson(std::string(5000, '[') + std::string(5000, ']'), &error));
+
+  // Tag-like keys among others are plain members.
+  auto plain = Value::fromJson("{\"$date\":\"x\",\"other\":1}");
+  ASSERT_TRUE(plain);
+  EXPECT_EQ((*plain)["$date"].text(), "x");
+  auto number = Value::fromJson("{\"$date\":5}");
+  ASSERT_TRUE(number);
+  EXPECT_EQ((*number)["$date"].intValue(), 5);
+}
+
+TEST(ValueJson, IsoDatesAreStrict) {
+  EXPECT_TRUE(dateFromIso("2024-02-29T23:59:59Z"));
+  EXPECT_FALSE(dateFromIso("2023-02-29T00:00:00Z"));
+  EXPECT_FALSE(dateFromIso("2024-01-01T24:00:00Z"));
+  EXPECT_FALSE(dateFromIso("2024-01-01T00:00:00"));
+  EXPECT_EQ(dateToIso(*dateFromIso("1999-12-31T23:59:58.5Z")), "1999-12-31T23:59:58.500Z");
+  EXPECT_EQ(dateToIso(Date(std::chrono::milliseconds(-1))), "1969-12-31T23:59:59.999Z");
+}
+
+}  // namespace
+}  // namespace lad
