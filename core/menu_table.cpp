@@ -16,24 +16,40 @@ struct Row {
   bool russianOnly = false;
 };
 
+// Rows that several editions share.
+constexpr Row kToday{1, "icon-today.png", "Сегодня", 1, "", "LOCAL"};
+constexpr Row kInday{1, "icon-inday.png", "Расписание на день", 2, "", "LOCAL"};
+constexpr Row kGraphs{1, "icon-graph.png", "Графики ребенка", 3, "", "LOCAL"};
+constexpr Row kWoman{1, "icon-woman.png", "Женщина", 5, "", "LOCAL"};
+constexpr Row kTimeline{1, "icon-plane.png", "Хронология", 9, "", "LOCAL"};
+constexpr Row kDiary{1, "icon-note.png", "Дневник", 8, "", "LOCAL"};
+constexpr Row kBook{2, nullptr, "Сформировать фотокнигу", 23, "", "LOCAL"};
+constexpr Row kReport{2, nullptr, "Сформировать PDF отчет", 21, "", "LOCAL"};
+constexpr Row kProfileSetup{2, nullptr, "Настройки", 22, "", "LOCAL"};
+constexpr Row kLists{4,
+                     "m-list.png",
+                     "Что может понадобиться",
+                     33,
+                     "Различные списки того, что может понадобиться",
+                     "MAIN"};
+
 const Row kPregnancyRows[] = {
-    {1, "icon-today.png", "Сегодня", 1, "", "LOCAL"},
-    {1, "icon-inday.png", "Расписание на день", 2, "", "LOCAL"},
-    {1, "icon-graph.png", "Графики ребенка", 3, "", "LOCAL"},
+    kToday,
+    kInday,
+    kGraphs,
     {1, "icon-baby.png", "Развитие ребенка", 4, "", "LOCAL"},
-    {1, "icon-woman.png", "Женщина", 5, "", "LOCAL"},
+    kWoman,
     {1, "icon-shvatki.png", "Схватки", 6, "", "LOCAL"},
     {1, "icon-doctor.png", "К доктору", 7, "", "LOCAL", true},
     {1, "icon-3d.png", "Беременность в 3D", 24, "", "LOCAL"},
-    {1, "icon-plane.png", "Хронология", 9, "", "LOCAL"},
-    {1, "icon-note.png", "Дневник", 8, "", "LOCAL"},
-    {2, nullptr, "Сформировать фотокнигу", 23, "", "LOCAL"},
-    {2, nullptr, "Сформировать PDF отчет", 21, "", "LOCAL"},
-    {2, nullptr, "Настройки", 22, "", "LOCAL"},
+    kTimeline,
+    kDiary,
+    kBook,
+    kReport,
+    kProfileSetup,
     {3, nullptr, "Новая беременность", 31, "", "MAIN"},
     {4, "m-library.png", "База знаний", 32, "Подборка информации по беременности и родам", "MAIN"},
-    {4, "m-list.png", "Что может понадобиться", 33, "Различные списки того, что может понадобиться",
-     "MAIN"},
+    kLists,
     {4, "m-clinic.png", "Мед. учреждения и лаборатории", 40,
      "Карта с медицинскими учреждениями и лабораториями", "MAIN", true},
     {4, "m-doctor.png", "Диалог с врачом", 46, "Удаленное ведение Вашей беременности Вашим врачом",
@@ -45,18 +61,17 @@ const Row kPregnancyRows[] = {
 };
 
 const Row kChildRows[] = {
-    {1, "icon-today.png", "Сегодня", 1, "", "LOCAL"},
-    {1, "icon-inday.png", "Расписание на день", 2, "", "LOCAL"},
-    {1, "icon-graph.png", "Графики ребенка", 3, "", "LOCAL"},
-    {1, "icon-plane.png", "Хронология", 9, "", "LOCAL"},
-    {1, "icon-note.png", "Дневник", 8, "", "LOCAL"},
-    {2, nullptr, "Сформировать фотокнигу", 23, "", "LOCAL"},
-    {2, nullptr, "Сформировать PDF отчет", 21, "", "LOCAL"},
-    {2, nullptr, "Настройки", 22, "", "LOCAL"},
+    kToday,
+    kInday,
+    kGraphs,
+    kTimeline,
+    kDiary,
+    kBook,
+    kReport,
+    kProfileSetup,
     {3, nullptr, "Новый ребенок", 31, "", "MAIN"},
     {4, "m-library.png", "База знаний", 32, "Подборка информации по уходу за ребенком", "MAIN"},
-    {4, "m-list.png", "Что может понадобиться", 33, "Различные списки того, что может понадобиться",
-     "MAIN"},
+    kLists,
     {4, "m-clinic.png", "Мед. учреждения и лаборатории", 40,
      "Карта с детскими поликлиниками и лабораториями", "MAIN", true},
     {4, "m-opros.png", "Опросы", 45, "Социологические опросы на темы по воспитанию детей", "MAIN",
@@ -66,12 +81,12 @@ const Row kChildRows[] = {
 };
 
 const Row kWomanRows[] = {
-    {1, "icon-today.png", "Сегодня", 1, "", "LOCAL"},
-    {1, "icon-inday.png", "Расписание на день", 2, "", "LOCAL"},
-    {1, "icon-woman.png", "Женщина", 5, "", "LOCAL"},
-    {1, "icon-note.png", "Дневник", 8, "", "LOCAL"},
-    {2, nullptr, "Сформировать PDF отчет", 21, "", "LOCAL"},
-    {2, nullptr, "Настройки", 22, "", "LOCAL"},
+    kToday,
+    kInday,
+    kWoman,
+    kDiary,
+    kReport,
+    kProfileSetup,
     {4, "m-library.png", "База знаний", 32, "Подборка информации о женском здоровье", "MAIN"},
     {4, "m-clinic.png", "Мед. учреждения и лаборатории", 40,
      "Карта с медицинскими учреждениями и лабораториями", "MAIN", true},
