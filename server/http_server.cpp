@@ -16,6 +16,10 @@ using namespace std::chrono_literals;
 constexpr char kSessionCookie[] = "lsid";
 constexpr auto kKeepAlivePeriod = 10s;
 constexpr std::size_t kHandlerThreads = 48;  // event streams each hold one
+// The app runs only its own scripts and talks only to this server.
+constexpr char kContentPolicy[] =
+    "default-src 'self'; img-src 'self' data:; object-src 'none'; base-uri 'none'; "
+    "frame-ancestors 'none'";
 
 std::string cookieValue(const httplib::Request& req, const std::string& name) {
   const std::string cookies = req.get_header_value("Cookie");
@@ -75,10 +79,10 @@ struct HttpServer::Impl {
   Impl(Installation& i, HttpOptions o) : installation(i), options(std::move(o)) {
     http.new_task_queue = [] { return new httplib::ThreadPool(kHandlerThreads); };
     http.set_payload_max_length(options.maxBodyBytes);
-    http.set_file_extension_and_mimetype_mapping("webmanifest", "application/manifest+json");
     http.set_default_headers({{"X-Content-Type-Options", "nosniff"},
                               {"Referrer-Policy", "no-referrer"},
-                              {"X-Frame-Options", "DENY"}});
+                              {"X-Frame-Options", "DENY"},
+                              {"Content-Security-Policy", kContentPolicy}});
     if (options.logRequests)
       http.set_logger([](const httplib::Request& req, const httplib::Response& res) {
         std::fprintf(stderr, "%s %s %d\n", req.method.c_str(), req.path.c_str(), res.status);
@@ -114,6 +118,9 @@ struct HttpServer::Impl {
       if (!req.get_header_value("Content-Type").starts_with("application/json"))
         return sendError(res, 415, "an event must be sent as application/json");
       sendJson(res, installation.event(cookieValue(req, kSessionCookie), req.body));
+    });
+    http.Get("/manifest.webmanifest", [this](const httplib::Request&, httplib::Response& res) {
+      res.set_content(installation.manifest(), "application/manifest+json");
     });
     http.Get("/api/events",
              [this](const httplib::Request&, httplib::Response& res) { streamEvents(res); });

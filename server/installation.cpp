@@ -4,6 +4,7 @@
 
 #include "core/ids.h"
 #include "core/launch.h"
+#include "shell/app_manifest.h"
 
 namespace lad::server {
 
@@ -101,6 +102,10 @@ Reply Installation::event(const std::string& session, std::string_view body) {
     reply.body = viewBody(s);
     return reply;
   });
+}
+
+std::string Installation::manifest() {
+  return loop_.call([&] { return shell::webAppManifest(*context_).toJson(); });
 }
 
 void Installation::afterEvent(const shell::EventResult& result) {

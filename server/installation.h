@@ -29,6 +29,8 @@ class Installation {
 
   Reply view(const std::string& session);
   Reply event(const std::string& session, std::string_view body);
+  // The edition's web app manifest (JSON).
+  std::string manifest();
 
   EventHub& hub() { return hub_; }
   MainLoop& loop() { return loop_; }

@@ -45,6 +45,7 @@ async function main() {
   const script = worker.replace(/^("use strict";\n)?/, (directive) =>
     `${directive}const BUILD = ${JSON.stringify(build)};\n`);
   await writeIfChanged(path.join(out, 'sw.js'), script);
+  await pruneStale(out, new Set([...files.keys(), 'sw.js']));
 }
 
 /** Runs tsc for both projects unless the sources are unchanged since the last run. */
@@ -87,18 +88,24 @@ function run(command, args) {
 }
 
 /** All files under dir, as [path relative to dir with '/' separators, absolute path]. */
-async function listFiles(dir) {
-  const entries = await fs.readdir(dir, { recursive: true, withFileTypes: true }).catch((error) => {
+async function listFiles(dir, prefix = '') {
+  const entries = await fs.readdir(dir, { withFileTypes: true }).catch((error) => {
     throw new BuildError(`cannot read ${dir}: ${error.message}`);
   });
-  return new Map(
-    entries
-      .filter((entry) => entry.isFile())
-      .map((entry) => {
-        const file = path.join(entry.parentPath ?? entry.path, entry.name);
-        return [path.relative(dir, file).split(path.sep).join('/'), file];
-      }),
-  );
+  const files = new Map();
+  for (const entry of entries) {
+    const file = path.join(dir, entry.name);
+    const rel = prefix + entry.name;
+    if (entry.isDirectory()) for (const pair of await listFiles(file, `${rel}/`)) files.set(...pair);
+    else if (entry.isFile()) files.set(rel, file);
+  }
+  return files;
+}
+
+/** Removes files of an earlier build that this build no longer makes. */
+async function pruneStale(out, keep) {
+  const present = await listFiles(out).catch(() => new Map());
+  for (const [rel, file] of present) if (!keep.has(rel)) await fs.rm(file);
 }
 
 async function read(file) {

@@ -167,6 +167,7 @@ async function checkMenuRows(page) {
   assert.deepEqual(drawn.slice(0, PREGNANCY_MENU.length).map((r) => r.text), PREGNANCY_MENU, 'menu rows');
   assert.equal(await page.textContent('.page-title'), view.title, 'page title from the server');
   assert.equal(view.title, 'Ладанея', 'page title');
+  assert.equal(await page.title(), view.title, 'document title follows the page');
 
   const notBuilt = drawn.find((row) => row.id === NOT_BUILT_ROW);
   assert.ok(notBuilt && !notBuilt.enabled, `${NOT_BUILT_ROW} is drawn disabled`);

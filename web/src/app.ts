@@ -91,4 +91,5 @@ onViewportChange(() => {
   void sync();
 });
 window.addEventListener('online', () => void sync());
+if ('serviceWorker' in navigator) void navigator.serviceWorker.register('/sw.js');
 void sync();
