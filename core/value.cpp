@@ -34,7 +34,9 @@ std::size_t digitsFrom(std::string_view s, std::size_t i) {
 }
 
 std::optional<Value> taggedFromJson(const Json& j, std::string* error) {
-  const auto& [key, inner] = *j.items().begin();
+  const auto first = j.begin();
+  const std::string& key = first.key();
+  const Json& inner = first.value();
   if (!inner.is_string()) return std::nullopt;
   const auto& s = inner.get_ref<const std::string&>();
   if (key == "$date") {

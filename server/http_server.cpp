@@ -3,9 +3,12 @@
 
 #include <httplib.h>
 
+#include <atomic>
+#include <cctype>
 #include <cerrno>
 #include <cstdio>
 #include <cstring>
+#include <thread>
 
 namespace lad::server {
 
@@ -65,6 +68,14 @@ std::string crossOriginProblem(const httplib::Request& req) {
   return {};
 }
 
+// "application/json", in any case, with or without parameters.
+bool isJsonContent(std::string type) {
+  type = type.substr(0, type.find(';'));
+  while (!type.empty() && type.back() == ' ') type.pop_back();
+  for (char& c : type) c = static_cast<char>(std::tolower(static_cast<unsigned char>(c)));
+  return type == "application/json";
+}
+
 std::string sseChunk(const PushMessage& m) {
   return "event: " + m.event + "\ndata: " + m.data + "\n\n";
 }
@@ -75,6 +86,10 @@ struct HttpServer::Impl {
   Installation& installation;
   HttpOptions options;
   httplib::Server http;
+  // The library's stop() only reaches a running accept loop: a stop that comes earlier is
+  // remembered here and honoured by run().
+  std::atomic<bool> stopRequested = false;
+  std::atomic<bool> running = false;
 
   Impl(Installation& i, HttpOptions o) : installation(i), options(std::move(o)) {
     http.new_task_queue = [] { return new httplib::ThreadPool(kHandlerThreads); };
@@ -115,7 +130,7 @@ struct HttpServer::Impl {
     http.Post("/api/event", [this](const httplib::Request& req, httplib::Response& res) {
       if (auto problem = crossOriginProblem(req); !problem.empty())
         return sendError(res, 403, problem);
-      if (!req.get_header_value("Content-Type").starts_with("application/json"))
+      if (!isJsonContent(req.get_header_value("Content-Type")))
         return sendError(res, 415, "an event must be sent as application/json");
       sendJson(res, installation.event(cookieValue(req, kSessionCookie), req.body));
     });
@@ -178,11 +193,17 @@ int HttpServer::bind(std::string* error) {
 }
 
 void HttpServer::run() {
-  impl_->http.listen_after_bind();
+  impl_->running = true;
+  if (!impl_->stopRequested) impl_->http.listen_after_bind();
+  impl_->running = false;
 }
 
 void HttpServer::stop() {
+  impl_->stopRequested = true;
   impl_->installation.hub().close();
+  // run() may be between its check and the start of the accept loop.
+  while (impl_->running && !impl_->http.is_running())
+    std::this_thread::sleep_for(std::chrono::milliseconds(1));
   impl_->http.stop();
 }
 

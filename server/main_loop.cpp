@@ -12,6 +12,8 @@ void runGuarded(const MainLoop::Task& task) {
     task();
   } catch (const std::exception& e) {
     std::fprintf(stderr, "main loop task failed: %s\n", e.what());
+  } catch (...) {
+    std::fprintf(stderr, "main loop task failed\n");
   }
 }
 

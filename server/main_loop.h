@@ -28,10 +28,11 @@ class MainLoop {
   bool post(Task task);
 
   // Runs f on the main thread and returns its result; throws std::runtime_error when the loop
-  // has stopped.
+  // has stopped. Called on the main thread itself, it runs f at once.
   template <class F>
   auto call(F f) -> decltype(f()) {
     using R = decltype(f());
+    if (onMainThread()) return f();
     auto task = std::make_shared<std::packaged_task<R()>>(std::move(f));
     auto result = task->get_future();
     if (!post([task] { (*task)(); })) throw std::runtime_error("the installation is shutting down");

@@ -5,7 +5,7 @@
 #include <algorithm>
 #include <regex>
 
-#include "tests/core/temp_dir.h"
+#include "tests/support/test_files.h"
 
 namespace lad {
 namespace {

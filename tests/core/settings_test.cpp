@@ -3,21 +3,15 @@
 #include <gtest/gtest.h>
 
 #include <fstream>
-#include <sstream>
 #include <thread>
 
 #include "core/atomic_file.h"
-#include "tests/core/temp_dir.h"
+#include "tests/support/test_files.h"
 
 namespace lad {
 namespace {
 
-std::string slurp(const std::filesystem::path& p) {
-  std::ifstream in(p, std::ios::binary);
-  std::ostringstream s;
-  s << in.rdbuf();
-  return s.str();
-}
+using lad::testing::readFile;
 
 class SettingsTest : public ::testing::Test {
  protected:
@@ -89,10 +83,10 @@ TEST_F(SettingsTest, SynchroniseReplacesTheFileInsteadOfRewritingIt) {
   // A second name for the old file: rewriting in place would change it as well.
   const auto oldLink = dir.path() / "old.json";
   std::filesystem::create_hard_link(file, oldLink);
-  const std::string before = slurp(oldLink);
+  const std::string before = readFile(oldLink);
   s.set("v", 2);
   ASSERT_TRUE(s.synchronize());
-  EXPECT_EQ(slurp(oldLink), before);
+  EXPECT_EQ(readFile(oldLink), before);
   EXPECT_EQ(SettingsStore(file).integerForKey("v"), 2);
 }
 
@@ -107,7 +101,7 @@ TEST_F(SettingsTest, AnUnreadableFileIsSetAsideNotOverwritten) {
   int kept = 0;
   for (const auto& e : std::filesystem::directory_iterator(file.parent_path()))
     if (e.path().filename().string().starts_with("Preferences.json.unreadable-")) {
-      EXPECT_EQ(slurp(e.path()), "[1, 2");
+      EXPECT_EQ(readFile(e.path()), "[1, 2");
       ++kept;
     }
   EXPECT_EQ(kept, 1);

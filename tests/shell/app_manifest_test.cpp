@@ -3,7 +3,7 @@
 #include <gtest/gtest.h>
 
 #include "core/launch.h"
-#include "tests/core/temp_dir.h"
+#include "tests/support/test_files.h"
 
 namespace lad::shell {
 namespace {

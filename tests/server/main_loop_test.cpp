@@ -1,0 +1,143 @@
+#include "server/main_loop.h"
+
+#include <gtest/gtest.h>
+
+#include <atomic>
+#include <chrono>
+#include <condition_variable>
+#include <mutex>
+#include <set>
+#include <stdexcept>
+#include <string>
+#include <thread>
+#include <vector>
+
+namespace lad::server {
+namespace {
+
+using namespace std::chrono_literals;
+
+constexpr auto kDeadline = 15s;
+
+// A counter that other threads bump and the test waits on.
+class Counter {
+ public:
+  void bump() {
+    {
+      std::lock_guard lock(mutex_);
+      ++value_;
+    }
+    changed_.notify_all();
+  }
+  bool waitAtLeast(int n) {
+    std::unique_lock lock(mutex_);
+    return changed_.wait_for(lock, kDeadline, [&] { return value_ >= n; });
+  }
+  int value() {
+    std::lock_guard lock(mutex_);
+    return value_;
+  }
+
+ private:
+  std::mutex mutex_;
+  std::condition_variable changed_;
+  int value_ = 0;
+};
+
+TEST(MainLoopTest, RunsPostedTasksInOrderOnOneOtherThread) {
+  MainLoop loop;
+  EXPECT_FALSE(loop.onMainThread());
+  std::vector<int> order;
+  std::set<std::thread::id> threads;
+  bool allOnMainThread = true;
+  for (int i = 0; i < 200; ++i)
+    ASSERT_TRUE(loop.post([&, i] {
+      order.push_back(i);
+      threads.insert(std::this_thread::get_id());
+      allOnMainThread = allOnMainThread && loop.onMainThread();
+    }));
+  // A call queues behind the posts, so they have all run when it returns.
+  loop.call([] { return 0; });
+  ASSERT_EQ(order.size(), 200u);
+  for (int i = 0; i < 200; ++i) EXPECT_EQ(order[i], i);
+  ASSERT_EQ(threads.size(), 1u);
+  EXPECT_NE(*threads.begin(), std::this_thread::get_id());
+  EXPECT_TRUE(allOnMainThread);
+}
+
+TEST(MainLoopTest, CallReturnsResultsAndPassesExceptionsBack) {
+  MainLoop loop;
+  EXPECT_EQ(loop.call([] { return 42; }), 42);
+  EXPECT_EQ(loop.call([] { return std::string("Ладанея"); }), "Ладанея");
+  const auto caller = std::this_thread::get_id();
+  EXPECT_NE(loop.call([] { return std::this_thread::get_id(); }), caller);
+
+  try {
+    loop.call([]() -> int { throw std::logic_error("broken task"); });
+    ADD_FAILURE() << "the exception did not reach the caller";
+  } catch (const std::logic_error& e) {
+    EXPECT_STREQ(e.what(), "broken task");
+  }
+  // The loop survives the failure and keeps serving.
+  EXPECT_EQ(loop.call([] { return 7; }), 7);
+
+  ASSERT_TRUE(loop.post([] { throw std::runtime_error("posted task fails"); }));
+  ASSERT_TRUE(loop.post([] { throw 42; }));  // not even a std::exception
+  // A call made from the main thread itself runs at once instead of waiting for itself.
+  EXPECT_EQ(loop.call([&] { return loop.call([] { return 5; }); }), 5);
+  int after = 0;
+  ASSERT_TRUE(loop.post([&] { after = 1; }));
+  EXPECT_EQ(loop.call([&] { return after; }), 1);
+}
+
+TEST(MainLoopTest, TimersFireOnTheMainThread) {
+  MainLoop loop;
+  Counter oneShot, repeating, later;
+  std::atomic<bool> timersOnMainThread{true};
+  loop.addTimer(10ms, [&] {
+    timersOnMainThread = timersOnMainThread && loop.onMainThread();
+    oneShot.bump();
+  });
+  loop.addTimer(
+      5ms,
+      [&] {
+        timersOnMainThread = timersOnMainThread && loop.onMainThread();
+        repeating.bump();
+      },
+      true);
+  ASSERT_TRUE(oneShot.waitAtLeast(1));
+  ASSERT_TRUE(repeating.waitAtLeast(3));
+
+  // Timers run in due order: had the one-shot timer come back after its 10 ms, it would have
+  // run again before this one, which is due much later.
+  int oneShotSeenLater = -1;
+  loop.addTimer(300ms, [&] {
+    oneShotSeenLater = oneShot.value();
+    later.bump();
+  });
+  ASSERT_TRUE(later.waitAtLeast(1));
+  EXPECT_EQ(loop.call([&] { return oneShotSeenLater; }), 1);
+  EXPECT_EQ(oneShot.value(), 1);
+  EXPECT_TRUE(timersOnMainThread);
+}
+
+TEST(MainLoopTest, StopRunsWhatWasPostedThenRefusesWork) {
+  MainLoop loop;
+  int ran = 0;
+  bool farTimerRan = false;
+  // Holds the thread up so that the tasks behind it are still queued when stop() comes.
+  ASSERT_TRUE(loop.post([] { std::this_thread::sleep_for(50ms); }));
+  for (int i = 0; i < 20; ++i) ASSERT_TRUE(loop.post([&] { ++ran; }));
+  loop.addTimer(1h, [&] { farTimerRan = true; });
+  loop.stop();
+  EXPECT_EQ(ran, 20);
+  EXPECT_FALSE(farTimerRan);
+
+  EXPECT_FALSE(loop.post([&] { ++ran; }));
+  EXPECT_THROW(loop.call([] { return 1; }), std::runtime_error);
+  loop.stop();  // a second stop is harmless
+  EXPECT_EQ(ran, 20);
+}
+
+}  // namespace
+}  // namespace lad::server

@@ -1,0 +1,259 @@
+// Shared helpers of the server tests: temporary folders, a server on a loopback port, and a
+// client that reads an event stream on its own thread.
+#pragma once
+
+#include <gtest/gtest.h>
+#include <httplib.h>
+
+#include <chrono>
+#include <condition_variable>
+#include <filesystem>
+#include <fstream>
+#include <future>
+#include <memory>
+#include <mutex>
+#include <nlohmann/json.hpp>
+#include <optional>
+#include <sstream>
+#include <stdexcept>
+#include <string>
+#include <string_view>
+#include <thread>
+#include <vector>
+
+#include "core/value.h"
+#include "server/http_server.h"
+#include "server/installation.h"
+#include "tests/support/test_files.h"
+
+namespace lad::server::test {
+
+using namespace std::chrono_literals;
+using Json = nlohmann::json;
+
+// How long any single wait may take before the test gives up instead of hanging.
+constexpr auto kDeadline = 15s;
+
+using lad::testing::readFile;
+using lad::testing::TempDir;
+using lad::testing::writeFile;
+
+inline std::filesystem::path settingsFileOf(const std::filesystem::path& dataDir) {
+  return dataDir / "Library" / "Preferences.json";
+}
+
+// The settings file parsed as a map; nullopt when it is missing or not a JSON object.
+inline std::optional<Map> settingsOnDisk(const std::filesystem::path& dataDir) {
+  auto parsed = Value::fromJson(readFile(settingsFileOf(dataDir)));
+  if (!parsed || !parsed->asMap()) return std::nullopt;
+  return *parsed->asMap();
+}
+
+inline std::size_t countOf(std::string_view text, std::string_view needle) {
+  std::size_t n = 0;
+  for (auto at = text.find(needle); at != std::string_view::npos;
+       at = text.find(needle, at + needle.size()))
+    ++n;
+  return n;
+}
+
+// The row with that id in a view response, or null.
+inline Json rowOf(const Json& response, std::string_view id) {
+  for (const Json& row : response["view"]["children"][0]["rows"])
+    if (row.value("id", "") == id) return row;
+  return nullptr;
+}
+
+// The session id that a Set-Cookie header hands out, or "" when there is none.
+inline std::string sessionFromSetCookie(const httplib::Response& res) {
+  const std::string cookie = res.get_header_value("Set-Cookie");
+  const std::string prefix = "lsid=";
+  if (!cookie.starts_with(prefix)) return {};
+  return cookie.substr(prefix.size(), cookie.find(';') - prefix.size());
+}
+
+inline httplib::Headers sessionHeaders(const std::string& session) {
+  if (session.empty()) return {};
+  return {{"Cookie", "lsid=" + session}};
+}
+
+inline std::unique_ptr<httplib::Client> newClient(int port) {
+  auto client = std::make_unique<httplib::Client>("127.0.0.1", port);
+  client->set_connection_timeout(5s);
+  client->set_read_timeout(30s);
+  client->set_write_timeout(30s);
+  return client;
+}
+
+// GET /api/events on its own thread, collecting the stream's text until stopped or ended.
+class StreamReader {
+ public:
+  explicit StreamReader(int port) : client_(newClient(port)) {
+    thread_ = std::thread([this] {
+      client_->Get(
+          "/api/events",
+          [this](const httplib::Response& res) {
+            std::lock_guard lock(mutex_);
+            status_ = res.status;
+            for (auto [at, end] = res.headers.equal_range("Content-Type"); at != end; ++at)
+              contentTypes_.push_back(at->second);
+            cacheControl_ = res.get_header_value("Cache-Control");
+            return true;
+          },
+          [this](const char* data, std::size_t size) {
+            std::lock_guard lock(mutex_);
+            text_.append(data, size);
+            changed_.notify_all();
+            return !closing_;
+          });
+      std::lock_guard lock(mutex_);
+      finished_ = true;
+      changed_.notify_all();
+    });
+  }
+
+  ~StreamReader() {
+    {
+      std::unique_lock lock(mutex_);
+      closing_ = true;
+      // The client may not have sent its request yet, so ask again until the thread ends.
+      while (!finished_) {
+        lock.unlock();
+        client_->stop();
+        lock.lock();
+        changed_.wait_for(lock, 100ms, [this] { return finished_; });
+      }
+    }
+    thread_.join();
+  }
+
+  // True once the text holds the needle at least `times` times.
+  bool waitFor(std::string_view needle, std::size_t times = 1) {
+    std::unique_lock lock(mutex_);
+    return changed_.wait_for(lock, kDeadline, [&] { return countOf(text_, needle) >= times; });
+  }
+  bool waitForEnd() {
+    std::unique_lock lock(mutex_);
+    return changed_.wait_for(lock, kDeadline, [this] { return finished_; });
+  }
+
+  std::string text() const {
+    std::lock_guard lock(mutex_);
+    return text_;
+  }
+  int status() const {
+    std::lock_guard lock(mutex_);
+    return status_;
+  }
+  std::vector<std::string> contentTypes() const {
+    std::lock_guard lock(mutex_);
+    return contentTypes_;
+  }
+  std::string cacheControl() const {
+    std::lock_guard lock(mutex_);
+    return cacheControl_;
+  }
+
+ private:
+  std::unique_ptr<httplib::Client> client_;
+  mutable std::mutex mutex_;
+  std::condition_variable changed_;
+  std::string text_;
+  int status_ = -1;
+  std::vector<std::string> contentTypes_;
+  std::string cacheControl_;
+  bool closing_ = false;
+  bool finished_ = false;
+  std::thread thread_;
+};
+
+// An installation in a temporary data folder behind a server on a free loopback port.
+class ServerTest : public ::testing::Test {
+ protected:
+  static constexpr std::string_view kIndexHtml =
+      "<!doctype html>\n<title>Ладанея</title>\n<script src=\"app.js\"></script>\n";
+  static constexpr std::string_view kAppJs = "document.title = 'app';\n";
+
+  void SetUp() override {
+    std::filesystem::create_directories(webDir());
+    writeFile(webDir() / "index.html", kIndexHtml);
+    writeFile(webDir() / "app.js", kAppJs);
+    installation_ =
+        std::make_unique<Installation>(ContextOptions{1, 1, dataDir(), "0.1.0", nullptr});
+    HttpOptions options;
+    options.host = "127.0.0.1";
+    options.port = 0;
+    options.webDir = webDir();
+    options.logRequests = false;
+    server_ = std::make_unique<HttpServer>(*installation_, options);
+    std::string error;
+    port_ = server_->bind(&error);
+    ASSERT_GT(port_, 0) << error;
+    std::promise<void> ended;
+    runEnded_ = ended.get_future();
+    runThread_ = std::thread([this, ended = std::move(ended)]() mutable {
+      server_->run();
+      ended.set_value();
+    });
+    // A first answer shows that run() is serving; stop() does not reach a server before that.
+    auto res = newClient(port_)->Get("/app.js");
+    ASSERT_TRUE(res) << httplib::to_string(res.error());
+    ASSERT_EQ(res->status, 200);
+  }
+
+  void TearDown() override {
+    stopServer();
+    server_.reset();
+    installation_.reset();
+  }
+
+  // Stops the server; false when run() did not return within the deadline.
+  bool stopServer() {
+    if (!runThread_.joinable()) return true;
+    server_->stop();
+    const bool ended = runEnded_.wait_for(kDeadline) == std::future_status::ready;
+    if (!ended) server_->stop();  // once more, so that the thread can still be joined
+    runThread_.join();
+    return ended;
+  }
+
+  std::filesystem::path dataDir() const { return root_.path() / "data"; }
+  std::filesystem::path webDir() const { return root_.path() / "web"; }
+  std::unique_ptr<httplib::Client> client() const { return newClient(port_); }
+  std::string ownOrigin() const { return "http://127.0.0.1:" + std::to_string(port_); }
+
+  // A new session and its first view.
+  std::string openSession() {
+    auto res = client()->Get("/api/view");
+    if (!res || res->status != 200) {
+      ADD_FAILURE() << "GET /api/view failed";
+      return {};
+    }
+    std::string session = sessionFromSetCookie(*res);
+    EXPECT_FALSE(session.empty()) << "no session cookie in the first view";
+    return session;
+  }
+
+  httplib::Result postEvent(const std::string& body, const std::string& session = {},
+                            httplib::Headers extra = {},
+                            const std::string& contentType = "application/json") {
+    httplib::Headers headers = sessionHeaders(session);
+    headers.insert(extra.begin(), extra.end());
+    return client()->Post("/api/event", headers, body, contentType.c_str());
+  }
+
+  // The settings as the installation holds them, written out first so that the file is current.
+  std::string settingsNow() {
+    EXPECT_TRUE(installation_->withContext([](Context& c) { return c.settings().synchronize(); }));
+    return readFile(settingsFileOf(dataDir()));
+  }
+
+  TempDir root_;
+  std::unique_ptr<Installation> installation_;
+  std::unique_ptr<HttpServer> server_;
+  int port_ = -1;
+  std::thread runThread_;
+  std::future<void> runEnded_;
+};
+
+}  // namespace lad::server::test
