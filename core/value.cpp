@@ -277,10 +277,6 @@ std::string Value::toJson(int indent) const {
   return toJsonTree().dump(indent, ' ', false, Json::error_handler_t::replace);
 }
 
-std::optional<Value> Value::fromJsonTree(const nlohmann::ordered_json& j, std::string* error) {
-  return fromTree(j, 0, error);
-}
-
 std::optional<Value> Value::fromJson(std::string_view json, std::string* error) {
   try {
     return fromTree(Json::parse(json), 0, error);

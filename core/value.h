@@ -89,7 +89,6 @@ class Value {
   static std::optional<Value> fromJson(std::string_view json, std::string* error = nullptr);
   std::string toJson(int indent = -1) const;
   nlohmann::ordered_json toJsonTree() const;
-  static std::optional<Value> fromJsonTree(const nlohmann::ordered_json& j, std::string* error);
 
   bool operator==(const Value& o) const;
 

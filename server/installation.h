@@ -33,7 +33,6 @@ class Installation {
   std::string manifest();
 
   EventHub& hub() { return hub_; }
-  MainLoop& loop() { return loop_; }
   // Ends every event stream, runs what is queued, and writes the settings. Idempotent.
   void shutdown();
 
