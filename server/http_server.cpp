@@ -48,11 +48,8 @@ void sendJson(httplib::Response& res, const Reply& reply) {
 }
 
 void sendError(httplib::Response& res, int status, const std::string& message) {
-  Map m;
-  m.set("error", message);
   Reply reply;
-  reply.status = status;
-  reply.body = Value(std::move(m)).toJson();
+  reply.refuse(status, message);
   sendJson(res, reply);
 }
 

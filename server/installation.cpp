@@ -12,12 +12,6 @@ namespace {
 
 constexpr std::size_t kMaxSessions = 256;
 
-std::string errorBody(const std::string& message) {
-  Map m;
-  m.set("error", message);
-  return Value(std::move(m)).toJson();
-}
-
 std::string viewBody(shell::Session& s) {
   Map m;
   m.set("view", s.view());
@@ -27,6 +21,13 @@ std::string viewBody(shell::Session& s) {
 const PushMessage kRefresh{"refresh", "{}"};
 
 }  // namespace
+
+void Reply::refuse(int refusalStatus, const std::string& message) {
+  Map m;
+  m.set("error", message);
+  status = refusalStatus;
+  body = Value(std::move(m)).toJson();
+}
 
 Installation::Installation(ContextOptions options) {
   loop_.call([&] {
@@ -87,15 +88,11 @@ Reply Installation::event(const std::string& session, std::string_view body) {
   return loop_.call([&] {
     Reply reply;
     shell::Session& s = sessionFor(session, reply);
-    if (!parsed) {
-      reply.status = 400;
-      reply.body = errorBody("the event is not valid JSON: " + parseError);
-      return reply;
-    }
-    shell::EventResult result = s.handle(*parsed);
+    const shell::EventResult result =
+        parsed ? s.handle(*parsed)
+               : shell::EventResult::refused("the event is not valid JSON: " + parseError);
     if (!result.ok()) {
-      reply.status = 400;
-      reply.body = errorBody(result.error);
+      reply.refuse(400, result.error);
       return reply;
     }
     afterEvent(result);

@@ -19,6 +19,9 @@ struct Reply {
   std::string body;     // JSON
   std::string session;  // the session the request ran in
   bool newSession = false;
+
+  // Turns the reply into a refusal: the status and {"error": message}.
+  void refuse(int refusalStatus, const std::string& message);
 };
 
 class Installation {

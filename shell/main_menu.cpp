@@ -7,12 +7,7 @@
 
 namespace lad::shell {
 
-namespace {
-
 using namespace std::chrono_literals;
-
-constexpr std::string_view kTargetPrefix = "menu:";
-constexpr std::size_t kDiaryPage = 8;
 
 // A menu switch and the setting behind it. A switch with a shared value keeps it in step;
 // an inverted one stores the opposite of what it shows.
@@ -21,16 +16,24 @@ struct SwitchSetting {
   const char* key;
   bool ProcessValues::*shared;
   bool inverted;
-  bool built;  // its effect exists in this build
+  bool built;                             // its effect exists in this build
+  int dirtyPage;                          // page that rebuilds after a change, or kNoPage
+  std::chrono::milliseconds redrawAfter;  // a later redraw of every browser, or zero
 };
 
+namespace {
+
+constexpr std::string_view kTargetPrefix = "menu:";
+constexpr int kNoPage = -1;
+constexpr int kDiaryPage = 8;
+
 const SwitchSetting kSwitches[] = {
-    {51, "emptyNote", nullptr, false, true},
-    {52, "pass", nullptr, false, false},
-    {53, "accStop", &ProcessValues::accStop, true, true},
-    {54, "pillsAlarm", &ProcessValues::pillsAlarm, false, false},
-    {55, "chatIndi", &ProcessValues::chatIndi, false, true},
-    {56, "showRec", &ProcessValues::showRec, false, true},
+    {51, "emptyNote", nullptr, false, true, kDiaryPage, 0ms},
+    {52, "pass", nullptr, false, false, kNoPage, 0ms},
+    {53, "accStop", &ProcessValues::accStop, true, true, kNoPage, 0ms},
+    {54, "pillsAlarm", &ProcessValues::pillsAlarm, false, false, kNoPage, 0ms},
+    {55, "chatIndi", &ProcessValues::chatIndi, false, true, kNoPage, 1s},
+    {56, "showRec", &ProcessValues::showRec, false, true, kNoPage, 0ms},
 };
 
 const SwitchSetting* switchFor(int id) {
@@ -99,19 +102,18 @@ EventResult MainMenu::tap(std::string_view target) {
   if (!sw || !sw->built)
     return EventResult::refused("menu item " + std::string(target) +
                                 " is not available in this version");
-  return toggleSwitch(*id);
+  return toggleSwitch(*sw);
 }
 
-EventResult MainMenu::toggleSwitch(int id) {
-  const SwitchSetting& s = *switchFor(id);
+EventResult MainMenu::toggleSwitch(const SwitchSetting& s) {
   const bool stored = !storedState(context_, s);
   if (s.shared) context_.values().*s.shared = stored;
   context_.settings().set(s.key, stored);
   context_.settings().synchronize();
+  if (s.dirtyPage != kNoPage) context_.values().pageDirty[s.dirtyPage] = 1;
   EventResult result;
   result.installationChanged = true;
-  if (id == 51) context_.values().pageDirty[kDiaryPage] = 1;
-  if (id == 55) result.redrawAfter = 1s;
+  result.redrawAfter = s.redrawAfter;
   return result;
 }
 

@@ -6,6 +6,8 @@
 
 namespace lad::shell {
 
+struct SwitchSetting;
+
 class MainMenu : public Screen {
  public:
   explicit MainMenu(Context& context) : context_(context) {}
@@ -17,7 +19,7 @@ class MainMenu : public Screen {
   void updateMenu();
 
  private:
-  EventResult toggleSwitch(int id);
+  EventResult toggleSwitch(const SwitchSetting& s);
 
   Context& context_;
 };
