@@ -12,11 +12,8 @@ std::optional<BuildFault> outputFault(const std::filesystem::path& out, std::str
   return BuildFault{out, {0, std::move(message)}};
 }
 
-// Commits the transaction and puts the file in place.
-std::optional<BuildFault> finish(StagedDatabase& staged, const std::filesystem::path& out) {
-  if (!staged.db().execute("commit")) return outputFault(out, staged.db().errorText());
-  std::string error;
-  if (!staged.publish(&error)) return outputFault(out, error);
+std::optional<BuildFault> publish(StagedDatabase& staged, const std::filesystem::path& out) {
+  if (!staged.publish()) return outputFault(out, staged.error());
   return std::nullopt;
 }
 
@@ -38,10 +35,10 @@ bool insertRows(const SqliteConnection& db, const std::vector<TranslationRow>& r
 std::optional<BuildFault> buildFromScripts(const std::filesystem::path& out,
                                            const std::vector<SourceFile>& scripts) {
   StagedDatabase staged(out);
-  if (!staged.db().execute("begin")) return outputFault(out, staged.db().errorText());
+  if (!staged.error().empty()) return outputFault(out, staged.error());
   for (const SourceFile& script : scripts)
     if (auto fault = runScript(staged.db(), script.text)) return BuildFault{script.path, *fault};
-  return finish(staged, out);
+  return publish(staged, out);
 }
 
 std::optional<BuildFault> buildTranslationTable(const std::filesystem::path& out,
@@ -49,9 +46,9 @@ std::optional<BuildFault> buildTranslationTable(const std::filesystem::path& out
   TranslationSource parsed = parseTranslationSource(source.text);
   if (parsed.error) return BuildFault{source.path, *parsed.error};
   StagedDatabase staged(out);
-  if (!staged.db().execute("begin")) return outputFault(out, staged.db().errorText());
+  if (!staged.error().empty()) return outputFault(out, staged.error());
   if (!insertRows(staged.db(), parsed.rows)) return outputFault(out, staged.db().errorText());
-  return finish(staged, out);
+  return publish(staged, out);
 }
 
 }  // namespace lad::resgen
