@@ -1,0 +1,115 @@
+// The resource build tool run as the build runs it: a fault fails the run, names the file and
+// line, and leaves nothing behind.
+#include <gtest/gtest.h>
+#include <sys/wait.h>
+
+#include <cstdio>
+
+#include "tests/resources/resource_files.h"
+#include "tests/support/test_files.h"
+
+namespace lad::testing {
+namespace {
+
+struct ToolRun {
+  int status;
+  std::string output;
+};
+
+ToolRun runTool(const std::string& arguments) {
+  const std::string command = std::string(LAD_RESGEN) + " " + arguments + " 2>&1";
+  FILE* pipe = popen(command.c_str(), "r");
+  if (!pipe) return {-1, "cannot start the tool"};
+  std::string output;
+  char buffer[256];
+  while (std::fgets(buffer, sizeof buffer, pipe)) output += buffer;
+  const int status = pclose(pipe);
+  return {WIFEXITED(status) ? WEXITSTATUS(status) : -1, output};
+}
+
+std::vector<std::string> filesIn(const std::filesystem::path& folder) {
+  std::vector<std::string> names;
+  for (const auto& entry : std::filesystem::directory_iterator(folder))
+    names.push_back(entry.path().filename().string());
+  std::sort(names.begin(), names.end());
+  return names;
+}
+
+class ResgenTool : public ::testing::Test {
+ protected:
+  std::string file(const std::string& name, std::string_view text) {
+    writeFile(dir_.path() / name, text);
+    return (dir_.path() / name).string();
+  }
+  std::string out() const { return (dir_.path() / "out.sqlite").string(); }
+
+  TempDir dir_;
+};
+
+TEST_F(ResgenTool, ScriptsRunInOrderIntoANewFile) {
+  const auto schema = file("schema.sql", "create table t (x integer);\n");
+  const auto rows =
+      file("rows.sql", "-- two rows\ninsert into t values (1);\ninsert into t values (2);\n");
+  const ToolRun run = runTool("sql " + out() + " " + schema + " " + rows);
+  ASSERT_EQ(run.status, 0) << run.output;
+  SqliteConnection db(out(), SqliteConnection::Mode::ReadOnly);
+  EXPECT_EQ(firstColumn(db, "select x from t order by x"), (std::vector<std::string>{"1", "2"}));
+}
+
+TEST_F(ResgenTool, AFaultyScriptFailsAtItsLineAndLeavesNoFile) {
+  const auto script = file("bad.sql",
+                           "create table t (x integer primary key);\n"
+                           "\n"
+                           "insert into t values (1);\n"
+                           "insert into missing values (2);\n");
+  ToolRun run = runTool("sql " + out() + " " + script);
+  EXPECT_NE(run.status, 0);
+  EXPECT_NE(run.output.find("bad.sql:4: no such table: missing"), std::string::npos) << run.output;
+  EXPECT_EQ(filesIn(dir_.path()), std::vector<std::string>{"bad.sql"});
+
+  // A fault that shows only when the statement runs is told at the statement's first line.
+  const auto repeat = file("repeat.sql",
+                           "create table t (x integer primary key);\n"
+                           "insert into t values (1);\n"
+                           "-- the same key again\n"
+                           "insert into t\n"
+                           "  values (1);\n");
+  run = runTool("sql " + out() + " " + repeat);
+  EXPECT_NE(run.status, 0);
+  EXPECT_NE(run.output.find("repeat.sql:4: UNIQUE constraint failed"), std::string::npos)
+      << run.output;
+  EXPECT_EQ(filesIn(dir_.path()), (std::vector<std::string>{"bad.sql", "repeat.sql"}));
+}
+
+TEST_F(ResgenTool, TranslationSourceBecomesTheTable) {
+  const auto source = file("t.tsv",
+                           "rus\tger\tfra\n"
+                           "# a comment\n"
+                           "\n"
+                           "Сегодня\tHeute\tAujourd'hui\r\n"
+                           "Две|строки\tZwei|Zeilen\t\n");
+  const ToolRun run = runTool("translate " + out() + " " + source);
+  ASSERT_EQ(run.status, 0) << run.output;
+  SqliteConnection db(out(), SqliteConnection::Mode::ReadOnly);
+  EXPECT_EQ(firstColumn(db, "select rus || '=' || ger || '=' || fra from translate order by rowid"),
+            (std::vector<std::string>{"Сегодня=Heute=Aujourd'hui", "Две|строки=Zwei|Zeilen="}));
+}
+
+TEST_F(ResgenTool, FaultyTranslationSourcesAreRefusedByLine) {
+  const std::pair<const char*, const char*> faults[] = {
+      {"rus\tger\tfra\nДа\tJa\tOui\nНет\tNein\n", "t.tsv:3: 2 fields, 3 expected"},
+      {"rus\tger\tfra\nДа\tJa\tOui\n# c\nДа\tJawohl\tOui\n",
+       "t.tsv:4: the Russian text \"Да\" is already on line 2"},
+      {"rus\tger\tfra\n\tJa\tOui\n", "t.tsv:2: empty Russian text"},
+      {"Да\tJa\tOui\n", "t.tsv:1: the header"},
+  };
+  for (auto [text, message] : faults) {
+    const ToolRun run = runTool("translate " + out() + " " + file("t.tsv", text));
+    EXPECT_NE(run.status, 0) << message;
+    EXPECT_NE(run.output.find(message), std::string::npos) << run.output;
+    EXPECT_EQ(filesIn(dir_.path()), std::vector<std::string>{"t.tsv"});
+  }
+}
+
+}  // namespace
+}  // namespace lad::testing
