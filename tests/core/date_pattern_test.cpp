@@ -77,9 +77,9 @@ void expectAgreement(const DateCodec& codec, const char* locale, const char* pat
 
 TEST(DatePattern, WritesAndReadsNumbersAsTheFullFormatter) {
   const DateCodec codec(kZone, 1);
-  for (const char* pattern :
-       {"yyyy-MM-dd", "yyyy-MM-dd HH:mm:ss", "yyyy-MM-dd HH:mm", "dd.MM.yyyy", "dd.MM.yyyy HH:mm",
-        "dd-MM-yyyy", "yyMMdd", "dd", "dd.MM", "dd.MM.yy", "-MM-dd", "HH:mm", "'T'HH'h'''mm"})
+  for (const char* pattern : {"yyyy-MM-dd", "yyyy-MM-dd HH:mm:ss", "yyyy-MM-dd HH:mm", "dd.MM.yyyy",
+                              "dd.MM.yyyy HH:mm", "dd-MM-yyyy", "yyMMdd", "dd", "dd.MM", "dd.MM.yy",
+                              "-MM-dd", "HH:mm", "'T'HH'h'''mm", "dd.MM 'в"})
     expectAgreement(codec, "ru_RU", pattern);
 }
 
