@@ -4,6 +4,7 @@
 #include <array>
 
 #include "core/dates.h"
+#include "core/word_forms.h"
 
 namespace {
 
@@ -46,5 +47,12 @@ void BM_GetDays(benchmark::State& state) {
   for (auto _ : state) benchmark::DoNotOptimize(berlin().getDays(moments.next(), to));
 }
 BENCHMARK(BM_GetDays);
+
+void BM_RusForms(benchmark::State& state) {
+  std::int64_t n = 0;
+  for (auto _ : state)
+    benchmark::DoNotOptimize(lad::rusForms(++n % 200, "неделя", "недели", "недель"));
+}
+BENCHMARK(BM_RusForms);
 
 }  // namespace
