@@ -13,6 +13,7 @@
 
 #include "core/clock.h"
 #include "core/date_pattern.h"
+#include "core/text_hash.h"
 
 namespace lad {
 
@@ -64,16 +65,10 @@ Date timeOf(const icu::Calendar& cal) {
   return fromUDate(cal.getTime(status));
 }
 
-struct PatternHash {
-  using is_transparent = void;
-  std::size_t operator()(std::string_view s) const { return std::hash<std::string_view>{}(s); }
-};
-
 struct ThreadObjects {
   std::unique_ptr<icu::Calendar> calendar;
   // nullptr for a pattern the formatter refuses.
-  std::unordered_map<std::string, std::unique_ptr<icu::SimpleDateFormat>, PatternHash,
-                     std::equal_to<>>
+  std::unordered_map<std::string, std::unique_ptr<icu::SimpleDateFormat>, TextHash, std::equal_to<>>
       formats;
 };
 

@@ -1,5 +1,7 @@
 #include "core/time_list.h"
 
+#include <unicode/utf8.h>
+
 #include <vector>
 
 #include "core/value.h"
@@ -13,12 +15,10 @@ constexpr std::string_view kFieldEnd = "<td>";
 
 // Minutes of a time key; the hours are its first three characters, not bytes.
 std::int64_t minutesOf(std::string_view time) {
-  std::size_t split = 0;
-  for (int chars = 0; chars < 3 && split < time.size(); ++chars) {
-    ++split;
-    while (split < time.size() && (static_cast<unsigned char>(time[split]) & 0xC0) == 0x80) ++split;
-  }
-  return leadingInteger(time.substr(0, split)) * 60 + leadingInteger(time.substr(split));
+  int32_t split = 0;
+  U8_FWD_N(time.data(), split, static_cast<int32_t>(time.size()), 3);
+  const auto hours = time.substr(0, static_cast<std::size_t>(split));
+  return leadingInteger(hours) * 60 + leadingInteger(time.substr(hours.size()));
 }
 
 std::vector<std::string_view> splitOn(std::string_view text, std::string_view separator) {

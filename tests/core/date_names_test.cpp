@@ -10,17 +10,14 @@ namespace {
 
 TEST(DateNames, NamesByNumberWithTheLastForAnyOther) {
   const Translator russian;
-  const char* const shortNames[] = {"сб", "вс", "пн", "вт", "ср", "чт", "пт", "сб", "сб"};
-  const char* const fullNames[] = {"суббота", "воскресенье", "понедельник", "вторник", "среда",
-                                   "четверг", "пятница",     "суббота",     "суббота"};
-  for (int day = 0; day <= 8; ++day) {
-    EXPECT_EQ(weekday(day, russian), shortNames[day]) << day;
-    EXPECT_EQ(weekdayfull(day, russian), fullNames[day]) << day;
-  }
-  const char* const months[] = {"декабрь", "январь", "февраль", "март",   "апрель",
-                                "май",     "июнь",   "июль",    "август", "сентябрь",
-                                "октябрь", "ноябрь", "декабрь", "декабрь"};
-  for (int month = 0; month <= 13; ++month) EXPECT_EQ(monthName(month, russian), months[month]);
+  const std::pair<int, const char*> shortNames[] = {{1, "вс"}, {2, "пн"}, {7, "сб"}, {0, "сб"}};
+  for (const auto& [day, name] : shortNames) EXPECT_EQ(weekday(day, russian), name) << day;
+  const std::pair<int, const char*> fullNames[] = {
+      {1, "воскресенье"}, {4, "среда"}, {6, "пятница"}, {8, "суббота"}};
+  for (const auto& [day, name] : fullNames) EXPECT_EQ(weekdayfull(day, russian), name) << day;
+  const std::pair<int, const char*> months[] = {{1, "январь"},   {5, "май"},     {11, "ноябрь"},
+                                                {12, "декабрь"}, {0, "декабрь"}, {13, "декабрь"}};
+  for (const auto& [month, name] : months) EXPECT_EQ(monthName(month, russian), name) << month;
 }
 
 TEST(DateNames, PassThroughTheTranslation) {

@@ -69,6 +69,10 @@ TEST(DateCodec, DayStartsAtLocalMidnight) {
   EXPECT_EQ(berlin().encodeDate(29, 3, 2026), at("2026-03-29 00:00:00"));
   EXPECT_EQ(local(berlin().encodeDate(32, 1, 2026)), "2026-02-01 00:00:00");
   EXPECT_EQ(local(berlin().encodeDate(0, 3, 2026)), "2026-02-28 00:00:00");
+  // The Gregorian rules hold for every year: 1500 is no leap year.
+  EXPECT_EQ(berlin().getDays(berlin().encodeDate(1, 1, 1500), berlin().encodeDate(1, 1, 1600)),
+            36524);
+  EXPECT_EQ(berlin().dateToString(berlin().encodeDate(1, 3, 1500), "d MMMM y"), "1 марта 1500");
 }
 
 TEST(DateCodec, DecodesCalendarParts) {

@@ -41,11 +41,6 @@ TEST(DbCells, DatesGoInAndOutAsColumnText) {
     dateToBase(insert, 2, std::nullopt, true, berlin);
     insert.bindNull(3);
     ASSERT_TRUE(insert.run());
-    insert.reset();
-    insert.bindText(1, "29.03.2026"sv);
-    insert.bindText(2, "2026-03-29"sv);
-    insert.bindText(3, ""sv);
-    ASSERT_TRUE(insert.run());
   }
   SqliteStatement rows = table.prepare("select day, moment, note, date(day) from t order by rowid");
   ASSERT_TRUE(rows.step());
@@ -58,14 +53,10 @@ TEST(DbCells, DatesGoInAndOutAsColumnText) {
   EXPECT_EQ(stringFromBase(rows, 2), "Заметка");
 
   ASSERT_TRUE(rows.step());
+  EXPECT_TRUE(rows.isNull(0) && rows.isNull(1));
   EXPECT_EQ(dateFromBase(rows, 0, false, berlin), std::nullopt);
   EXPECT_EQ(dateFromBase(rows, 1, true, berlin), std::nullopt);
   EXPECT_EQ(stringFromBase(rows, 2), std::nullopt);
-
-  ASSERT_TRUE(rows.step());
-  EXPECT_EQ(dateFromBase(rows, 0, false, berlin), std::nullopt);
-  EXPECT_EQ(dateFromBase(rows, 1, true, berlin), std::nullopt);
-  EXPECT_EQ(stringFromBase(rows, 2), "");
   EXPECT_FALSE(rows.step());
 }
 

@@ -34,13 +34,10 @@ TEST(WordForms, UnitsAgreeWithTheirQuantity) {
       {"1/16", "мерн.лож.", "мерной ложки"},
       {"1/7", "ч.лож.", "чайная ложка"},  // not a listed fraction: its integer is 1
       {"2.5", "ст.лож.", "столовые ложки"},
-      {"5", "куб.см.", "кубических сантиметров"},
       {"22", "куб.см.", "кубических сантиметра"},
-      {"0", "впрыск", "впрыска"},
       {"", "капля", "капли"},
       {"7", "капля", "капель"},
       {"2", "таблетка", ""},
-      {"2", "мл", ""},
   };
   for (const Case& c : cases)
     EXPECT_EQ(rusScon(c.quantity, c.unit, russian), c.expected) << c.quantity << " " << c.unit;
