@@ -6,9 +6,7 @@
 
 namespace lad {
 
-namespace {
-
-std::unique_ptr<icu::TimeZone> openZone(const std::string& name) {
+std::unique_ptr<icu::TimeZone> openTimeZone(const std::string& name) {
   std::unique_ptr<icu::TimeZone> tz(
       icu::TimeZone::createTimeZone(icu::UnicodeString::fromUTF8(name)));
   icu::UnicodeString id, unknown;
@@ -18,9 +16,7 @@ std::unique_ptr<icu::TimeZone> openZone(const std::string& name) {
   return tz;
 }
 
-}  // namespace
-
-Clock::Clock(const std::string& zone) : zone_(zone), tz_(openZone(zone)) {}
+Clock::Clock(const std::string& zone) : zone_(zone), tz_(openTimeZone(zone)) {}
 
 Clock::~Clock() = default;
 

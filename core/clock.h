@@ -16,6 +16,10 @@ U_NAMESPACE_END
 
 namespace lad {
 
+// Opens a zone of the time zone database by its name; throws std::invalid_argument for a name
+// the database does not know.
+std::unique_ptr<icu::TimeZone> openTimeZone(const std::string& name);
+
 class Clock {
  public:
   // Throws std::invalid_argument for a zone name the time zone database does not know.

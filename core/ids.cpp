@@ -24,4 +24,9 @@ std::string newID() {
   return out;
 }
 
+std::string newID2(int group, std::int64_t n) {
+  const std::string number = "000000000000" + std::to_string(n);
+  return "00000000-0000-0000-000" + std::to_string(group) + "-" + number.substr(number.size() - 12);
+}
+
 }  // namespace lad

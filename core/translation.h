@@ -7,6 +7,8 @@
 #include <string_view>
 #include <unordered_map>
 
+#include "core/text_hash.h"
+
 namespace lad {
 
 class Translator {
@@ -20,10 +22,6 @@ class Translator {
   std::size_t size() const { return table_.size(); }
 
  private:
-  struct TextHash {
-    using is_transparent = void;
-    std::size_t operator()(std::string_view s) const { return std::hash<std::string_view>{}(s); }
-  };
   std::unordered_map<std::string, std::string, TextHash, std::equal_to<>> table_;
 };
 

@@ -1,0 +1,18 @@
+#include "core/ids.h"
+
+#include <gtest/gtest.h>
+
+namespace lad {
+namespace {
+
+TEST(Ids, FixedIdentifierOfAGroupAndANumber) {
+  EXPECT_EQ(newID2(1, 1), "00000000-0000-0000-0001-000000000001");
+  EXPECT_EQ(newID2(2, 31), "00000000-0000-0000-0002-000000000031");
+  EXPECT_EQ(newID2(4, 72), "00000000-0000-0000-0004-000000000072");
+  EXPECT_EQ(newID2(2, 0), "00000000-0000-0000-0002-000000000000");
+  EXPECT_EQ(newID2(2, 999999999999), "00000000-0000-0000-0002-999999999999");
+  EXPECT_EQ(newID2(2, 1234567890123), "00000000-0000-0000-0002-234567890123");
+}
+
+}  // namespace
+}  // namespace lad
