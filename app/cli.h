@@ -15,6 +15,7 @@ struct ServeOptions {
   int langid = 1;
   std::filesystem::path webDir;
   std::filesystem::path imagesDir;
+  std::filesystem::path resourcesDir;  // database templates and the translation table
 };
 
 struct Command {

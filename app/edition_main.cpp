@@ -26,6 +26,7 @@ int main(int argc, char** argv) {
       auto options = command->serve;
       if (options.webDir.empty()) options.webDir = LADANEYA_WEB_DIR;
       if (options.imagesDir.empty()) options.imagesDir = LADANEYA_IMAGES_DIR;
+      if (options.resourcesDir.empty()) options.resourcesDir = LADANEYA_RESOURCES_DIR;
       return lad::app::serve(LADANEYA_APPID, options);
     }
   }

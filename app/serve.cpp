@@ -50,11 +50,16 @@ int serve(int appid, const ServeOptions& o) {
     std::fprintf(stderr, "the web app is not built in %s: run scripts/setup\n", o.webDir.c_str());
     return 2;
   }
+  if (!std::filesystem::exists(o.resourcesDir / "translate.sqlite")) {
+    std::fprintf(stderr, "the program's resources are not built in %s: run scripts/setup\n",
+                 o.resourcesDir.c_str());
+    return 2;
+  }
   const sigset_t stopSignals = blockStopSignals();
   std::unique_ptr<server::Installation> installation;
   try {
     installation = std::make_unique<server::Installation>(
-        ContextOptions{appid, o.langid, o.dataDir, LADANEYA_VERSION, nullptr});
+        ContextOptions{appid, o.langid, o.dataDir, LADANEYA_VERSION, nullptr, o.resourcesDir});
   } catch (const std::exception& e) {
     std::fprintf(stderr, "cannot open the installation in %s: %s\n", o.dataDir.c_str(), e.what());
     return 1;

@@ -15,6 +15,7 @@ const Edition& checkedEdition(int appid) {
 std::filesystem::path preparedDataDir(const std::filesystem::path& dir) {
   std::filesystem::create_directories(dir / "Library");
   std::filesystem::create_directories(dir / "Documents");
+  std::filesystem::create_directories(dir / "tmp");
   return dir;
 }
 
@@ -36,10 +37,16 @@ Context::Context(ContextOptions options)
     : edition_(&checkedEdition(options.appid)),
       version_(std::move(options.version)),
       dataDir_(preparedDataDir(options.dataDir)),
+      resourcesDir_(std::move(options.resourcesDir)),
       settings_(dataDir_ / "Library" / "Preferences.json"),
-      clock_(options.clock ? std::move(options.clock) : configuredClock(settings_)) {
+      clock_(options.clock ? std::move(options.clock) : configuredClock(settings_)),
+      dates_(clock_->zone(), options.langid) {
   values_.appid = options.appid;
   values_.langid = options.langid;
+}
+
+void Context::prepareTranslate() {
+  translator_.prepare(values_.langid, resourcesDir_ / "translate.sqlite");
 }
 
 }  // namespace lad

@@ -8,9 +8,11 @@
 #include <string_view>
 
 #include "core/clock.h"
+#include "core/dates.h"
 #include "core/edition.h"
 #include "core/process_values.h"
 #include "core/settings.h"
+#include "core/translation.h"
 
 namespace lad {
 
@@ -18,8 +20,9 @@ struct ContextOptions {
   int appid = 1;
   int langid = 1;
   std::filesystem::path dataDir = "data";
-  std::string version;           // the program's short version, such as "0.1.0"
-  std::shared_ptr<Clock> clock;  // nullptr: the system clock in the configured zone
+  std::string version;                 // the program's short version, such as "0.1.0"
+  std::shared_ptr<Clock> clock;        // nullptr: the system clock in the configured zone
+  std::filesystem::path resourcesDir;  // the program's read-only files: templates, translations
 };
 
 class Context {
@@ -32,24 +35,32 @@ class Context {
   const std::filesystem::path& dataDir() const { return dataDir_; }
   std::filesystem::path documentsDir() const { return dataDir_ / "Documents"; }
   std::filesystem::path libraryDir() const { return dataDir_ / "Library"; }
+  std::filesystem::path tempDir() const { return dataDir_ / "tmp"; }
+  const std::filesystem::path& resourcesDir() const { return resourcesDir_; }
 
   SettingsStore& settings() { return settings_; }
   const SettingsStore& settings() const { return settings_; }
   const Clock& clock() const { return *clock_; }
+  // Dates in the installation's zone and language.
+  const DateCodec& dates() const { return dates_; }
   ProcessValues& values() { return values_; }
   const ProcessValues& values() const { return values_; }
 
-  // Every user-visible literal passes through here. Until a translation table is loaded, the
-  // Russian text is the text of every language.
-  std::string translate(std::string_view text) const { return std::string(text); }
+  // Loads the translation table of the installation's language.
+  void prepareTranslate();
+  // Every user-visible literal passes through here.
+  std::string translate(std::string_view text) const { return translator_.translate(text); }
 
  private:
   const Edition* edition_;
   std::string version_;
   std::filesystem::path dataDir_;
+  std::filesystem::path resourcesDir_;
   SettingsStore settings_;
   std::shared_ptr<Clock> clock_;
+  DateCodec dates_;
   ProcessValues values_;
+  Translator translator_;
 };
 
 }  // namespace lad

@@ -52,6 +52,7 @@ void launch(Context& context) {
   settings.remove("deactive");
   readCloudMode(settings, v);
   readStoredFlags(settings, v);
+  context.prepareTranslate();
 
   if (!settings.contains("appguid")) settings.set("appguid", newID());
   v.appGuid = settings.stringForKey("appguid");

@@ -34,7 +34,6 @@ struct ProcessValues {
   bool themeDarkHeader = true;
   bool colorIcons = true;
   std::string pendingPdf;
-  std::string pendingShortcut;
   int modalOpen = 0;
   bool popupOpen = false;
   bool pushArrived = false;

@@ -57,6 +57,8 @@ class SqliteStatement {
 
   // Parameters count from 1. Texts are bound as transient copies.
   void bindText(int index, std::string_view text);
+  void bindText(int index, const char* text) { bindText(index, std::string_view(text)); }
+  void bindText(int index, const std::string& text) { bindText(index, std::string_view(text)); }
   void bindText(int index, const std::optional<std::string>& text);  // nullopt binds NULL
   void bindInt(int index, std::int64_t value);
   void bindNull(int index);

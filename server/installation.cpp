@@ -3,7 +3,6 @@
 #include <cstdio>
 
 #include "core/ids.h"
-#include "core/launch.h"
 #include "shell/app_manifest.h"
 
 namespace lad::server {
@@ -31,10 +30,9 @@ void Reply::refuse(int refusalStatus, const std::string& message) {
 
 Installation::Installation(ContextOptions options) {
   loop_.call([&] {
-    context_ = std::make_unique<Context>(std::move(options));
-    if (!context_->settings().loadProblem().empty())
-      std::fprintf(stderr, "%s\n", context_->settings().loadProblem().c_str());
-    launch(*context_);
+    app_ = std::make_unique<shell::Application>(std::move(options));
+    const std::string& problem = app_->context().settings().loadProblem();
+    if (!problem.empty()) std::fprintf(stderr, "%s\n", problem.c_str());
   });
 }
 
@@ -48,7 +46,7 @@ void Installation::shutdown() {
   hub_.close();
   loop_.post([this] {
     std::string error;
-    if (!context_->settings().synchronize(&error))
+    if (!app_->context().settings().synchronize(&error))
       std::fprintf(stderr, "settings not written: %s\n", error.c_str());
   });
   loop_.stop();
@@ -58,8 +56,7 @@ shell::Session& Installation::sessionFor(const std::string& id, Reply& reply) {
   auto it = sessions_.find(id);
   if (it == sessions_.end()) {
     if (sessions_.size() >= kMaxSessions) evictOldestSession();
-    it =
-        sessions_.emplace(newID(), SessionEntry{std::make_unique<shell::Session>(*context_)}).first;
+    it = sessions_.emplace(newID(), SessionEntry{std::make_unique<shell::Session>(*app_)}).first;
     reply.newSession = true;
   }
   it->second.lastUse = ++useCounter_;
@@ -102,7 +99,7 @@ Reply Installation::event(const std::string& session, std::string_view body) {
 }
 
 std::string Installation::manifest() {
-  return loop_.call([&] { return shell::webAppManifest(*context_).toJson(); });
+  return loop_.call([&] { return shell::webAppManifest(app_->context()).toJson(); });
 }
 
 void Installation::afterEvent(const shell::EventResult& result) {

@@ -10,6 +10,7 @@
 #include "core/context.h"
 #include "server/event_hub.h"
 #include "server/main_loop.h"
+#include "shell/application.h"
 #include "shell/session.h"
 
 namespace lad::server {
@@ -42,7 +43,7 @@ class Installation {
   // Runs f with the context on the main loop (for tools and tests).
   template <class F>
   auto withContext(F f) {
-    return loop_.call([&] { return f(*context_); });
+    return loop_.call([&] { return f(app_->context()); });
   }
 
  private:
@@ -57,7 +58,7 @@ class Installation {
 
   MainLoop loop_;
   EventHub hub_;
-  std::unique_ptr<Context> context_;
+  std::unique_ptr<shell::Application> app_;
   std::unordered_map<std::string, SessionEntry> sessions_;
   std::uint64_t useCounter_ = 0;
   bool shutDown_ = false;

@@ -1,4 +1,4 @@
-// Browser test of the main menu against the real server, in headless Chromium.
+// Browser test of the greeting and the main menu against the real server, in headless Chromium.
 //   node tests/e2e/menu.test.mjs --server PATH_TO_SERVER --out SCREENSHOT_DIR
 import assert from 'node:assert/strict';
 import { spawn } from 'node:child_process';
@@ -35,15 +35,16 @@ const CHROMIUM_ARGS = [
   '--no-first-run',
   '--disable-quic',
 ];
+// What the German installation shows (from the translation table).
+const GERMAN = { close: 'Loslegen', firstRow: 'Heute' };
 const START_TIMEOUT_MS = 20000;
 const STOP_TIMEOUT_MS = 10000;
 const STEP_TIMEOUT_MS = 10000;
 
 /** A running server process with its output kept for failure reports. */
-function startServer(executable, dataDir, port) {
-  const child = spawn(executable, ['serve', '--data', dataDir, '--listen', `127.0.0.1:${port}`], {
-    stdio: ['ignore', 'pipe', 'pipe'],
-  });
+function startServer(executable, dataDir, port, lang = 'ru') {
+  const args = ['serve', '--data', dataDir, '--listen', `127.0.0.1:${port}`, '--lang', lang];
+  const child = spawn(executable, args, { stdio: ['ignore', 'pipe', 'pipe'] });
   const server = { child, log: '', exit: null };
   const keep = (chunk) => (server.log = (server.log + chunk).slice(-8000));
   child.stdout.on('data', keep);
@@ -78,15 +79,16 @@ function describeExit(exit) {
   return exit.error ? `failed to start: ${exit.error.message}` : `exited (code ${exit.code}, signal ${exit.signal})`;
 }
 
+// Probes with the manifest: the first view of a launch belongs to the browser, which is greeted.
 async function waitUntilServing(server, base) {
   const deadline = Date.now() + START_TIMEOUT_MS;
   while (Date.now() < deadline) {
     if (server.exit) throw new Error(`server ${describeExit(server.exit)} before answering`);
-    const status = await fetch(`${base}/api/view`).then((r) => r.status, () => 0);
+    const status = await fetch(`${base}/manifest.webmanifest`).then((r) => r.status, () => 0);
     if (status === 200) return;
     await sleep(100);
   }
-  throw new Error(`GET /api/view did not answer 200 within ${START_TIMEOUT_MS / 1000} s`);
+  throw new Error(`the server did not answer within ${START_TIMEOUT_MS / 1000} s`);
 }
 
 async function checkManifest(base) {
@@ -230,13 +232,64 @@ async function checkServiceWorker(page) {
   assert.ok(active, 'the service worker /sw.js becomes active');
 }
 
+const PHONE = { viewport: { width: 390, height: 844 }, isMobile: true, hasTouch: true, deviceScaleFactor: 2 };
+
+/** The first page of a launch is greeted; closing the greeting shows the menu. */
+async function passWelcome(context, base, outDir, name) {
+  const page = await context.newPage();
+  page.setDefaultTimeout(STEP_TIMEOUT_MS);
+  await page.goto(`${base}/`);
+  await page.waitForSelector('.welcome');
+  const welcome = {
+    caption: await page.textContent('.welcome-caption'),
+    texts: await page.$$eval('.welcome-text', (nodes) => nodes.map((n) => n.textContent)),
+    close: await page.textContent('.welcome-footer button'),
+    title: await page.title(),
+  };
+  assert.equal(welcome.title, welcome.caption, 'the document title is the greeting caption');
+  const icon = await page.$eval('.welcome-icon', (img) => img.complete && img.naturalWidth);
+  assert.ok(icon > 0, 'the greeting icon shows');
+  await page.screenshot({ path: path.join(outDir, `${name}.png`), fullPage: true });
+  await page.tap('.welcome-footer button');
+  await page.waitForSelector('.row[data-id]');
+  return { page, welcome };
+}
+
+async function checkGreetingOnce(context, base, outDir) {
+  const { page, welcome } = await passWelcome(context, base, outDir, 'welcome');
+  assert.equal(welcome.caption, 'Ладанея', 'greeting caption');
+  assert.equal(welcome.texts[0], 'Добро пожаловать в программу', 'a new installation is greeted');
+  assert.equal(welcome.close, 'Начать работу', 'the closing button');
+  await page.reload();
+  await page.waitForSelector('.row[data-id]');
+  assert.equal(await page.$('.welcome'), null, 'the greeting does not come again');
+  await page.close();
+}
+
+async function checkGerman(browser, executable, outDir) {
+  const dataDir = fs.mkdtempSync(path.join(os.tmpdir(), 'ladaneya-e2e-de-'));
+  const port = await freePort();
+  const base = `http://127.0.0.1:${port}`;
+  const server = startServer(executable, dataDir, port, 'de');
+  try {
+    await waitUntilServing(server, base);
+    const context = await browser.newContext(PHONE);
+    const { page, welcome } = await passWelcome(context, base, outDir, 'welcome-de');
+    assert.equal(welcome.close, GERMAN.close, 'the closing button in German');
+    const first = await page.textContent('.row .caption');
+    assert.equal(first, GERMAN.firstRow, 'the first menu row in German');
+    await page.screenshot({ path: path.join(outDir, 'menu-de.png'), fullPage: true });
+    await context.close();
+    await stopServer(server);
+  } finally {
+    if (!server.exit) server.child.kill('SIGKILL');
+    fs.rmSync(dataDir, { recursive: true, force: true });
+  }
+}
+
 async function checkInBrowser(browser, base, outDir) {
-  const context = await browser.newContext({
-    viewport: { width: 390, height: 844 },
-    isMobile: true,
-    hasTouch: true,
-    deviceScaleFactor: 2,
-  });
+  const context = await browser.newContext(PHONE);
+  await checkGreetingOnce(context, base, outDir);
   const errors = [];
   const page = await openApp(context, base, errors);
   await checkMenuRows(page);
@@ -305,6 +358,7 @@ async function main() {
     browser = await chromium.launch({ executablePath: '/usr/bin/chromium', args: CHROMIUM_ARGS });
     await checkInBrowser(browser, base, values.out);
     await stopServer(server);
+    await checkGerman(browser, path.resolve(values.server), values.out);
     console.log('menu: 1 passed, 0 failed');
   } catch (error) {
     console.error(`menu: FAILED: ${error.message}`);

@@ -262,7 +262,7 @@ TEST_F(ServerTest, ManyClientsAtOnceAllGetCorrectAnswers) {
 // Disabled while HttpServer::stop() does nothing to a run() that has not started serving yet.
 TEST(HttpServerLifecycleTest, StopBeforeRunStillEndsRun) {
   TempDir root;
-  Installation installation(ContextOptions{1, 1, root.path() / "data", "0.1.0", nullptr});
+  Installation installation(greetedInstallation(root.path() / "data"));
   HttpOptions options;
   options.port = 0;
   options.logRequests = false;

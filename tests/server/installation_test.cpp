@@ -11,7 +11,7 @@ namespace lad::server::test {
 namespace {
 
 ContextOptions optionsFor(const std::filesystem::path& dataDir) {
-  return ContextOptions{1, 1, dataDir, "0.1.0", nullptr};
+  return greetedInstallation(dataDir);
 }
 
 TEST(InstallationTest, ShutdownWritesTheSettingsFileAndCanBeRepeated) {

@@ -42,6 +42,15 @@ inline std::filesystem::path settingsFileOf(const std::filesystem::path& dataDir
   return dataDir / "Library" / "Preferences.json";
 }
 
+// Options of an installation whose greeting of this version has been shown already, so that
+// its first view is the main menu. Settings that are there already are kept.
+inline ContextOptions greetedInstallation(const std::filesystem::path& dataDir) {
+  std::filesystem::create_directories(settingsFileOf(dataDir).parent_path());
+  if (!std::filesystem::exists(settingsFileOf(dataDir)))
+    writeFile(settingsFileOf(dataDir), R"({"version0-1-0": true})");
+  return ContextOptions{1, 1, dataDir, "0.1.0", nullptr, LADANEYA_RESOURCES_DIR};
+}
+
 // The settings file parsed as a map; nullopt when it is missing or not a JSON object.
 inline std::optional<Map> settingsOnDisk(const std::filesystem::path& dataDir) {
   auto parsed = Value::fromJson(readFile(settingsFileOf(dataDir)));
@@ -178,8 +187,7 @@ class ServerTest : public ::testing::Test {
     std::filesystem::create_directories(webDir());
     writeFile(webDir() / "index.html", kIndexHtml);
     writeFile(webDir() / "app.js", kAppJs);
-    installation_ =
-        std::make_unique<Installation>(ContextOptions{1, 1, dataDir(), "0.1.0", nullptr});
+    installation_ = std::make_unique<Installation>(greetedInstallation(dataDir()));
     HttpOptions options;
     options.host = "127.0.0.1";
     options.port = 0;

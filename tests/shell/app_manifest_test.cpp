@@ -10,7 +10,7 @@ namespace {
 
 Value manifestOf(int appid, int langid) {
   lad::testing::TempDir dir;
-  Context context(ContextOptions{appid, langid, dir.path(), "1.0", nullptr});
+  Context context(ContextOptions{appid, langid, dir.path(), "1.0", nullptr, {}});
   launch(context);
   return webAppManifest(context);
 }

@@ -13,7 +13,7 @@ using namespace std::chrono_literals;
 class MainMenuTest : public ::testing::Test {
  protected:
   MainMenuTest() {
-    context = std::make_unique<Context>(ContextOptions{1, 1, dir.path(), "1.0", nullptr});
+    context = std::make_unique<Context>(ContextOptions{1, 1, dir.path(), "1.0", nullptr, {}});
     launch(*context);
     context->values().pageDirty.fill(0);
   }

@@ -2,24 +2,29 @@
 
 #include <gtest/gtest.h>
 
-#include "core/launch.h"
-#include "tests/support/test_files.h"
+#include "store/store.h"
+#include "tests/shell/application_fixture.h"
 
 namespace lad::shell {
 namespace {
 
-class SessionTest : public ::testing::Test {
+class SessionTest : public lad::testing::ApplicationTest {
  protected:
-  SessionTest() : context(ContextOptions{1, 1, dir.path(), "1.0", nullptr}) { launch(context); }
+  SessionTest() { launchApp(); }
 
   static Value event(const std::string& json) { return *Value::fromJson(json); }
-
-  lad::testing::TempDir dir;
-  Context context;
+  // A session whose greeting, if it had one, has been closed.
+  std::unique_ptr<Session> greeted() {
+    auto s = std::make_unique<Session>(*app);
+    if (s->view()["kind"].text() == "welcome") {
+      EXPECT_TRUE(s->handle(event(R"({"type":"tap","target":"welcome:close"})")).ok());
+    }
+    return s;
+  }
 };
 
 TEST_F(SessionTest, MalformedEventsAreRefusedWithAReason) {
-  Session s(context);
+  Session s(*app);
   const std::pair<const char*, const char*> cases[] = {
       {"[1]", "JSON object"},
       {"{}", "\"type\""},
@@ -31,6 +36,8 @@ TEST_F(SessionTest, MalformedEventsAreRefusedWithAReason) {
       {"{\"type\": \"viewport\", \"width\": 0, \"height\": 844}", "positive"},
       {"{\"type\": \"viewport\", \"width\": -390, \"height\": 844}", "positive"},
       {"{\"type\": \"viewport\", \"width\": 1e9, \"height\": 844}", "positive"},
+      {"{\"type\": \"shortcut\"}", "SCHVATKI or NEWNOTE"},
+      {"{\"type\": \"shortcut\", \"name\": \"OPEN\"}", "SCHVATKI or NEWNOTE"},
   };
   for (const auto& [json, reason] : cases) {
     EventResult r = s.handle(event(json));
@@ -40,13 +47,13 @@ TEST_F(SessionTest, MalformedEventsAreRefusedWithAReason) {
 }
 
 TEST_F(SessionTest, ViewportSetsScaleInPortraitAndTellsTablets) {
-  Session phone(context);
+  Session phone(*app);
   ASSERT_TRUE(phone.handle(event(R"({"type":"viewport","width":390,"height":844})")).ok());
   EXPECT_FALSE(phone.metrics().isTablet);
   EXPECT_DOUBLE_EQ(phone.metrics().scaleX, 390.0 / 320);
   EXPECT_DOUBLE_EQ(phone.metrics().scaleY, 844.0 / 480);
 
-  Session tablet(context);  // held in landscape: the sides are swapped
+  Session tablet(*app);  // held in landscape: the sides are swapped
   ASSERT_TRUE(tablet.handle(event(R"({"type":"viewport","width":1024,"height":768.5})")).ok());
   EXPECT_TRUE(tablet.metrics().isTablet);
   EXPECT_DOUBLE_EQ(tablet.metrics().scaleX, 768.5 / 320);
@@ -55,13 +62,73 @@ TEST_F(SessionTest, ViewportSetsScaleInPortraitAndTellsTablets) {
 }
 
 TEST_F(SessionTest, TapsReachTheMenuAndAllSessionsShareTheInstallation) {
-  Session a(context), b(context);
-  ASSERT_TRUE(a.handle(event(R"({"type":"tap","target":"menu:51"})")).ok());
-  Value view = b.view();
+  auto a = greeted(), b = greeted();
+  ASSERT_TRUE(a->handle(event(R"({"type":"tap","target":"menu:51"})")).ok());
+  Value view = b->view();
   bool found = false;
   for (const Value& row : *view["children"].asList()->front()["rows"].asList())
     if (row["id"].text() == "menu:51") found = row["checked"].boolValue();
   EXPECT_TRUE(found);
+}
+
+TEST_F(SessionTest, TheFirstScreenOfTheLaunchGreetsAndTakesTapsUntilClosed) {
+  Session first(*app), second(*app);
+  EXPECT_EQ(first.view()["kind"].text(), "welcome");
+  EXPECT_EQ(second.view()["kind"].text(), "page") << "the greeting comes once";
+  EXPECT_FALSE(first.handle(event(R"({"type":"tap","target":"menu:51"})")).ok())
+      << "a tap meant for the menu under the greeting is stale";
+  EXPECT_FALSE(app->context().settings().boolForKey("emptyNote"));
+  ASSERT_TRUE(first.handle(event(R"({"type":"tap","target":"welcome:close"})")).ok());
+  EXPECT_EQ(first.view()["kind"].text(), "page");
+}
+
+TEST_F(SessionTest, AShortcutRunsAtTheNextActivationOnTheActivePregnancy) {
+  auto s = greeted();
+  ASSERT_TRUE(s->handle(event(R"({"type":"shortcut","name":"SCHVATKI"})")).ok());
+  EXPECT_EQ(s->activeId(), "");
+  ASSERT_TRUE(s->handle(event(R"({"type":"visible"})")).ok());
+  EXPECT_EQ(s->activeId(), "00000000-0000-0000-0001-000000000001");
+  EXPECT_FALSE(s->view().asMap()->contains("message"));
+}
+
+TEST_F(SessionTest, AShortcutWithoutAPregnancyTellsSoAndAMessageTakesTheTapsUntilClosed) {
+  {
+    StoreBracket bracket = app->store().connectToBase();
+    ASSERT_TRUE(bracket.db()->execute("update preg set deleted=1"));
+  }
+  auto s = greeted();
+  ASSERT_TRUE(s->handle(event(R"({"type":"shortcut","name":"NEWNOTE"})")).ok());
+  ASSERT_TRUE(s->handle(event(R"({"type":"visible"})")).ok());
+  const Value message = s->view()["message"];
+  EXPECT_EQ(message["caption"].text(), "Активная беременность");
+  EXPECT_EQ(message["text"].text(), "Активная беременность не найдена");
+  EXPECT_FALSE(s->handle(event(R"({"type":"tap","target":"menu:51"})")).ok());
+  ASSERT_TRUE(s->handle(event(R"({"type":"tap","target":"message:ok"})")).ok());
+  EXPECT_FALSE(s->view().asMap()->contains("message"));
+
+  // A shortcut that arrives while a message is up is dropped at the activation.
+  s->handle(event(R"({"type":"shortcut","name":"NEWNOTE"})"));
+  s->handle(event(R"({"type":"visible"})"));
+  s->handle(event(R"({"type":"shortcut","name":"NEWNOTE"})"));
+  app->context().values().modalOpen = 1;
+  ASSERT_TRUE(s->handle(event(R"({"type":"visible"})")).ok());
+  ASSERT_TRUE(s->handle(event(R"({"type":"tap","target":"message:ok"})")).ok());
+  app->context().values().modalOpen = 0;
+  ASSERT_TRUE(s->handle(event(R"({"type":"visible"})")).ok());
+  EXPECT_FALSE(s->view().asMap()->contains("message")) << "the dropped shortcut did not run";
+}
+
+TEST_F(SessionTest, HidingAndShowingTheBrowserDrivesTheLock) {
+  auto s = greeted();
+  app->context().settings().set("pass", true);
+  ASSERT_TRUE(s->handle(event(R"({"type":"hidden"})")).ok());
+  clock->advance(std::chrono::seconds(3));
+  ASSERT_TRUE(s->handle(event(R"({"type":"visible"})")).ok());
+  EXPECT_FALSE(s->lockDue());
+  ASSERT_TRUE(s->handle(event(R"({"type":"hidden"})")).ok());
+  clock->advance(std::chrono::seconds(7));
+  ASSERT_TRUE(s->handle(event(R"({"type":"visible"})")).ok());
+  EXPECT_TRUE(s->lockDue());
 }
 
 }  // namespace

@@ -1,13 +1,13 @@
 // Requests to the server. Every successful answer carries the view to show.
-import type { ClientEvent, ViewNode } from './view.js';
+import type { ClientEvent, Screen } from './view.js';
 
 /** The server understood the request and refused it; repeating it will not help. */
 export class RefusedError extends Error {}
 
-async function call(path: string, init: RequestInit = {}): Promise<ViewNode> {
+async function call(path: string, init: RequestInit = {}): Promise<Screen> {
   const response = await fetch(path, { ...init, credentials: 'same-origin', cache: 'no-store' });
   const body: unknown = await response.json().catch(() => null);
-  const answer = (body ?? {}) as { view?: ViewNode; error?: unknown };
+  const answer = (body ?? {}) as { view?: Screen; error?: unknown };
   if (response.ok && answer.view) return answer.view;
   if (response.status >= 400 && response.status < 500) {
     throw new RefusedError(typeof answer.error === 'string' ? answer.error : `${response.status}`);
@@ -16,11 +16,11 @@ async function call(path: string, init: RequestInit = {}): Promise<ViewNode> {
   throw new Error(`${path}: ${response.status}`);
 }
 
-export function fetchView(): Promise<ViewNode> {
+export function fetchView(): Promise<Screen> {
   return call('/api/view');
 }
 
-export function sendEvent(event: ClientEvent): Promise<ViewNode> {
+export function sendEvent(event: ClientEvent): Promise<Screen> {
   return call('/api/event', {
     method: 'POST',
     headers: { 'Content-Type': 'application/json' },

@@ -4,7 +4,7 @@ import { fetchView, RefusedError, sendEvent } from './api.js';
 import { listen } from './events.js';
 import { showNotice } from './notice.js';
 import { show } from './screen.js';
-import type { ViewNode } from './view.js';
+import type { ClientEvent, Screen } from './view.js';
 import { onViewportChange, viewportEvent } from './viewport.js';
 
 const RETRY_FIRST_MS = 1000;
@@ -13,13 +13,14 @@ const RETRY_MAX_MS = 30000;
 const root = document.getElementById('app') ?? document.body;
 let newest = 0; // number of the newest request; answers to older ones are dropped
 let viewportSent = false;
+let activated = false;
 let tapping = false;
 let listening = false;
 let retryDelay = RETRY_FIRST_MS;
 let retryTimer: number | undefined;
 
 /** Runs a request whose answer is a view and shows it. Resolves to whether the server answered. */
-async function request(load: () => Promise<ViewNode>): Promise<boolean> {
+async function request(load: () => Promise<Screen>): Promise<boolean> {
   const ticket = ++newest;
   try {
     const view = await load();
@@ -37,8 +38,25 @@ async function request(load: () => Promise<ViewNode>): Promise<boolean> {
 /** Brings the screen up to date with the server, telling it the viewport size if it lacks it. */
 async function sync(): Promise<void> {
   if ((await request(fetchView)) && !viewportSent) {
-    viewportSent = await request(() => sendEvent(viewportEvent()));
+    viewportSent = await send(viewportEvent());
   }
+  if (viewportSent && !activated) activated = await activate();
+}
+
+/** The page came up: the shortcut it was opened with waits for this first activation. */
+async function activate(): Promise<boolean> {
+  const url = new URL(window.location.href);
+  const shortcut = url.searchParams.get('shortcut');
+  if (shortcut !== null) {
+    url.searchParams.delete('shortcut');
+    window.history.replaceState(null, '', url);
+    await send({ type: 'shortcut', name: shortcut });
+  }
+  return send({ type: 'visible' });
+}
+
+function send(event: ClientEvent): Promise<boolean> {
+  return request(() => sendEvent(event));
 }
 
 function retryLater(): void {
@@ -58,33 +76,40 @@ function startListening(): void {
   listen({ refresh: () => void request(fetchView), notice: showNotice, reconnected: () => void sync() });
 }
 
-async function tap(row: HTMLElement): Promise<void> {
-  const id = row.dataset.id;
-  if (tapping || id === undefined || row.classList.contains('disabled')) return;
+async function tap(control: HTMLElement): Promise<void> {
+  const id = control.dataset.id;
+  if (tapping || id === undefined || control.classList.contains('disabled')) return;
   tapping = true;
   root.classList.add('busy');
   try {
-    await request(() => sendEvent({ type: 'tap', target: id }));
+    await send({ type: 'tap', target: id });
   } finally {
     tapping = false;
     root.classList.remove('busy');
   }
 }
 
-function rowOf(target: EventTarget | null): HTMLElement | null {
-  return target instanceof Element ? target.closest<HTMLElement>('.row') : null;
+/** The row or button that a click or key press is meant for. */
+function controlOf(target: EventTarget | null): HTMLElement | null {
+  return target instanceof Element ? target.closest<HTMLElement>('.row, button[data-id]') : null;
 }
 
 root.addEventListener('click', (event) => {
-  const row = rowOf(event.target);
-  if (row) void tap(row);
+  const control = controlOf(event.target);
+  if (control) void tap(control);
 });
 root.addEventListener('keydown', (event) => {
-  const row = rowOf(event.target);
-  if (row && (event.key === 'Enter' || event.key === ' ')) {
+  const control = controlOf(event.target);
+  // Buttons turn Enter and Space into clicks themselves.
+  if (control?.classList.contains('row') && (event.key === 'Enter' || event.key === ' ')) {
     event.preventDefault();
-    void tap(row);
+    void tap(control);
   }
+});
+// Showing and hiding the page is what activates and deactivates the program.
+document.addEventListener('visibilitychange', () => {
+  if (!activated) return;
+  void send({ type: document.visibilityState === 'visible' ? 'visible' : 'hidden' });
 });
 onViewportChange(() => {
   viewportSent = false;

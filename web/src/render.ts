@@ -1,6 +1,15 @@
 // Turns a view description into DOM. All text shown comes from the description itself.
 import { element } from './dom.js';
-import type { ListNode, PageNode, RowNode, ViewNode } from './view.js';
+import type {
+  ButtonNode,
+  ButtonsNode,
+  ListNode,
+  MessageNode,
+  PageNode,
+  RowNode,
+  ViewNode,
+  WelcomeNode,
+} from './view.js';
 
 export function render(node: ViewNode): HTMLElement | null {
   switch (node.kind) {
@@ -12,6 +21,14 @@ export function render(node: ViewNode): HTMLElement | null {
       return element('h2', 'section', node.caption);
     case 'row':
       return renderRow(node);
+    case 'welcome':
+      return renderWelcome(node);
+    case 'text':
+      return element('p', 'welcome-text', node.text);
+    case 'buttons':
+      return renderButtons(node);
+    case 'message':
+      return renderMessage(node);
     default:
       return null; // kinds this build does not know are skipped
   }
@@ -42,7 +59,7 @@ function renderRow(node: RowNode): HTMLElement {
   const row = element('div', 'row');
   row.dataset.id = node.id;
   row.setAttribute('role', 'listitem');
-  if (node.icon) row.append(renderIcon(node.icon));
+  if (node.icon) row.append(renderIcon(node.icon, 'icon'));
 
   // With no caption the comment becomes the main text.
   const caption = node.caption || node.comment || '';
@@ -68,8 +85,8 @@ function renderRow(node: RowNode): HTMLElement {
   return row;
 }
 
-function renderIcon(name: string): HTMLElement {
-  const img = element('img', 'icon');
+function renderIcon(name: string, className: string): HTMLElement {
+  const img = element('img', className);
   img.alt = '';
   // A missing picture leaves its slot empty so the rows stay aligned.
   img.addEventListener('error', () => img.classList.add('broken'), { once: true });
@@ -83,4 +100,45 @@ function renderSwitch(checked: boolean, label: string): HTMLElement {
   toggle.setAttribute('aria-checked', String(checked));
   toggle.setAttribute('aria-label', label);
   return toggle;
+}
+
+function renderWelcome(node: WelcomeNode): HTMLElement {
+  const welcome = element('div', 'welcome');
+  welcome.dataset.accent = node.accent;
+  const body = element('main', 'welcome-body');
+  body.append(renderIcon(node.icon, 'welcome-icon'), element('h1', 'welcome-caption', node.caption));
+  body.append(...renderAll(node.children));
+  const footer = element('footer', 'welcome-footer');
+  footer.append(renderButton(node.close));
+  welcome.append(body, footer);
+  return welcome;
+}
+
+function renderButtons(node: ButtonsNode): HTMLElement {
+  const row = element('div', 'buttons');
+  row.append(...node.buttons.map(renderButton));
+  return row;
+}
+
+/** A button that sends a tap with its id; a disabled one sends nothing. */
+function renderButton(node: ButtonNode): HTMLElement {
+  const button = element('button', 'action', node.caption);
+  button.type = 'button';
+  button.dataset.id = node.id;
+  button.disabled = node.enabled === false;
+  return button;
+}
+
+function renderMessage(node: MessageNode): HTMLElement {
+  const cover = element('div', 'modal');
+  const box = element('div', 'message');
+  box.setAttribute('role', 'alertdialog');
+  box.setAttribute('aria-modal', 'true');
+  const caption = element('h2', 'message-caption', node.caption);
+  caption.id = 'message-caption';
+  box.setAttribute('aria-labelledby', caption.id);
+  box.append(caption, element('p', 'message-text', node.text));
+  box.append(renderButton({ id: node.id, caption: node.button }));
+  cover.append(box);
+  return cover;
 }

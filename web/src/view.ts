@@ -28,8 +28,59 @@ export interface PageNode {
   children: ViewNode[];
 }
 
-export type ViewNode = PageNode | ListNode | SectionNode | RowNode;
+export interface ButtonNode {
+  id: string;
+  caption: string;
+  enabled?: boolean;
+}
+
+export interface TextNode {
+  kind: 'text';
+  text: string;
+}
+
+/** Buttons side by side, sharing the width. */
+export interface ButtonsNode {
+  kind: 'buttons';
+  buttons: ButtonNode[];
+}
+
+/** The greeting that covers the whole screen once per version. */
+export interface WelcomeNode {
+  kind: 'welcome';
+  icon: string;
+  caption: string;
+  /** Names the edition's colour of the buttons. */
+  accent: string;
+  children: ViewNode[];
+  close: ButtonNode;
+}
+
+/** A message over the screen, closed by its one button. */
+export interface MessageNode {
+  kind: 'message';
+  id: string;
+  caption: string;
+  text: string;
+  button: string;
+}
+
+export type ViewNode =
+  | PageNode
+  | ListNode
+  | SectionNode
+  | RowNode
+  | WelcomeNode
+  | TextNode
+  | ButtonsNode
+  | MessageNode;
+
+/** What the server sends: the screen on top, with a message over it while one is open. */
+export type Screen = ViewNode & { message?: MessageNode };
 
 export type ClientEvent =
   | { type: 'tap'; target: string }
-  | { type: 'viewport'; width: number; height: number };
+  | { type: 'viewport'; width: number; height: number }
+  | { type: 'visible' }
+  | { type: 'hidden' }
+  | { type: 'shortcut'; name: string };

@@ -1,0 +1,59 @@
+// The installation as a running program: it launches once, greets once per version, and
+// follows its browsers becoming visible (an activation) and hidden (a deactivation).
+#pragma once
+
+#include <filesystem>
+#include <functional>
+#include <memory>
+#include <optional>
+
+#include "core/context.h"
+#include "shell/message_box.h"
+#include "store/store.h"
+
+namespace lad::shell {
+
+// Which greeting the welcome screen gives.
+enum class Greeting { NewInstallation, Update };
+
+// What an activation asks of the browser that caused it.
+struct Activation {
+  bool lockDue = false;  // the password lock must cover the screen
+};
+
+class Application {
+ public:
+  // Opens the installation and runs its launch: shared values, translation, the live
+  // database, identity and menu table.
+  explicit Application(ContextOptions options);
+
+  Context& context() { return *context_; }
+  Store& store() { return *store_; }
+
+  // The version record, taken when the first screen appears: the greeting due for this
+  // version, once, and afterwards nothing.
+  std::optional<Greeting> takeVersionRecord();
+
+  // A browser became visible: counts the activation (asking for a review at every tenth),
+  // marks every page for rebuilding, and tells whether the lock is due.
+  Activation becomeActive();
+  // A browser was hidden: the moment is kept for the lock's grace time.
+  void resignActive();
+
+  // A file handed over by another program is kept for the analyses or the doctor's chat; the
+  // message tells the user where to use it.
+  MessageBox openURL(const std::filesystem::path& file);
+
+  // Called at every tenth activation; asking for a review is the host's business.
+  void onReviewRequest(std::function<void()> ask) { askReview_ = std::move(ask); }
+
+ private:
+  bool lockDue() const;
+
+  std::unique_ptr<Context> context_;
+  std::unique_ptr<Store> store_;
+  bool versionRecordTaken_ = false;
+  std::function<void()> askReview_;
+};
+
+}  // namespace lad::shell

@@ -1,0 +1,20 @@
+#include "shell/message_box.h"
+
+namespace lad::shell {
+
+MessageBox MessageBox::make(const Context& context, std::string_view text, std::string_view caption,
+                            std::string_view button) {
+  return {context.translate(caption), context.translate(text), context.translate(button)};
+}
+
+Value MessageBox::toValue() const {
+  Map m;
+  m.set("kind", "message");
+  m.set("caption", caption);
+  m.set("text", text);
+  m.set("button", button);
+  m.set("id", std::string(kMessageClose));
+  return Value(std::move(m));
+}
+
+}  // namespace lad::shell

@@ -1,0 +1,16 @@
+#include "store/tables.h"
+
+namespace lad {
+
+const EditionTables& tablesFor(int appid) {
+  static const EditionTables pregnancy{"preg",      "pregid",     "pregdata",
+                                       "pregconst", "pregselect", "pregguid"};
+  static const EditionTables child{"child",      "chid",        "childdata",
+                                   "childconst", "childselect", "childguid"};
+  static const EditionTables woman{"woman", "womid", "womdata", "womconst", "womselect", "womguid"};
+  if (appid == 2) return child;
+  if (appid == 3) return woman;
+  return pregnancy;
+}
+
+}  // namespace lad

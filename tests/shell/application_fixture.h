@@ -1,0 +1,31 @@
+// An installation launched as the program launches it, on a temporary folder with the real
+// templates and a clock that the test moves.
+#pragma once
+
+#include <gtest/gtest.h>
+
+#include <memory>
+
+#include "shell/application.h"
+#include "tests/support/test_files.h"
+
+namespace lad::testing {
+
+class ApplicationTest : public ::testing::Test {
+ protected:
+  // Each call is one more launch of the same installation, possibly of another version.
+  shell::Application& launchApp(int appid = 1, const std::string& version = "1.0", int langid = 1) {
+    app.reset();
+    app = std::make_unique<shell::Application>(
+        ContextOptions{appid, langid, dir.path(), version, clock, LADANEYA_RESOURCES_DIR});
+    return *app;
+  }
+  SettingsStore& settings() { return app->context().settings(); }
+
+  TempDir dir;
+  std::shared_ptr<ManualClock> clock =
+      std::make_shared<ManualClock>(*dateFromIso("2026-11-23T09:00:00Z"), "Europe/Berlin");
+  std::unique_ptr<shell::Application> app;
+};
+
+}  // namespace lad::testing

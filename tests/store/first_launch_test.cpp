@@ -1,0 +1,84 @@
+#include "store/first_launch.h"
+
+#include <gtest/gtest.h>
+
+#include "tests/store/store_fixture.h"
+
+namespace lad {
+namespace {
+
+using namespace std::chrono_literals;
+
+class FirstLaunchTest : public testing::StoreTest {
+ protected:
+  void launchAgain(int appid) {
+    open(appid);
+    fromOldVersion(*store);
+  }
+};
+
+TEST_F(FirstLaunchTest, ANewPregnancyDiaryStartsTodayAndGreetsAsANewInstallation) {
+  launchAgain(1);
+  EXPECT_TRUE(context->settings().boolForKey("FirstStart"));
+  EXPECT_EQ(cell("select sdat1 from preg where pregid=1"), "2026-03-30");
+  EXPECT_EQ(cell("select sdat2 from preg where pregid=1"), "2026-04-12");
+  EXPECT_EQ(cell("select sbirthdate from preg where pregid=1"), "2027-01-04");
+  EXPECT_EQ(cell("select dat1 from preg where pregid=1"), "1774857600");
+  EXPECT_EQ(context->values().startUse, "2026-03-30");
+  EXPECT_EQ(cell("select startuse from preg where pregid=1"), "2026-03-30");
+
+  // A later launch keeps the first day of use and the dates the user may since have changed.
+  context->settings().set("FirstStart", false);
+  context->settings().synchronize();
+  {
+    StoreBracket bracket = store->connectToBase();
+    ASSERT_TRUE(bracket.db()->execute("update preg set sdat1='2026-02-01' where pregid=1"));
+  }
+  clock->advance(72h);
+  launchAgain(1);
+  EXPECT_EQ(context->values().startUse, "2026-03-30");
+  EXPECT_EQ(cell("select sdat1 from preg where pregid=1"), "2026-02-01");
+  EXPECT_TRUE(context->settings().boolForKey("FirstStart"))
+      << "without the old setting Date every launch counts as a first start";
+}
+
+TEST_F(FirstLaunchTest, TheOldSettingDateMarksAnUpdate) {
+  open(1);
+  context->settings().set("Date", testNow());
+  fromOldVersion(*store);
+  EXPECT_FALSE(context->settings().boolForKey("FirstStart"));
+}
+
+TEST_F(FirstLaunchTest, AChildIsBornTodayOnlyInANewFile) {
+  launchAgain(2);
+  EXPECT_TRUE(context->settings().boolForKey("FirstStart"));
+  EXPECT_EQ(cell("select sbirthdate from child where chid=1"), "2026-03-30");
+  EXPECT_EQ(cell("select birthday from child where chid=1"), "1774857600");
+
+  context->settings().set("FirstStart", false);
+  context->settings().synchronize();
+  clock->advance(24h);
+  launchAgain(2);
+  EXPECT_FALSE(context->settings().boolForKey("FirstStart"));
+  EXPECT_EQ(cell("select sbirthdate from child where chid=1"), "2026-03-30");
+}
+
+TEST_F(FirstLaunchTest, TheWomansEditionNeverMarksAFirstStart) {
+  launchAgain(3);
+  EXPECT_FALSE(context->settings().boolForKey("FirstStart"));
+  EXPECT_EQ(cell("select womguid from woman where womid=1"),
+            "00000000-0000-0000-0001-000000000001");
+  EXPECT_EQ(context->values().startUse, "2026-03-30");
+}
+
+TEST_F(FirstLaunchTest, AnUnreadableDatabaseStaysAsItIsAndTheDiaryIsEmpty) {
+  open(1);
+  std::filesystem::create_directories(reserv());
+  testing::writeFile(store->liveFile(), "not a database at all");
+  fromOldVersion(*store);
+  EXPECT_EQ(testing::readFile(store->liveFile()), "not a database at all");
+  EXPECT_EQ(context->values().startUse, "2026-03-30");
+}
+
+}  // namespace
+}  // namespace lad

@@ -1,0 +1,46 @@
+// An installation on a temporary folder with the program's real database templates, a clock
+// pinned in a zone with daylight saving, and a way to look into the live file directly.
+#pragma once
+
+#include <gtest/gtest.h>
+
+#include <memory>
+
+#include "core/context.h"
+#include "core/launch.h"
+#include "store/store.h"
+#include "tests/support/test_files.h"
+
+namespace lad::testing {
+
+class StoreTest : public ::testing::Test {
+ protected:
+  // 2026-03-30 10:00 in Berlin: the day after the change to summer time.
+  static Date testNow() { return *dateFromIso("2026-03-30T08:00:00Z"); }
+
+  void open(int appid = 1, int langid = 1) {
+    store.reset();
+    context.reset();
+    clock = std::make_shared<ManualClock>(testNow(), "Europe/Berlin");
+    context = std::make_unique<Context>(
+        ContextOptions{appid, langid, dir.path(), "1.0", clock, LADANEYA_RESOURCES_DIR});
+    launch(*context);
+    store = std::make_unique<Store>(*context);
+  }
+
+  std::filesystem::path reserv() const { return dir.path() / "Documents" / "reserv"; }
+
+  // One text cell of the live file, read past the store.
+  std::optional<std::string> cell(const std::string& sql) {
+    SqliteConnection db(store->liveFile(), SqliteConnection::Mode::ReadOnly);
+    SqliteStatement st = db.prepare(sql);
+    return st.step() ? st.columnText(0) : std::nullopt;
+  }
+
+  TempDir dir;
+  std::shared_ptr<ManualClock> clock;
+  std::unique_ptr<Context> context;
+  std::unique_ptr<Store> store;
+};
+
+}  // namespace lad::testing
