@@ -25,5 +25,7 @@ export function sendEvent(event: ClientEvent): Promise<Screen> {
     method: 'POST',
     headers: { 'Content-Type': 'application/json' },
     body: JSON.stringify(event),
+    // A page being hidden may be closing: its last event still goes out.
+    keepalive: true,
   });
 }
