@@ -1,0 +1,40 @@
+#include "platform/images.h"
+
+#include <algorithm>
+#include <array>
+
+#include "platform/codec_support.h"
+#include "platform/jpeg_decode.h"
+
+namespace lad {
+
+namespace {
+
+constexpr std::array<std::uint8_t, 3> kJpegSignature = {0xFF, 0xD8, 0xFF};
+
+template <std::size_t N>
+bool startsWith(std::span<const std::uint8_t> bytes, const std::array<std::uint8_t, N>& head) {
+  return bytes.size() >= N && std::equal(head.begin(), head.end(), bytes.begin());
+}
+
+}  // namespace
+
+std::optional<Image> decodeImage(std::span<const std::uint8_t> bytes, std::string* error) {
+  if (startsWith(bytes, kJpegSignature)) return decodeJpeg(bytes, error);
+  fail(error, "not a JPEG image");
+  return std::nullopt;
+}
+
+std::optional<std::vector<std::uint8_t>> toJpeg(std::span<const std::uint8_t> bytes, int quality,
+                                                std::string* error) {
+  const auto image = decodeImage(bytes, error);
+  if (!image) return std::nullopt;
+  auto jpeg = encodeJpeg(*image, quality);
+  if (jpeg.empty()) {
+    fail(error, "the image could not be written as JPEG");
+    return std::nullopt;
+  }
+  return jpeg;
+}
+
+}  // namespace lad

@@ -1,0 +1,32 @@
+// Photos as the diary takes them in (JPEG or PNG from a browser) and keeps them (JPEG).
+#pragma once
+
+#include <cstdint>
+#include <optional>
+#include <span>
+#include <string>
+#include <vector>
+
+namespace lad {
+
+// 8-bit RGB pixels, rows top to bottom, three bytes a pixel, no padding.
+struct Image {
+  int width = 0;
+  int height = 0;
+  std::vector<std::uint8_t> rgb;
+};
+
+// Reads a JPEG, told by its signature, with its EXIF orientation applied so that a phone photo
+// stands upright. Anything else, data cut short, or more than 50 megapixels gives nullopt and a
+// text in `error` (when given).
+std::optional<Image> decodeImage(std::span<const std::uint8_t> bytes, std::string* error);
+
+// Baseline JPEG of the image; quality 1 to 100 (clamped). Empty for an image without pixels or
+// whose `rgb` does not hold width * height pixels.
+std::vector<std::uint8_t> encodeJpeg(const Image& image, int quality);
+
+// Any image that decodeImage reads, as a JPEG of the given quality.
+std::optional<std::vector<std::uint8_t>> toJpeg(std::span<const std::uint8_t> bytes, int quality,
+                                                std::string* error);
+
+}  // namespace lad

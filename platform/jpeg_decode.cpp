@@ -1,0 +1,79 @@
+#include "platform/jpeg_decode.h"
+
+#include "platform/codec_support.h"
+#include "platform/exif_orientation.h"
+#include "platform/image_orientation.h"
+#include "platform/jpeg_errors.h"
+
+namespace lad {
+
+namespace {
+
+constexpr unsigned kExifMarker = JPEG_APP0 + 1;
+constexpr unsigned kLongestMarker = 0xFFFF;
+
+int orientationOf(const jpeg_decompress_struct& codec) {
+  for (jpeg_saved_marker_ptr m = codec.marker_list; m; m = m->next) {
+    if (m->marker != kExifMarker) continue;
+    const int orientation = exifOrientation({m->data, m->data_length});
+    if (orientation != 1) return orientation;
+  }
+  return 1;
+}
+
+bool refused(jpeg_decompress_struct* codec, std::string* error, std::string_view text) {
+  jpeg_destroy_decompress(codec);
+  return fail(error, text);
+}
+
+bool isCmyk(const jpeg_decompress_struct& codec) {
+  return codec.jpeg_color_space == JCS_CMYK || codec.jpeg_color_space == JCS_YCCK;
+}
+
+// Fills `image` with the stored (not yet turned) pixels. libjpeg leaves this frame through
+// longjmp on any error, so only C objects live in it; the pixels belong to the caller.
+bool readJpeg(std::span<const std::uint8_t> bytes, Image* image, int* orientation,
+              std::string* error) {
+  jpeg_decompress_struct codec;
+  JpegErrors errors;
+  codec.err = useJpegErrors(&errors);
+  if (setjmp(errors.jump)) {
+    jpeg_destroy_decompress(&codec);
+    return fail(error, std::string("JPEG: ") + errors.message);
+  }
+  jpeg_create_decompress(&codec);
+  jpeg_mem_src(&codec, bytes.data(), bytes.size());
+  jpeg_save_markers(&codec, kExifMarker, kLongestMarker);
+  jpeg_read_header(&codec, TRUE);
+  if (exceedsPixelLimit(codec.image_width, codec.image_height)) {
+    return refused(&codec, error, kTooManyPixels);
+  }
+  if (isCmyk(codec)) return refused(&codec, error, "CMYK JPEG images are not supported");
+  *orientation = orientationOf(codec);
+  codec.out_color_space = JCS_RGB;
+  jpeg_start_decompress(&codec);
+  const std::size_t rowSize = std::size_t{codec.output_width} * 3;
+  if (!tryResize(image->rgb, rowSize * codec.output_height)) {
+    return refused(&codec, error, "not enough memory for the image");
+  }
+  while (codec.output_scanline < codec.output_height) {
+    JSAMPROW row = image->rgb.data() + codec.output_scanline * rowSize;
+    jpeg_read_scanlines(&codec, &row, 1);
+  }
+  image->width = static_cast<int>(codec.output_width);
+  image->height = static_cast<int>(codec.output_height);
+  jpeg_finish_decompress(&codec);
+  jpeg_destroy_decompress(&codec);
+  return true;
+}
+
+}  // namespace
+
+std::optional<Image> decodeJpeg(std::span<const std::uint8_t> bytes, std::string* error) {
+  Image image;
+  int orientation = 1;
+  if (!readJpeg(bytes, &image, &orientation, error)) return std::nullopt;
+  return orientedUpright(std::move(image), orientation);
+}
+
+}  // namespace lad

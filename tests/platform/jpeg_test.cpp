@@ -1,0 +1,82 @@
+#include <gtest/gtest.h>
+
+#include "image_samples.h"
+#include "platform/images.h"
+
+namespace lad::test {
+namespace {
+
+TEST(Jpeg, RoundTripKeepsSizeAndColours) {
+  const Image source = quadrants(40, 30);
+  for (int quality : {50, 100}) {
+    const auto jpeg = encodeJpeg(source, quality);
+    std::string error;
+    const auto decoded = decodeImage(jpeg, &error);
+    ASSERT_TRUE(decoded) << error;
+    EXPECT_EQ(decoded->width, 40);
+    EXPECT_EQ(decoded->height, 30);
+    expectQuarters(*decoded, {kRed, kGreen, kBlue, kWhite});
+  }
+}
+
+TEST(Jpeg, QualityIsClampedAndChangesTheSize) {
+  const Image source = noise(64, 64);
+  EXPECT_LT(encodeJpeg(source, 10).size(), encodeJpeg(source, 100).size() / 2);
+  EXPECT_EQ(encodeJpeg(source, -5), encodeJpeg(source, 1));
+  EXPECT_EQ(encodeJpeg(source, 250), encodeJpeg(source, 100));
+}
+
+TEST(Jpeg, ImageWithoutItsPixelsIsNotEncoded) {
+  EXPECT_TRUE(encodeJpeg(Image{}, 90).empty());
+  Image tooShort = quadrants(8, 8);
+  tooShort.rgb.pop_back();
+  EXPECT_TRUE(encodeJpeg(tooShort, 90).empty());
+}
+
+TEST(Jpeg, ExifOrientationStandsThePhotoUpright) {
+  // Colours of the shown quarters (top left, top right, bottom left, bottom right) of the
+  // stored red-green / blue-white picture, for each orientation.
+  const std::array<std::array<Rgb, 4>, 8> shown = {{
+      {kRed, kGreen, kBlue, kWhite},
+      {kGreen, kRed, kWhite, kBlue},
+      {kWhite, kBlue, kGreen, kRed},
+      {kBlue, kWhite, kRed, kGreen},
+      {kRed, kBlue, kGreen, kWhite},
+      {kBlue, kRed, kWhite, kGreen},
+      {kWhite, kGreen, kBlue, kRed},
+      {kGreen, kWhite, kRed, kBlue},
+  }};
+  const auto jpeg = encodeJpeg(quadrants(48, 32), 95);
+  for (int orientation = 1; orientation <= 8; ++orientation) {
+    SCOPED_TRACE(orientation);
+    const bool littleEndian = orientation % 2 == 0;
+    const auto decoded = decodeImage(withExifOrientation(jpeg, orientation, littleEndian), nullptr);
+    ASSERT_TRUE(decoded);
+    const bool turned = orientation >= 5;
+    EXPECT_EQ(decoded->width, turned ? 32 : 48);
+    EXPECT_EQ(decoded->height, turned ? 48 : 32);
+    expectQuarters(*decoded, shown[orientation - 1]);
+  }
+}
+
+TEST(Jpeg, UnusableExifLeavesThePixelsAsStored) {
+  const auto jpeg = encodeJpeg(quadrants(48, 32), 95);
+  const std::vector<std::vector<std::uint8_t>> payloads = {
+      {'E', 'x', 'i', 'f', 0, 0, 'M', 'M', 0, 42, 0x7F, 0, 0, 0},     // directory past the end
+      {'E', 'x', 'i', 'f', 0, 0, 'M', 'M', 0, 42, 0, 0, 0, 8, 0, 9},  // entries past the end
+      {'E', 'x', 'i', 'f', 0, 0, 'M', 'I', 0, 42, 0, 0, 0, 8},        // no byte order
+      {'h', 't', 't', 'p', ':', '/', '/'},                            // another APP1 kind
+  };
+  for (const auto& payload : payloads) {
+    const auto decoded = decodeImage(withApp1(jpeg, payload), nullptr);
+    ASSERT_TRUE(decoded);
+    EXPECT_EQ(decoded->width, 48);
+    expectQuarters(*decoded, {kRed, kGreen, kBlue, kWhite});
+  }
+  const auto outOfRange = decodeImage(withExifOrientation(jpeg, 9, false), nullptr);
+  ASSERT_TRUE(outOfRange);
+  EXPECT_EQ(outOfRange->width, 48);
+}
+
+}  // namespace
+}  // namespace lad::test
