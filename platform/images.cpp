@@ -5,12 +5,14 @@
 
 #include "platform/codec_support.h"
 #include "platform/jpeg_decode.h"
+#include "platform/png_decode.h"
 
 namespace lad {
 
 namespace {
 
 constexpr std::array<std::uint8_t, 3> kJpegSignature = {0xFF, 0xD8, 0xFF};
+constexpr std::array<std::uint8_t, 8> kPngSignature = {0x89, 'P', 'N', 'G', '\r', '\n', 0x1A, '\n'};
 
 template <std::size_t N>
 bool startsWith(std::span<const std::uint8_t> bytes, const std::array<std::uint8_t, N>& head) {
@@ -21,7 +23,8 @@ bool startsWith(std::span<const std::uint8_t> bytes, const std::array<std::uint8
 
 std::optional<Image> decodeImage(std::span<const std::uint8_t> bytes, std::string* error) {
   if (startsWith(bytes, kJpegSignature)) return decodeJpeg(bytes, error);
-  fail(error, "not a JPEG image");
+  if (startsWith(bytes, kPngSignature)) return decodePng(bytes, error);
+  fail(error, "not a JPEG or PNG image");
   return std::nullopt;
 }
 

@@ -16,9 +16,10 @@ struct Image {
   std::vector<std::uint8_t> rgb;
 };
 
-// Reads a JPEG, told by its signature, with its EXIF orientation applied so that a phone photo
-// stands upright. Anything else, data cut short, or more than 50 megapixels gives nullopt and a
-// text in `error` (when given).
+// Reads a JPEG or PNG, told apart by their signatures. Transparency is composed over white,
+// grey, palette and 16-bit images come out as 8-bit RGB, and a JPEG's EXIF orientation is
+// applied so that a phone photo stands upright. Anything else, data cut short, or more than
+// 50 megapixels gives nullopt and a text in `error` (when given).
 std::optional<Image> decodeImage(std::span<const std::uint8_t> bytes, std::string* error);
 
 // Baseline JPEG of the image; quality 1 to 100 (clamped). Empty for an image without pixels or

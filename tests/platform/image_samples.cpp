@@ -61,6 +61,22 @@ void expectQuarters(const Image& image, const std::array<Rgb, 4>& expected) {
   }
 }
 
+std::vector<std::uint8_t> pngOf(int width, int height, png_uint_32 format, const void* pixels,
+                                const void* colormap, int colormapEntries) {
+  png_image header{};
+  header.version = PNG_IMAGE_VERSION;
+  header.width = width;
+  header.height = height;
+  header.format = format;
+  header.colormap_entries = colormapEntries;
+  png_alloc_size_t size = 0;
+  png_image_write_to_memory(&header, nullptr, &size, 0, pixels, 0, colormap);
+  std::vector<std::uint8_t> png(size);
+  if (!png_image_write_to_memory(&header, png.data(), &size, 0, pixels, 0, colormap)) return {};
+  png.resize(size);
+  return png;
+}
+
 std::vector<std::uint8_t> withApp1(std::vector<std::uint8_t> jpeg,
                                    const std::vector<std::uint8_t>& payload) {
   std::vector<std::uint8_t> segment = {0xFF, 0xE1};

@@ -1,6 +1,8 @@
 // Images and files made for the image codec tests.
 #pragma once
 
+#include <png.h>
+
 #include <array>
 #include <cstdint>
 #include <vector>
@@ -25,6 +27,9 @@ Rgb pixelAt(const Image& image, int x, int y);
 // bottom right) within the error that JPEG compression brings.
 void expectQuarters(const Image& image, const std::array<Rgb, 4>& expected);
 
+// A PNG written by libpng from pixels in one of its simplified formats (PNG_FORMAT_*).
+std::vector<std::uint8_t> pngOf(int width, int height, png_uint_32 format, const void* pixels,
+                                const void* colormap = nullptr, int colormapEntries = 0);
 // The JPEG with an APP1 EXIF segment that holds the orientation, in either byte order.
 std::vector<std::uint8_t> withExifOrientation(std::vector<std::uint8_t> jpeg, int orientation,
                                               bool littleEndian);
