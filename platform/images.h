@@ -30,4 +30,9 @@ std::vector<std::uint8_t> encodeJpeg(const Image& image, int quality);
 std::optional<std::vector<std::uint8_t>> toJpeg(std::span<const std::uint8_t> bytes, int quality,
                                                 std::string* error);
 
+// The image shrunk so that neither side exceeds maxSide (at least 1), keeping its aspect; each
+// new pixel is the area-weighted mean of the pixels it covers. Smaller images come back as they
+// are.
+Image scaledToFit(const Image& image, int maxSide);
+
 }  // namespace lad
