@@ -1,12 +1,17 @@
-// Whole-file replacement that a crash cannot leave half-written: the new content goes to a
-// temporary file beside the target, is flushed to disk, and is renamed over the target.
+// Whole files: reading one at once, and a replacement that a crash cannot leave half-written (the
+// new content goes to a temporary file beside the target, is flushed to disk, and is renamed
+// over the target).
 #pragma once
 
 #include <filesystem>
+#include <optional>
 #include <string>
 #include <string_view>
 
 namespace lad {
+
+// The whole content of a file; nullopt when it cannot be read.
+std::optional<std::string> readWholeFile(const std::filesystem::path& file);
 
 // Returns false and fills *error (if given) when any step fails; the target is then untouched.
 bool writeFileAtomically(const std::filesystem::path& target, std::string_view content,

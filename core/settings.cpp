@@ -1,8 +1,6 @@
 #include "core/settings.h"
 
 #include <chrono>
-#include <fstream>
-#include <sstream>
 
 #include "core/atomic_file.h"
 
@@ -13,12 +11,10 @@ SettingsStore::SettingsStore(std::filesystem::path file) : file_(std::move(file)
 }
 
 void SettingsStore::load() {
-  std::ifstream in(file_, std::ios::binary);
-  if (!in) return;
-  std::ostringstream text;
-  text << in.rdbuf();
+  const auto text = readWholeFile(file_);
+  if (!text) return;
   std::string error;
-  auto parsed = Value::fromJson(text.str(), &error);
+  auto parsed = Value::fromJson(*text, &error);
   if (parsed && parsed->asMap()) {
     values_ = std::move(*parsed->asMap());
     return;

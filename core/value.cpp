@@ -233,7 +233,11 @@ Map* Value::asMap() {
 
 const Value& Value::operator[](std::string_view key) const {
   const Map* m = asMap();
-  const Value* v = m ? m->find(key) : nullptr;
+  return m ? (*m)[key] : nullValue();
+}
+
+const Value& Map::operator[](std::string_view key) const {
+  const Value* v = find(key);
   return v ? *v : nullValue();
 }
 

@@ -106,6 +106,8 @@ class Map {
   const Value* find(std::string_view key) const;
   Value* find(std::string_view key);
   bool contains(std::string_view key) const { return find(key) != nullptr; }
+  // The value of the key; null when it is absent.
+  const Value& operator[](std::string_view key) const;
   // Replaces the value of an existing key in place, or appends a new key.
   void set(std::string_view key, Value v);
   bool erase(std::string_view key);

@@ -4,6 +4,7 @@
 
 #include <filesystem>
 #include <optional>
+#include <string>
 #include <string_view>
 
 namespace lad {
@@ -20,5 +21,8 @@ std::optional<std::filesystem::path> getSystemFolder(const Context& context, std
 std::filesystem::path typeFilePath(const std::filesystem::path& base, std::string_view filename);
 
 bool isDirectory(const std::filesystem::path& path);
+
+// The portrait of a profile: "child-<guid>.jpg" among the pictures.
+std::filesystem::path portraitFile(const Context& context, const std::string& gid);
 
 }  // namespace lad

@@ -1,0 +1,176 @@
+#include "store/setup_data.h"
+
+#include <gtest/gtest.h>
+
+#include "core/ids.h"
+#include "platform/images.h"
+#include "store/first_launch.h"
+#include "store/folders.h"
+#include "store/profiles.h"
+#include "store/setup_editor.h"
+#include "tests/store/store_fixture.h"
+
+namespace lad {
+namespace {
+
+class SetupDataTest : public testing::StoreTest {
+ protected:
+  void SetUp() override {
+    open(1);
+    fromOldVersion(*store);
+  }
+  static Value row(const char* field, Value source) {
+    Map m;
+    m.set("field", field);
+    m.set("source", std::move(source));
+    return Value(std::move(m));
+  }
+  // The editor's rows of a pregnancy; the name row is left out when name is null.
+  static List editorRows(const char* sdat1, const char* sdat2, const char* birth,
+                         const char* name) {
+    List rows{
+        row("sdat1", sdat1), row("sbirthdate", birth), row("line", ""),    row("sdat2", sdat2),
+        row("rost", "168"),  row("ves", "60,5"),       row("bodytype", 2), row("sex", 2)};
+    if (name) rows.push_back(row("name", name));
+    return rows;
+  }
+  static Value photoRow(int save, Bytes image) {
+    Map m;
+    m.set("field", "photo");
+    m.set("save", save);
+    m.set("image", std::move(image));
+    return Value(std::move(m));
+  }
+};
+
+TEST_F(SetupDataTest, ANewPregnancyIsCreatedEditedAndRemovedSoftly) {
+  const std::string gid = newID();
+  Map fresh = loadSetupData(*store, gid);
+  EXPECT_FALSE(fresh.contains("sdat1")) << "no row yet";
+  saveSetupData(
+      *store, kSetupFromEditor,
+      setupArrayToDic(*store, editorRows("01.02.2026", "15.02.2026", "08.11.2026", "Ева"), gid),
+      gid);
+  Map saved = loadSetupData(*store, gid);
+  EXPECT_EQ(saved["sdat1"].text(), "2026-02-01");
+  EXPECT_EQ(saved["sbirthdate"].text(), "2026-11-08");
+  EXPECT_EQ(saved["name"].text(), "Ева");
+  EXPECT_EQ(saved["ves"].text(), "60,5");
+  EXPECT_EQ(saved["sex"].intValue(), 2);
+  EXPECT_EQ(*saved["dat1"].asDate(), context->dates().encodeDate(1, 2, 2026));
+  EXPECT_TRUE(saved["active"].boolValue());
+  ASSERT_EQ(loadProfils(*store).size(), 2u);
+
+  // A birth recorded on a day stays through an edit in the editor, which does not show it.
+  {
+    StoreBracket bracket = store->connectToBase();
+    setBirthday(*store, bracket, context->dates().encodeDate(3, 11, 2026), gid,
+                "{\"ves\":\"3.4\"}");
+  }
+  saveSetupData(
+      *store, kSetupFromEditor,
+      setupArrayToDic(*store, editorRows("02.02.2026", "16.02.2026", "09.11.2026", nullptr), gid),
+      gid);
+  Map edited = loadSetupData(*store, gid);
+  EXPECT_EQ(edited["sdat1"].text(), "2026-02-02");
+  EXPECT_EQ(edited["sbirthdate2"].text(), "2026-11-03");
+  EXPECT_EQ(edited["birthresult"].text(), "{\"ves\":\"3.4\"}");
+  EXPECT_EQ(cell("select childname from preg where pregguid='" + gid + "'"), std::nullopt)
+      << "a missing field is stored as NULL";
+  EXPECT_EQ(cell("select count(*) from preg where pregguid='" + gid + "'"), "1");
+
+  // Removal: the row stays, marked, with its diary rows; the lists no longer show it.
+  {
+    StoreBracket bracket = store->connectToBase();
+    ASSERT_TRUE(
+        bracket.db()->execute("insert into pregdata (type, value, sdat, pregguid) values "
+                              "('ves', '61', '2026-03-01', '" +
+                              gid + "')"));
+  }
+  saveSetupData(*store, kSetupFromEditor, setupArrayToDic(*store, {}, gid), gid);
+  EXPECT_EQ(cell("select deleted from preg where pregguid='" + gid + "'"), "1");
+  EXPECT_EQ(cell("select value from pregdata where pregguid='" + gid + "'"), "61");
+  EXPECT_EQ(loadProfils(*store).size(), 1u);
+}
+
+TEST_F(SetupDataTest, EditorDatesThatDoNotReadAreLeftOutAndNothingElseIsLost) {
+  const Map setup =
+      setupArrayToDic(*store, editorRows("31.02.2026", "x", "08.11.2026", "Ева"), "G");
+  EXPECT_FALSE(setup.contains("sdat1"));
+  EXPECT_FALSE(setup.contains("sdat2"));
+  EXPECT_EQ(setup.find("sbirthdate")->text(), "2026-11-08");
+  EXPECT_EQ(setup.find("sex")->text(), "2");
+  EXPECT_EQ(setup.find("rost")->text(), "168");
+  EXPECT_TRUE(setup.find("active")->boolValue());
+  const Map removal = setupArrayToDic(*store, {}, "G");
+  EXPECT_EQ(removal.size(), 1u);
+  EXPECT_FALSE(removal.find("active")->boolValue());
+}
+
+TEST_F(SetupDataTest, ThePortraitIsWrittenAsJpegAndGoesWithTheProfile) {
+  const std::string gid = newID();
+  const Image red{4, 3, Bytes(4 * 3 * 3, 0)};
+  std::string error;
+  List rows = editorRows("01.02.2026", "15.02.2026", "08.11.2026", "Ева");
+  rows.push_back(photoRow(1, encodeJpeg(red, 90)));
+  saveSetupData(*store, kSetupFromEditor, setupArrayToDic(*store, rows, gid, &error), gid);
+  EXPECT_EQ(error, "");
+  const auto portrait = portraitFile(*context, gid);
+  EXPECT_EQ(portrait, dir.path() / "Documents" / "picture" / ("child-" + gid + ".jpg"));
+  const std::string jpeg = testing::readFile(portrait);
+  ASSERT_TRUE(decodeImage(Bytes(jpeg.begin(), jpeg.end()), &error)) << error;
+
+  // A picture that cannot be read leaves the portrait in place and says so.
+  rows.back() = photoRow(1, Bytes{'n', 'o'});
+  setupArrayToDic(*store, rows, gid, &error);
+  EXPECT_NE(error, "");
+  EXPECT_EQ(testing::readFile(portrait), jpeg);
+
+  const auto dayPhoto = dir.path() / "Documents" / "picture" / "01-03-2026.jpg";
+  testing::writeFile(dayPhoto, jpeg);
+  saveSetupData(*store, kSetupFromEditor, setupArrayToDic(*store, {}, gid), gid);
+  EXPECT_FALSE(std::filesystem::exists(portrait));
+  EXPECT_TRUE(std::filesystem::exists(dayPhoto));
+}
+
+TEST_F(SetupDataTest, AnUnknownGuidGivesTheDefaultsAndNoGuidNoActiveKey) {
+  const Map none = loadSetupData(*store, std::nullopt);
+  EXPECT_FALSE(none.contains("active"));
+  EXPECT_EQ(none.find("bodytype")->intValue(), 2);
+  const Date today = context->dates().noTime(clock->now());
+  EXPECT_EQ(*none.find("dat1")->asDate(), today);
+  EXPECT_EQ(*none.find("dat2")->asDate(), context->dates().addDays(today, 14));
+  EXPECT_EQ(*none.find("birthdate")->asDate(), context->dates().addDays(today, 280));
+  const Map unknown = loadSetupData(*store, std::string("nobody"));
+  EXPECT_TRUE(unknown.find("active")->boolValue());
+  EXPECT_FALSE(unknown.contains("sdat1"));
+  EXPECT_FALSE(unknown.contains("birthresult"));
+}
+
+TEST_F(SetupDataTest, AChildsProfileKeepsItsAllergensThroughTheEditor) {
+  open(2);
+  fromOldVersion(*store);
+  const std::string gid = newID2(1, 1);
+  Map first = loadSetupData(*store, gid);
+  EXPECT_EQ(first["blood"].text(), newID2(2, 31));
+  EXPECT_EQ(first["sbirthdate"].text(), "2026-03-30");
+  {
+    StoreBracket bracket = store->connectToBase();
+    ASSERT_TRUE(bracket.db()->execute("update child set allergen='A<tr>B', sbirthtime='07:15'"));
+  }
+  Map edit = loadSetupData(*store, gid);
+  edit.set("name", "Я");
+  edit.set("allerg", "");
+  saveSetupData(*store, kSetupFromEditor, edit, gid);
+  Map saved = loadSetupData(*store, gid);
+  EXPECT_EQ(saved["allerg"].text(), "A<tr>B");
+  EXPECT_EQ(saved["sbirthtime"].text(), "07:15");
+  EXPECT_FALSE(saved.contains("birthtime")) << "a time alone is no moment";
+  EXPECT_EQ(childNames(*store)[gid].text(), "Без имени");
+  EXPECT_EQ(loadProfils(*store)[0]["childname"].text(), "Я");
+  ASSERT_EQ(profileList(*store).size(), 1u);
+  EXPECT_EQ(profileList(*store)[0]["chid"].intValue(), 1);
+}
+
+}  // namespace
+}  // namespace lad
