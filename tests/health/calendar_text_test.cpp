@@ -1,0 +1,28 @@
+#include "health/calendar_text.h"
+
+#include <gtest/gtest.h>
+
+namespace lad {
+namespace {
+
+TEST(CalendarText, FillsPlaceholdersInTurn) {
+  EXPECT_EQ(fillIn("%d %@ и %d %@", {"2", "недели", "3", "дня"}), "2 недели и 3 дня");
+  EXPECT_EQ(fillIn("Индекс тела равен %.1f.\nУ вас %@ телосложение.", {"22.7", "среднее"}),
+            "Индекс тела равен 22.7.\nУ вас среднее телосложение.");
+  EXPECT_EQ(fillIn("%1.f%% из %@", {"50", "280"}), "50% из 280");
+  EXPECT_EQ(fillIn("%@ и %@", {"один"}), "один и ");
+  EXPECT_EQ(fillIn("в конце %", {"x"}), "в конце x");
+  EXPECT_EQ(fillIn("ровно %d %@", 21, "неделя"), "ровно 21 неделя");
+}
+
+TEST(CalendarText, CapitalizesTheFirstLetterOfAnyScript) {
+  EXPECT_EQ(capitalizeFirst("идет 1 день 1 недели"), "Идет 1 день 1 недели");
+  EXPECT_EQ(capitalizeFirst("ёлка"), "Ёлка");
+  EXPECT_EQ(capitalizeFirst("tag 1"), "Tag 1");
+  EXPECT_EQ(capitalizeFirst("1 день"), "1 день");
+  EXPECT_EQ(capitalizeFirst(""), "");
+  EXPECT_EQ(capitalizeFirst("\xff\xfe"), "\xff\xfe");
+}
+
+}  // namespace
+}  // namespace lad
