@@ -1,0 +1,54 @@
+// The settings of a pregnancy: a new one ("Новая беременность") or an existing one
+// ("Настройки"), as the rows of the field editor, with the date and body index rules applied
+// while the user types, and saving or removing the profile at the end.
+#pragma once
+
+#include <optional>
+#include <string>
+
+#include "health/pregnancy_dates.h"
+#include "shell/application.h"
+#include "shell/message_box.h"
+
+namespace lad::shell {
+
+class ProfileDialog {
+ public:
+  // Editor codes: the active profile changed, or a new profile.
+  static constexpr int kChangedProfile = 1000;
+  static constexpr int kNewProfile = 1001;
+
+  // With a guid the profile's settings; without one a new pregnancy starting today.
+  ProfileDialog(Application& app, std::optional<std::string> gid);
+
+  const std::string& caption() const { return caption_; }
+  int code() const { return code_; }
+  const List& rows() const { return rows_; }
+  // The row of a field, or nullptr.
+  const Map* row(std::string_view field) const;
+
+  // The user changed a field. Dates keep each other consistent and height and weight recount
+  // the body index; a refused conception date comes back as a message.
+  std::optional<MessageBox> change(std::string_view field, const Value& source);
+
+  // The question asked before a removal, and the removal it leads to on consent.
+  MessageBox removalQuestion() const;
+  void confirmRemoval();
+
+  // Saves (or removes) the profile and returns its guid; a new pregnancy gets its guid here.
+  // A picture that cannot be read leaves the portrait as it was and says why in photoError.
+  std::string finish(std::string* photoError = nullptr);
+
+ private:
+  Value* source(std::string_view field);
+  void correctDates(PregnancyDateField changed, std::optional<MessageBox>& refusal);
+  void correctBodyIndex();
+
+  Application& app_;
+  std::optional<std::string> gid_;
+  std::string caption_;
+  int code_;
+  List rows_;
+};
+
+}  // namespace lad::shell
