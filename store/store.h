@@ -6,7 +6,9 @@
 #include <atomic>
 #include <filesystem>
 #include <mutex>
+#include <string>
 #include <thread>
+#include <utility>
 
 #include "core/sqlite.h"
 
@@ -46,6 +48,11 @@ class Store {
   // Whether the last bracket wrote anything; cleared by each connect.
   bool changed() const { return changed_; }
 
+  // The guid of the entry that ends an illness, as the last dictionary load that passed it
+  // found it; empty until then.
+  const std::string& boleznId() const { return boleznId_; }
+  void setBoleznId(std::string guid) { boleznId_ = std::move(guid); }
+
   Context& context() { return context_; }
   const Context& context() const { return context_; }
   std::filesystem::path reservFolder() const;
@@ -60,6 +67,7 @@ class Store {
   std::atomic<std::thread::id> holder_{};
   SqliteConnection db_;
   bool changed_ = false;
+  std::string boleznId_;
 };
 
 }  // namespace lad
