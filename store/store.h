@@ -6,11 +6,13 @@
 #include <atomic>
 #include <filesystem>
 #include <mutex>
+#include <optional>
 #include <string>
 #include <thread>
 #include <utility>
 
 #include "core/sqlite.h"
+#include "core/value.h"
 
 namespace lad {
 
@@ -52,6 +54,9 @@ class Store {
   // found it; empty until then.
   const std::string& boleznId() const { return boleznId_; }
   void setBoleznId(std::string guid) { boleznId_ = std::move(guid); }
+  // The day of the value that the last search for a latest value found.
+  std::optional<Date> lastValueDate() const { return lvdate_; }
+  void setLastValueDate(Date day) { lvdate_ = day; }
 
   Context& context() { return context_; }
   const Context& context() const { return context_; }
@@ -68,6 +73,7 @@ class Store {
   SqliteConnection db_;
   bool changed_ = false;
   std::string boleznId_;
+  std::optional<Date> lvdate_;
 };
 
 }  // namespace lad

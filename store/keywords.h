@@ -1,0 +1,39 @@
+// The record keywords of the diary: in which edition each is a field of the day, its field kind
+// and the dictionary list it draws on.
+#pragma once
+
+#include <optional>
+#include <string_view>
+#include <vector>
+
+namespace lad {
+
+// Field kinds of the day editor that the store treats in a way of its own.
+enum FieldKind {
+  kKindMulti = 1,
+  kKindChoice = 2,
+  kKindText = 3,
+  kKindTemperature = 4,
+  kKindAlarm = 5,
+  kKindHeight = 6,
+  kKindWeight = 7,
+  kKindIllness = 8,
+  kKindDayType = 14,
+  kKindBirth = 16,
+  kKindPills = 23,
+  kKindPhoto = 100,
+};
+
+struct Keyword {
+  std::string_view name;
+  int kind;
+  int list;  // dictionary list (cotype), 0 for none
+};
+
+// The keyword as a field of the edition's day; nullopt when the edition has no such field.
+std::optional<Keyword> keywordFor(int appid, std::string_view name);
+
+// Every field of the edition's day, in the order of the table.
+std::vector<Keyword> keywordsOf(int appid);
+
+}  // namespace lad
