@@ -44,6 +44,9 @@ StoreBracket Store::connectToBase() {
   db_.close();
   toReserv(context_, reservFolder(), liveFile());
   db_ = SqliteConnection(liveFile(), SqliteConnection::Mode::ReadWrite);
+  // Brackets never overlap and each closes its connection, so the file lock is held for the
+  // whole bracket instead of being taken and given back around every statement.
+  db_.execute("pragma locking_mode=exclusive");
   changed_ = false;
   return StoreBracket(this, true);
 }
