@@ -5,6 +5,7 @@ namespace lad {
 namespace {
 
 enum Editions { P = 1, C = 2, W = 4 };
+using V = ValueForm;
 
 struct KeywordRow {
   int editions;
@@ -12,35 +13,35 @@ struct KeywordRow {
 };
 
 const KeywordRow kKeywords[] = {
-    {P, {"changes", kKindMulti, 1}},
-    {P, {"fillings", kKindMulti, 2}},
-    {C, {"achive", kKindMulti, 1}},
-    {C, {"health", kKindMulti, 2}},
-    {W, {"health", kKindMulti, 1}},
-    {W, {"sliz", kKindChoice, 2}},
-    {W, {"sex", kKindChoice, 3}},
-    {P | C, {"bolezn", kKindIllness, 3}},
-    {P | C | W, {"doctor", kKindText, 0}},
-    {C, {"priv", kKindText, 0}},
-    {C | W, {"smile", kKindText, 0}},
-    {P | C | W, {"note", kKindText, 0}},
-    {P | C | W, {"ves", kKindWeight, 0}},
-    {C, {"rost", kKindHeight, 0}},
-    {P | C | W, {"temp", kKindTemperature, 0}},
-    {P | C | W, {"alarm", kKindAlarm, 0}},
-    {P | C | W, {"pills", kKindPills, 0}},
-    {P, {"pressure", 30, 0}},
-    {P, {"zhid", 31, 0}},
-    {C, {"sleep", 29, 0}},
-    {C, {"walk", 29, 0}},
-    {P | C | W, {"analizy", 26, 0}},
-    {P, {"uzi", 15, 0}},
-    {C, {"biosize", 9, 0}},
-    {C, {"tooth", 13, 0}},
-    {W, {"daytype", kKindDayType, 0}},
-    {W, {"dieta", 25, 0}},
-    {P, {"birthresult", kKindBirth, 0}},
-    {P | C | W, {"photo", kKindPhoto, 0}},
+    {P, {"changes", kKindMulti, 1, V::GuidList}},
+    {P, {"fillings", kKindMulti, 2, V::GuidList}},
+    {C, {"achive", kKindMulti, 1, V::GuidList}},
+    {C, {"health", kKindMulti, 2, V::GuidList}},
+    {W, {"health", kKindMulti, 1, V::GuidList}},
+    {W, {"sliz", kKindChoice, 2, V::Guid}},
+    {W, {"sex", kKindChoice, 3, V::Guid}},
+    {P | C, {"bolezn", kKindIllness, 3, V::Guid}},
+    {P | C | W, {"doctor", kKindText, 0, V::PlainText}},
+    {C, {"priv", kKindText, 0, V::PlainText}},
+    {C | W, {"smile", kKindText, 0, V::PlainText}},
+    {P | C | W, {"note", kKindText, 0, V::PlainText}},
+    {P | C | W, {"ves", kKindWeight, 0, V::NumberText}},
+    {C, {"rost", kKindHeight, 0, V::NumberText}},
+    {P | C | W, {"temp", kKindTemperature, 0, V::Json}},
+    {P | C | W, {"alarm", kKindAlarm, 0, V::Json}},
+    {P | C | W, {"pills", kKindPills, 0, V::Json}},
+    {P, {"pressure", 30, 0, V::Json}},
+    {P, {"zhid", 31, 0, V::Json}},
+    {C, {"sleep", 29, 0, V::Json}},
+    {C, {"walk", 29, 0, V::Json}},
+    {P | C | W, {"analizy", 26, 0, V::Json}},
+    {P, {"uzi", 15, 0, V::Json}},
+    {C, {"biosize", 9, 0, V::Json}},
+    {C, {"tooth", 13, 0, V::CodeList}},
+    {W, {"daytype", kKindDayType, 0, V::IntegerText}},
+    {W, {"dieta", 25, 0, V::IntegerText}},
+    {P, {"birthresult", kKindBirth, 0, V::None}},
+    {P | C | W, {"photo", kKindPhoto, 0, V::None}},
 };
 
 int editionBit(int appid) {

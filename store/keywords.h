@@ -24,10 +24,23 @@ enum FieldKind {
   kKindPhoto = 100,
 };
 
+// The form of a keyword's value text.
+enum class ValueForm {
+  GuidList,     // dictionary guids joined by "<tr>"
+  Guid,         // one dictionary guid
+  PlainText,    // the text as the user wrote it
+  NumberText,   // a decimal number
+  IntegerText,  // a whole number
+  CodeList,     // tooth codes joined by "<tr>"
+  Json,         // a JSON array or object
+  None,         // kept elsewhere: the profile row, or a picture file
+};
+
 struct Keyword {
   std::string_view name;
   int kind;
   int list;  // dictionary list (cotype), 0 for none
+  ValueForm form;
 };
 
 // The keyword as a field of the edition's day; nullopt when the edition has no such field.

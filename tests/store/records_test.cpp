@@ -2,6 +2,7 @@
 
 #include <gtest/gtest.h>
 
+#include "store/dictionary.h"
 #include "store/first_launch.h"
 #include "store/keywords.h"
 #include "store/store.h"
@@ -149,7 +150,20 @@ TEST_F(RecordsTest, InsertAndDeleteOfSingleRecords) {
   EXPECT_EQ(rowsOf("2026-03-29", kOther), "note=b");
 }
 
+TEST_F(RecordsTest, ADayFromAnotherDeviceBringsTheDictionaryEntriesItUses) {
+  List listData;
+  addToList(listData, "NEW-ENTRY-GUID", "Отеки ног", 2, false);
+  saveNoteData(*store, kNoteFromCloud, {row(1, "fillings", "NEW-ENTRY-GUID")}, listData, kFirst,
+               day(29));
+  EXPECT_EQ(valueOn("fillings", day(29)), "NEW-ENTRY-GUID");
+  EXPECT_EQ(cell("select coname from pregconst where coguid='NEW-ENTRY-GUID'"), "Отеки ног");
+}
+
 TEST(Keywords, EachEditionHasItsFieldsWithTheirKindsAndLists) {
+  EXPECT_EQ(keywordFor(1, "changes")->form, ValueForm::GuidList);
+  EXPECT_EQ(keywordFor(3, "sliz")->form, ValueForm::Guid);
+  EXPECT_EQ(keywordFor(2, "tooth")->form, ValueForm::CodeList);
+  EXPECT_EQ(keywordFor(1, "birthresult")->form, ValueForm::None);
   EXPECT_EQ(keywordFor(2, "health")->list, 2);
   EXPECT_EQ(keywordFor(3, "health")->list, 1);
   EXPECT_FALSE(keywordFor(1, "health"));
