@@ -1,0 +1,180 @@
+#include "store/reading_forms.h"
+
+#include <gtest/gtest.h>
+
+#include <initializer_list>
+#include <optional>
+#include <string>
+
+#include "core/ids.h"
+#include "tests/support/test_files.h"
+#include "tests/support/translation_table.h"
+
+namespace lad {
+namespace {
+
+using Text = std::optional<std::string>;
+
+Value entry(const std::string& index, const std::string& cap) {
+  Map m;
+  m.set("index", index);
+  m.set("cap", cap);
+  return Value(std::move(m));
+}
+
+// Dictionary guids are 36 characters long; anything of 9 or fewer is an old index.
+const std::string kChamomile = "6F9619FF-8B86-D011-B42D-00C04FC964AA";
+const std::string kPills = "6F9619FF-8B86-D011-B42D-00C04FC964BB";
+const std::string kUnknown = "6F9619FF-8B86-D011-B42D-00C04FC964EE";
+
+// The JSON list of tests, one object per caption; an empty caption makes an object without one.
+std::string testsOf(std::initializer_list<std::string> captions) {
+  std::string json;
+  for (const std::string& caption : captions)
+    json += (json.empty() ? "[" : ", ") + (caption.empty()
+                                               ? std::string(R"({"result": "5"})")
+                                               : R"({"captiontype": ")" + caption + R"("})");
+  return json + "]";
+}
+
+class ReadingFormsTest : public ::testing::Test {
+ protected:
+  testing::TempDir dir;
+  Context russian{ContextOptions{1, 1, dir.path() / "ru", "1.0", nullptr, {}}};
+  const List entries{entry(kChamomile, "Ромашка<tr>1"), entry(kPills, "Парацетамол"),
+                     entry(newID2(2, 7), "Прививка")};
+};
+
+TEST_F(ReadingFormsTest, ChecksReadTheFirstPartOfEachFoundName) {
+  const struct {
+    Text value;
+    const char* expected;
+  } cases[] = {
+      {std::nullopt, ""},
+      {"", ""},
+      {kChamomile, "Ромашка"},
+      {kPills + "<tr>" + kChamomile, "Парацетамол\nРомашка"},
+      {kUnknown + "<tr>" + kPills, "Парацетамол"},
+      {"7", "Прививка"},
+      {"000000007<tr>" + kChamomile, "Прививка\nРомашка"},
+  };
+  for (const auto& c : cases)
+    EXPECT_EQ(checkStringToRead(c.value, entries), c.expected) << c.value.value_or("null");
+}
+
+TEST_F(ReadingFormsTest, TeethReadWhetherTheyCameOrFellOut) {
+  const struct {
+    Text value;
+    const char* expected;
+  } cases[] = {
+      {std::nullopt, ""},
+      {"", ""},
+      {"1", "Прорезался верхний второй коренной (55)"},
+      {"100", "Прорезался "},
+      {"101", "Выпал верхний второй коренной (55)"},
+      {"120", "Выпал нижний второй коренной (75)"},
+      {"10<tr>111", "Прорезался верхний второй коренной (65)\nВыпал нижний второй коренной (85)"},
+      {"21<tr>abc", "Прорезался \nПрорезался "},
+  };
+  for (const auto& c : cases)
+    EXPECT_EQ(toothStringToRead(russian, c.value), c.expected) << c.value.value_or("null");
+}
+
+TEST_F(ReadingFormsTest, TestsJoinTheirWholeNamesByPosition) {
+  const struct {
+    Text value;
+    const char* expected;
+  } cases[] = {
+      {std::nullopt, ""},
+      {kChamomile, ""},
+      {R"({"captiontype": ")" + kChamomile + R"("})", ""},
+      {testsOf({kChamomile}).substr(0, 20), ""},
+      {testsOf({kChamomile, kPills}), "Ромашка<tr>1, Парацетамол"},
+      {testsOf({kUnknown, kPills}), ", Парацетамол"},
+      {testsOf({"", "7", kUnknown}), ", Прививка"},
+      {testsOf({kPills, kUnknown}), "Парацетамол"},
+  };
+  for (const auto& c : cases)
+    EXPECT_EQ(analizyStringToRead(c.value, entries), c.expected) << c.value.value_or("null");
+}
+
+TEST_F(ReadingFormsTest, DietsReadTheirNames) {
+  const struct {
+    Text value;
+    const char* expected;
+  } cases[] = {
+      {std::nullopt, ""},
+      {"", ""},
+      {"11", "Кремлевская диета"},
+      {"12", ""},
+      {"21", "Диета Дюкана (Атака)"},
+      {"24", "Диета Дюкана (Стабилизация)"},
+      {"71", "Диета -60"},
+      {"1000", "Диета прекращена"},
+      {"диета", ""},
+  };
+  for (const auto& c : cases)
+    EXPECT_EQ(dietaStringToRead(russian, c.value), c.expected) << c.value.value_or("null");
+}
+
+TEST_F(ReadingFormsTest, BodySizesReadOneLineEachInOrder) {
+  const struct {
+    Text value;
+    const char* expected;
+  } cases[] = {
+      {std::nullopt, ""},
+      {"35", ""},
+      {"{", ""},
+      {R"({"bio5": "12", "bio1": "35.5", "bio2": "", "bio4": 40})",
+       "Окружность головы: 35.5\nОбхват бедер: 40\nДлина стопы: 12"},
+      {R"({"bio2": "", "bio3": "50"})", "Обхват талии: 50"},
+  };
+  for (const auto& c : cases)
+    EXPECT_EQ(biosizeStringToRead(russian, c.value), c.expected) << c.value.value_or("null");
+}
+
+TEST_F(ReadingFormsTest, WomansDaysReadTheirKind) {
+  const struct {
+    int kind;
+    const char* expected;
+  } cases[] = {
+      {0, "Обычный день"},
+      {1, "Обычный день"},
+      {2, "Первый день месячных"},
+      {3, "Последний день месячных"},
+      {4, "Овуляция"},
+      {5, "Первый день беременности"},
+      {6, "Последний день беременности"},
+      {7, "Обычный день"},
+  };
+  for (const auto& c : cases) EXPECT_EQ(womanDayToRead(russian, c.kind), c.expected) << c.kind;
+}
+
+TEST_F(ReadingFormsTest, SpansOfSleepReadTheirTimes) {
+  Map span;
+  span.set("start", "22:30");
+  span.set("end", "06:15");
+  span.set("interval", "7:45");
+  EXPECT_EQ(intervalToRead2(Value(span)), "с 22:30 до 06:15 (7:45)");
+  EXPECT_EQ(intervalToRead2(Value("22:30")), "");
+  EXPECT_EQ(intervalToRead2(Value()), "");
+}
+
+TEST_F(ReadingFormsTest, WordsAreTranslatedAndEntryNamesAreNot) {
+  testing::germanTranslator(dir.path() / "translate.sqlite",
+                            {{"Выпал ", "Ausgefallen "},
+                             {"верхний клык (53)", "oberer Eckzahn (53)"},
+                             {"Японская диета", "Japanische Diät"},
+                             {"Обхват груди: %@", "Brustumfang: %@"},
+                             {"Овуляция", "Eisprung"}});
+  Context german{ContextOptions{1, 2, dir.path() / "de", "1.0", nullptr, dir.path()}};
+  german.prepareTranslate();
+  EXPECT_EQ(toothStringToRead(german, "103"), "Ausgefallen oberer Eckzahn (53)");
+  EXPECT_EQ(dietaStringToRead(german, "41"), "Japanische Diät");
+  EXPECT_EQ(biosizeStringToRead(german, R"({"bio2": "60"})"), "Brustumfang: 60");
+  EXPECT_EQ(womanDayToRead(german, 4), "Eisprung");
+  EXPECT_EQ(checkStringToRead(kPills, entries), "Парацетамол");
+}
+
+}  // namespace
+}  // namespace lad
