@@ -15,6 +15,17 @@ namespace {
 
 using Text = std::optional<std::string>;
 
+struct TextCase {
+  Text value;
+  const char* expected;
+};
+
+// Checks each stored text against the sentence that the reader makes of it.
+template <std::size_t N, class Reader>
+void expectReadings(const TextCase (&cases)[N], Reader read) {
+  for (const TextCase& c : cases) EXPECT_EQ(read(c.value), c.expected) << c.value.value_or("null");
+}
+
 Value entry(const std::string& index, const std::string& cap) {
   Map m;
   m.set("index", index);
@@ -46,10 +57,7 @@ class ReadingFormsTest : public ::testing::Test {
 };
 
 TEST_F(ReadingFormsTest, ChecksReadTheFirstPartOfEachFoundName) {
-  const struct {
-    Text value;
-    const char* expected;
-  } cases[] = {
+  const TextCase cases[] = {
       {std::nullopt, ""},
       {"", ""},
       {kChamomile, "Ромашка"},
@@ -58,15 +66,11 @@ TEST_F(ReadingFormsTest, ChecksReadTheFirstPartOfEachFoundName) {
       {"7", "Прививка"},
       {"000000007<tr>" + kChamomile, "Прививка\nРомашка"},
   };
-  for (const auto& c : cases)
-    EXPECT_EQ(checkStringToRead(c.value, entries), c.expected) << c.value.value_or("null");
+  expectReadings(cases, [&](const Text& value) { return checkStringToRead(value, entries); });
 }
 
 TEST_F(ReadingFormsTest, TeethReadWhetherTheyCameOrFellOut) {
-  const struct {
-    Text value;
-    const char* expected;
-  } cases[] = {
+  const TextCase cases[] = {
       {std::nullopt, ""},
       {"", ""},
       {"1", "Прорезался верхний второй коренной (55)"},
@@ -76,15 +80,11 @@ TEST_F(ReadingFormsTest, TeethReadWhetherTheyCameOrFellOut) {
       {"10<tr>111", "Прорезался верхний второй коренной (65)\nВыпал нижний второй коренной (85)"},
       {"21<tr>abc", "Прорезался \nПрорезался "},
   };
-  for (const auto& c : cases)
-    EXPECT_EQ(toothStringToRead(russian, c.value), c.expected) << c.value.value_or("null");
+  expectReadings(cases, [&](const Text& value) { return toothStringToRead(russian, value); });
 }
 
 TEST_F(ReadingFormsTest, TestsJoinTheirWholeNamesByPosition) {
-  const struct {
-    Text value;
-    const char* expected;
-  } cases[] = {
+  const TextCase cases[] = {
       {std::nullopt, ""},
       {kChamomile, ""},
       {R"({"captiontype": ")" + kChamomile + R"("})", ""},
@@ -94,15 +94,11 @@ TEST_F(ReadingFormsTest, TestsJoinTheirWholeNamesByPosition) {
       {testsOf({"", "7", kUnknown}), ", Прививка"},
       {testsOf({kPills, kUnknown}), "Парацетамол"},
   };
-  for (const auto& c : cases)
-    EXPECT_EQ(analizyStringToRead(c.value, entries), c.expected) << c.value.value_or("null");
+  expectReadings(cases, [&](const Text& value) { return analizyStringToRead(value, entries); });
 }
 
 TEST_F(ReadingFormsTest, DietsReadTheirNames) {
-  const struct {
-    Text value;
-    const char* expected;
-  } cases[] = {
+  const TextCase cases[] = {
       {std::nullopt, ""},
       {"", ""},
       {"11", "Кремлевская диета"},
@@ -113,15 +109,11 @@ TEST_F(ReadingFormsTest, DietsReadTheirNames) {
       {"1000", "Диета прекращена"},
       {"диета", ""},
   };
-  for (const auto& c : cases)
-    EXPECT_EQ(dietaStringToRead(russian, c.value), c.expected) << c.value.value_or("null");
+  expectReadings(cases, [&](const Text& value) { return dietaStringToRead(russian, value); });
 }
 
 TEST_F(ReadingFormsTest, BodySizesReadOneLineEachInOrder) {
-  const struct {
-    Text value;
-    const char* expected;
-  } cases[] = {
+  const TextCase cases[] = {
       {std::nullopt, ""},
       {"35", ""},
       {"{", ""},
@@ -129,8 +121,7 @@ TEST_F(ReadingFormsTest, BodySizesReadOneLineEachInOrder) {
        "Окружность головы: 35.5\nОбхват бедер: 40\nДлина стопы: 12"},
       {R"({"bio2": "", "bio3": "50"})", "Обхват талии: 50"},
   };
-  for (const auto& c : cases)
-    EXPECT_EQ(biosizeStringToRead(russian, c.value), c.expected) << c.value.value_or("null");
+  expectReadings(cases, [&](const Text& value) { return biosizeStringToRead(russian, value); });
 }
 
 TEST_F(ReadingFormsTest, WomansDaysReadTheirKind) {
