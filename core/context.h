@@ -50,6 +50,7 @@ class Context {
   void prepareTranslate();
   // Every user-visible literal passes through here.
   std::string translate(std::string_view text) const { return translator_.translate(text); }
+  const Translator& translator() const { return translator_; }
 
  private:
   const Edition* edition_;
