@@ -4,6 +4,7 @@
 
 #include <vector>
 
+#include "core/text_parts.h"
 #include "core/value.h"
 
 namespace lad {
@@ -19,16 +20,6 @@ std::int64_t minutesOf(std::string_view time) {
   U8_FWD_N(time.data(), split, static_cast<int32_t>(time.size()), 3);
   const auto hours = time.substr(0, static_cast<std::size_t>(split));
   return leadingInteger(hours) * 60 + leadingInteger(time.substr(hours.size()));
-}
-
-std::vector<std::string_view> splitOn(std::string_view text, std::string_view separator) {
-  std::vector<std::string_view> parts;
-  for (std::size_t from = 0;;) {
-    const std::size_t at = text.find(separator, from);
-    parts.push_back(text.substr(from, at - from));
-    if (at == std::string_view::npos) return parts;
-    from = at + separator.size();
-  }
 }
 
 std::string_view timeOf(std::string_view item) {

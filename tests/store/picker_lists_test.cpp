@@ -1,0 +1,56 @@
+#include "store/picker_lists.h"
+
+#include <gtest/gtest.h>
+
+namespace lad {
+namespace {
+
+struct RowCase {
+  int set;
+  int wheel;
+  std::int64_t row;
+  const char* text;
+};
+
+TEST(PickerListsTest, RowsReadAsTheirTextsAndBack) {
+  const RowCase cases[] = {
+      {kLengthPicker, 0, 0, "1"},
+      {kLengthPicker, 0, 99, "100"},
+      {kLengthPicker, 1, 1, "недели"},
+      {kDosePicker, 0, 0, "1/8"},
+      {kDosePicker, 0, 2, "1/2"},
+      {kDosePicker, 0, 3, "1"},
+      {kDosePicker, 0, 202, "200"},
+      {kDosePicker, 1, 0, "мл."},
+      {kDosePicker, 1, 8, "капля"},
+      {kFrequencyPicker, 0, 23, "24"},
+      {kFrequencyPicker, 1, 1, "раз в сутки"},
+  };
+  for (const RowCase& c : cases) {
+    EXPECT_EQ(valueFromList(c.set, c.wheel, c.row), c.text) << c.set << "/" << c.row;
+    EXPECT_EQ(posFromList(c.set, c.wheel, c.text), c.row) << c.text;
+  }
+}
+
+TEST(PickerListsTest, WheelsHaveTheirLengths) {
+  EXPECT_EQ(listFor(kLengthPicker, 0).size(), 100u);
+  EXPECT_EQ(listFor(kDosePicker, 0).size(), 203u);
+  EXPECT_EQ(listFor(kDosePicker, 1).size(), 9u);
+  EXPECT_EQ(listFor(kFrequencyPicker, 0).size(), 24u);
+  EXPECT_EQ(listFor(kFrequencyPicker, 1), (std::vector<std::string>{"раз в день", "раз в сутки"}));
+  EXPECT_EQ(listFor(kLengthPicker, 1), (std::vector<std::string>{"дни", "недели", "месяцы"}));
+}
+
+TEST(PickerListsTest, UnknownSetsWheelsRowsAndTextsAreSafe) {
+  EXPECT_TRUE(listFor(7, 0).empty());
+  EXPECT_TRUE(listFor(kDosePicker, 2).empty());
+  EXPECT_TRUE(listFor(kDosePicker, -1).empty());
+  EXPECT_EQ(valueFromList(kDosePicker, 1, 9), "");
+  EXPECT_EQ(valueFromList(kLengthPicker, 0, -1), "");
+  EXPECT_EQ(valueFromList(3, 0, 0), "");
+  EXPECT_EQ(posFromList(kFrequencyPicker, 1, "раз в неделю"), 0);
+  EXPECT_EQ(posFromList(9, 0, "1"), 0);
+}
+
+}  // namespace
+}  // namespace lad
