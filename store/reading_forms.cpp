@@ -5,23 +5,13 @@
 #include <vector>
 
 #include "core/json_text.h"
+#include "core/text_parts.h"
 #include "store/dictionary.h"
 
 namespace lad {
 namespace {
 
 constexpr std::string_view kItemSeparator = "<tr>";
-
-std::vector<std::string_view> splitItems(std::string_view text) {
-  std::vector<std::string_view> items;
-  for (auto at = text.find(kItemSeparator); at != std::string_view::npos;
-       at = text.find(kItemSeparator)) {
-    items.push_back(text.substr(0, at));
-    text.remove_prefix(at + kItemSeparator.size());
-  }
-  items.push_back(text);
-  return items;
-}
 
 void appendLine(std::string& text, std::string_view line) {
   if (!text.empty()) text += '\n';
@@ -65,7 +55,7 @@ std::string toothName(std::int64_t code) {
 std::string checkStringToRead(const std::optional<std::string>& value, const List& entries) {
   std::string text;
   if (!value) return text;
-  for (std::string_view guid : splitItems(*value)) {
+  for (std::string_view guid : splitOn(*value, kItemSeparator)) {
     const Value* entry = listByIndex(std::string(guid), entries);
     if (!entry) continue;
     const std::string name = (*entry)["cap"].text();
@@ -77,7 +67,7 @@ std::string checkStringToRead(const std::optional<std::string>& value, const Lis
 std::string toothStringToRead(const Context& context, const std::optional<std::string>& value) {
   std::string text;
   if (!value || value->empty()) return text;
-  for (std::string_view part : splitItems(*value)) {
+  for (std::string_view part : splitOn(*value, kItemSeparator)) {
     std::int64_t code = leadingInteger(part);
     const bool fellOut = code > 100;
     if (fellOut) code -= 100;
