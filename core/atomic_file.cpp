@@ -76,4 +76,14 @@ bool writeFileAtomically(const std::filesystem::path& target, std::string_view c
   return true;
 }
 
+bool copyFileAtomically(const std::filesystem::path& from, const std::filesystem::path& to) {
+  const auto temp = atomicTempPath(to);
+  std::error_code error;
+  std::filesystem::copy_file(from, temp, std::filesystem::copy_options::overwrite_existing, error);
+  if (!error) std::filesystem::rename(temp, to, error);
+  if (!error) return true;
+  std::filesystem::remove(temp, error);
+  return false;
+}
+
 }  // namespace lad

@@ -17,6 +17,10 @@ std::optional<std::string> readWholeFile(const std::filesystem::path& file);
 bool writeFileAtomically(const std::filesystem::path& target, std::string_view content,
                          std::string* error = nullptr);
 
+// Copies a whole file under the temporary name, then renames it into place, so that a failed
+// copy never leaves a half file under the target's name. False when any step fails.
+bool copyFileAtomically(const std::filesystem::path& from, const std::filesystem::path& to);
+
 // The temporary name used for target while it is being replaced.
 std::filesystem::path atomicTempPath(const std::filesystem::path& target);
 

@@ -7,6 +7,7 @@
 
 #include "core/context.h"
 #include "core/ids.h"
+#include "core/text_parts.h"
 #include "store/store.h"
 #include "store/tables.h"
 
@@ -35,13 +36,7 @@ Value makeEntry(const std::string& index, const std::string& cap, std::int64_t t
 std::set<std::string, std::less<>> splitGuids(const std::optional<std::string>& text) {
   std::set<std::string, std::less<>> guids;
   if (!text) return guids;
-  static constexpr std::string_view kSeparator = "<tr>";
-  std::string_view rest = *text;
-  for (auto at = rest.find(kSeparator); at != std::string_view::npos; at = rest.find(kSeparator)) {
-    guids.emplace(rest.substr(0, at));
-    rest.remove_prefix(at + kSeparator.size());
-  }
-  guids.emplace(rest);
+  for (std::string_view guid : splitOn(*text, "<tr>")) guids.emplace(guid);
   return guids;
 }
 

@@ -44,17 +44,6 @@ void pruneOldest(const std::filesystem::path& folder, const std::filesystem::pat
   }
 }
 
-// Copies under a temporary name first, so a failed copy never leaves a half file named as a
-// reserve copy.
-void copyWhole(const std::filesystem::path& from, const std::filesystem::path& to) {
-  const auto temp = atomicTempPath(to);
-  std::error_code error;
-  if (std::filesystem::copy_file(from, temp, std::filesystem::copy_options::overwrite_existing,
-                                 error))
-    std::filesystem::rename(temp, to, error);
-  if (error) std::filesystem::remove(temp, error);
-}
-
 }  // namespace
 
 bool isSoundDatabase(const std::filesystem::path& file) {
@@ -70,7 +59,7 @@ void toReserv(const Context& context, const std::filesystem::path& folder,
   const auto copy = folder / (dates.dateToString(yesterday, "yyMMdd") + ".sqlite");
   std::error_code error;
   if (std::filesystem::exists(copy, error) || !isSoundDatabase(liveFile)) return;
-  copyWhole(liveFile, copy);
+  copyFileAtomically(liveFile, copy);
   pruneOldest(folder, liveFile);
 }
 

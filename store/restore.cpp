@@ -34,13 +34,7 @@ void takeOver(Store& store, const fs::path& found) {
 bool copyTemplate(Store& store) {
   const Context& context = store.context();
   const fs::path from = *getSystemFolder(context, "Root") / context.edition().database;
-  const fs::path live = store.liveFile();
-  const fs::path temp = atomicTempPath(live);
-  std::error_code error;
-  fs::copy_file(from, temp, fs::copy_options::overwrite_existing, error);
-  if (!error) fs::rename(temp, live, error);
-  if (error) fs::remove(temp, error);
-  return !error;
+  return copyFileAtomically(from, store.liveFile());
 }
 
 // The program's own dictionary entries, names with their tails, are written in the language of

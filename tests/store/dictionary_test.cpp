@@ -43,7 +43,7 @@ TEST_F(DictionaryTest, LoadingBuildsEntriesFiltersRemovedOnesAndMarksCheckedGuid
       loadConstList(*store, 3, seed(2) + "<tr>1003<tr>" + newID2(2, 301) + "<tr>");
   ASSERT_FALSE(illnesses.empty());
   const Value& first = illnesses.front();
-  EXPECT_EQ(first["index"], Value(seed(1))) << "the special entry stands first";
+  EXPECT_EQ(first["index"], Value(seed(1))) << "the end-of-illness entry stands first";
   EXPECT_EQ(first["cap"], Value("Выздоровела<tr>2")) << "the tail stays in the name";
   EXPECT_EQ(first["tp"], Value(3));
   EXPECT_EQ(first["deleted"], Value(4));
