@@ -7,6 +7,7 @@
 #include "core/json_text.h"
 #include "core/text_parts.h"
 #include "store/dictionary.h"
+#include "store/file_names.h"
 #include "store/picker_lists.h"
 
 namespace lad {
@@ -121,11 +122,19 @@ const OldForm* oldFormOf(std::string_view keyword) {
   return nullptr;
 }
 
-Value readItem(const OldForm& form, std::string_view item, const List* clist) {
+// Old attachment files of the child diary were named by number; they carry guids now.
+bool renamesFiles(int appid, std::string_view keyword) {
+  constexpr int kChildDiary = 2;
+  return appid == kChildDiary && (keyword == "analizy" || keyword == "documents");
+}
+
+Value readItem(int appid, std::string_view keyword, const OldForm& form, std::string_view item,
+               const List* clist) {
   const Fields fields = splitOn(item, form.fieldSeparator);
   if (form.read) return form.read(fields, clist);
   Map object;
   for (std::size_t i = 0; i < form.keys.size(); ++i) object.set(form.keys[i], fieldAt(fields, i));
+  if (renamesFiles(appid, keyword)) object.set("file", oldFileNameToNew(object["file"].text()));
   return Value(std::move(object));
 }
 
@@ -162,19 +171,21 @@ std::string oldList(std::string_view field, std::string_view rows) {
          valueFromList(set, 1, leadingInteger(fieldAt(parts, 1)));
 }
 
-Value oldValueToDic(std::string_view keyword, std::string_view item, const List* clist) {
+Value oldValueToDic(int appid, std::string_view keyword, std::string_view item, const List* clist) {
   const OldForm* form = oldFormOf(keyword);
-  return form ? readItem(*form, item, clist) : Value(Map());
+  return form ? readItem(appid, keyword, *form, item, clist) : Value(Map());
 }
 
-std::string oldValueToJson(std::string_view keyword, std::string_view value, const List* clist) {
+std::string oldValueToJson(int appid, std::string_view keyword, std::string_view value,
+                           const List* clist) {
   if (isIndexList(keyword)) return guidsOfIndexes(value);
   const OldForm* form = oldFormOf(keyword);
   if (!form) return std::string(value);
-  if (form->itemSeparator.empty()) return jsonFromObject(readItem(*form, value, clist));
+  if (form->itemSeparator.empty())
+    return jsonFromObject(readItem(appid, keyword, *form, value, clist));
   List items;
   for (const std::string_view item : splitOn(value, form->itemSeparator))
-    items.push_back(readItem(*form, item, clist));
+    items.push_back(readItem(appid, keyword, *form, item, clist));
   return jsonFromObject(Value(std::move(items)));
 }
 

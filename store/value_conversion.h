@@ -15,11 +15,13 @@ namespace lad {
 std::string oldList(std::string_view field, std::string_view rows);
 
 // One old item of the keyword, or the whole old value of uzi, birthresult, biosize and kovalue,
-// as a map. The dictionary list, when given, names the foods of kovalue of kind 7.
-Value oldValueToDic(std::string_view keyword, std::string_view item, const List* clist);
+// as a map. The dictionary list, when given, names the foods of kovalue of kind 7. In the child
+// diary (appid 2) the attachment files of analizy and documents take their current names.
+Value oldValueToDic(int appid, std::string_view keyword, std::string_view item, const List* clist);
 
 // The old value of the keyword in the current form: guid lists for the old index lists, JSON
 // for the structured keywords, and any other value as it stands.
-std::string oldValueToJson(std::string_view keyword, std::string_view value, const List* clist);
+std::string oldValueToJson(int appid, std::string_view keyword, std::string_view value,
+                           const List* clist);
 
 }  // namespace lad

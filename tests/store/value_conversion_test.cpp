@@ -28,6 +28,8 @@ Value food(const std::string& index, const std::string& cap) {
   return Value(std::move(m));
 }
 
+constexpr int kPregnancy = 1, kChild = 2;
+
 const std::string kG2 = newID2(2, 2), kG3 = newID2(2, 3), kG5 = newID2(2, 5), kG11 = newID2(2, 11),
                   kG17 = newID2(2, 17), kG40 = newID2(2, 40);
 
@@ -73,7 +75,7 @@ TEST(ValueConversionTest, EachOldKeywordComesToItsCurrentForm) {
   };
   const List foods{food(kG40, "Пюре (шт.)<tr>12")};
   for (const ConversionCase& c : cases)
-    EXPECT_EQ(compact(oldValueToJson(c.keyword, c.old, &foods)), c.expected)
+    EXPECT_EQ(compact(oldValueToJson(kPregnancy, c.keyword, c.old, &foods)), c.expected)
         << c.keyword << " " << c.old;
 }
 
@@ -85,9 +87,10 @@ TEST(ValueConversionTest, PillsTakeGuidsAndPickerTextsAndTheKeyOfANinthField) {
                                R"("pillinter":"2<td>раз в сутки","pillperiod":")" + newID2(2, 10) +
                                R"(","pilleat":")" + kG17 + R"(","pilllength":"10<td>недели",)" +
                                R"("pillsdate":"01.03.2026","pilltime":"08:00<td>20:00")";
-  EXPECT_EQ(compact(oldValueToJson("pills", eight, nullptr)), "[" + expected + "}]");
-  EXPECT_EQ(compact(oldValueToJson("pills", eight + "<table>K-1<end>" + eight, nullptr)),
-            "[" + expected + R"(,"key":"K-1"},)" + expected + "}]");
+  EXPECT_EQ(compact(oldValueToJson(kPregnancy, "pills", eight, nullptr)), "[" + expected + "}]");
+  EXPECT_EQ(
+      compact(oldValueToJson(kPregnancy, "pills", eight + "<table>K-1<end>" + eight, nullptr)),
+      "[" + expected + R"(,"key":"K-1"},)" + expected + "}]");
 }
 
 TEST(ValueConversionTest, PickerRowsReadAsTheirTexts) {
@@ -102,13 +105,25 @@ TEST(ValueConversionTest, PickerRowsReadAsTheirTexts) {
 }
 
 TEST(ValueConversionTest, ShortItemsAndUnknownKindsKeepWhatTheyHave) {
-  EXPECT_EQ(oldValueToDic("uzi", "50", nullptr).toJson(), R"({"rost":"50","ves":""})");
-  EXPECT_EQ(oldValueToDic("pills", "", nullptr).toJson(),
+  EXPECT_EQ(oldValueToDic(kPregnancy, "uzi", "50", nullptr).toJson(), R"({"rost":"50","ves":""})");
+  EXPECT_EQ(oldValueToDic(kPregnancy, "pills", "", nullptr).toJson(),
             R"({"pillname":"","pilldoza":"","pillinter":"","pillperiod":"","pilleat":"",)"
             R"("pilllength":"","pillsdate":"","pilltime":""})");
-  EXPECT_EQ(oldValueToDic("kovalue", "9<tr>1", nullptr).toJson(), R"({"tp":"9"})");
-  EXPECT_EQ(oldValueToDic("kovalue", "7<tr>40<tr>1", nullptr)["measure"].text(), "мил.");
-  EXPECT_EQ(oldValueToDic("weight", "3", nullptr).toJson(), "{}");
+  EXPECT_EQ(oldValueToDic(kPregnancy, "kovalue", "9<tr>1", nullptr).toJson(), R"({"tp":"9"})");
+  EXPECT_EQ(oldValueToDic(kPregnancy, "kovalue", "7<tr>40<tr>1", nullptr)["measure"].text(),
+            "мил.");
+  EXPECT_EQ(oldValueToDic(kPregnancy, "weight", "3", nullptr).toJson(), "{}");
+}
+
+TEST(ValueConversionTest, ChildAttachmentsTakeTheirCurrentNamesOnlyInTheChildDiary) {
+  const std::string old = "1<br>5<br>a-12-1.jpg<br>t<tr>2<br>6<br>notes.txt<br>";
+  EXPECT_EQ(compact(oldValueToJson(kChild, "analizy", old, nullptr)),
+            R"([{"tp":"1","captiontype":"5","file":"a-)" + newID2(1, 12) +
+                R"(-1.jpg","tag":"t"},{"tp":"2","captiontype":"6","file":"notes.txt","tag":""}])");
+  EXPECT_EQ(oldValueToDic(kChild, "documents", "3<br>7<br>4-scan.PDF", nullptr)["file"].text(),
+            newID2(1, 4) + "-scan.PDF");
+  EXPECT_EQ(oldValueToDic(kPregnancy, "documents", "3<br>7<br>4-scan.pdf", nullptr)["file"].text(),
+            "4-scan.pdf");
 }
 
 }  // namespace
