@@ -30,4 +30,11 @@ Value listView(List rows) {
   return m;
 }
 
+Value textView(const std::string& text) {
+  Map m;
+  m.set("kind", "text");
+  m.set("text", text);
+  return m;
+}
+
 }  // namespace lad::shell

@@ -22,5 +22,6 @@ struct RowView {
 
 Value pageView(const std::string& title, List children);
 Value listView(List rows);
+Value textView(const std::string& text);
 
 }  // namespace lad::shell

@@ -1,5 +1,7 @@
 #include "shell/welcome_screen.h"
 
+#include "shell/view.h"
+
 namespace lad::shell {
 
 namespace {
@@ -45,12 +47,7 @@ class WelcomeBuilder {
  public:
   explicit WelcomeBuilder(const Context& context) : context_(context) {}
 
-  void text(std::string_view text) {
-    Map m;
-    m.set("kind", "text");
-    m.set("text", context_.translate(text));
-    blocks_.push_back(Value(std::move(m)));
-  }
+  void text(std::string_view text) { blocks_.push_back(textView(context_.translate(text))); }
 
   // One row of buttons; two in a row share its width. None of their screens exists yet.
   void buttons(std::initializer_list<std::pair<WelcomeCommand, std::string_view>> buttons) {

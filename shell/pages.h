@@ -1,0 +1,19 @@
+// The pages of the ring that this build has screens for, and the screen of each.
+#pragma once
+
+#include <memory>
+#include <set>
+#include <string>
+
+#include "shell/application.h"
+#include "shell/screen.h"
+
+namespace lad::shell {
+
+// Page ids (menu ids below 21) with a screen in this build.
+const std::set<int>& builtPages();
+
+// The screen of a built page for a profile; nullptr for a page without one.
+std::unique_ptr<Screen> makePage(int page, Application& app, const std::string& gid);
+
+}  // namespace lad::shell

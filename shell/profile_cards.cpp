@@ -1,0 +1,107 @@
+#include "shell/profile_cards.h"
+
+#include <filesystem>
+
+#include "health/pregnancy_calendar.h"
+#include "store/folders.h"
+
+namespace lad::shell {
+
+namespace {
+
+constexpr std::string_view kCardPrefix = "card:";
+constexpr const char* kNoPicture = "ti-preg2.png";
+constexpr const char* kDateForm = "dd.MM.yyyy";
+
+std::string dateText(const Context& context, const Value& date) {
+  const auto d = date.asDate();
+  return d ? context.dates().dateToString(*d, kDateForm) : context.translate("не указано");
+}
+
+std::string sexIcon(const Value& sex) {
+  switch (sex.intValue()) {
+    case 1:
+      return "b-pic.png";
+    case 2:
+      return "w-pic.png";
+    default:
+      return {};
+  }
+}
+
+// The dates the state of a pregnancy counts from.
+Map stateSetup(const Map& profile) {
+  Map setup;
+  setup.set("dat1", profile["sdat1"]);
+  setup.set("dat2", Value());
+  setup.set("birthdate", profile["sbirthdate"]);
+  return setup;
+}
+
+ProfileCard cardOf(const Context& context, const Map& profile) {
+  ProfileCard card;
+  card.guid = profile["guid"].text();
+  card.picture = std::filesystem::exists(portraitFile(context, card.guid))
+                     ? "child-" + card.guid + ".jpg"
+                     : kNoPicture;
+  card.name = profile["childname"].text();
+  if (card.name.empty()) card.name = context.translate("Без имени");
+  card.sexIcon = sexIcon(profile["sex"]);
+  const Value& birth = profile["sbirthdate2"];
+  const std::string end = dateText(context, birth.asDate() ? birth : profile["sbirthdate"]);
+  card.lines.push_back(dateText(context, profile["sdat1"]) + " - " + end);
+  if (birth.asDate()) {
+    Map result;
+    result.set("birthresult", profile["birthresult"]);
+    result.set("sex", profile["sex"]);
+    card.lines.push_back(context.translate("Беременность завершена:"));
+    card.lines.push_back(dateText(context, birth));
+    card.lines.push_back(ageString(context, AgeMode::ShortBirthResult, result));
+  } else {
+    card.lines.push_back(pregnancyStateLine(context, stateSetup(profile)));
+  }
+  return card;
+}
+
+ProfileCard invitingCard(const Context& context) {
+  return {
+      "",
+      kNoPicture,
+      context.translate("Вы не беременны"),
+      "",
+      {context.translate("Для добавления беременности нажмите на кнопку \"Новая беременность\"")}};
+}
+
+}  // namespace
+
+std::string cardTarget(const std::string& guid) {
+  return std::string(kCardPrefix) + guid;
+}
+
+std::string cardGuid(std::string_view target) {
+  return target.starts_with(kCardPrefix) ? std::string(target.substr(kCardPrefix.size())) : "";
+}
+
+Value ProfileCard::toValue(bool open) const {
+  Map m;
+  m.set("kind", "card");
+  m.set("id", guid.empty() ? "" : cardTarget(guid));
+  m.set("picture", picture);
+  m.set("name", name);
+  if (!sexIcon.empty()) m.set("sex", sexIcon);
+  List texts;
+  for (const std::string& line : lines) texts.push_back(Value(line));
+  m.set("lines", Value(std::move(texts)));
+  m.set("open", open);
+  return Value(std::move(m));
+}
+
+std::vector<ProfileCard> pregnancyCards(const Context& context, const List& profiles) {
+  std::vector<ProfileCard> cards;
+  for (const Value& profile : profiles)
+    if (const Map* m = profile.asMap()) cards.push_back(cardOf(context, *m));
+  if (cards.empty()) cards.push_back(invitingCard(context));
+  return cards;
+}
+
+}  // namespace lad::shell

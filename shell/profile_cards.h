@@ -1,0 +1,30 @@
+// The pregnancy cards at the top of the main menu: picture, name, sex, dates and the state of
+// each pregnancy, or one card that invites to add a pregnancy when there is none.
+#pragma once
+
+#include <string>
+
+#include "core/context.h"
+#include "core/value.h"
+
+namespace lad::shell {
+
+// Target of a card in the view description ("card:<guid>"); the inviting card has none.
+std::string cardTarget(const std::string& guid);
+// The guid a card target names, or "" for any other target.
+std::string cardGuid(std::string_view target);
+
+struct ProfileCard {
+  std::string guid;  // empty on the inviting card
+  std::string picture;
+  std::string name;
+  std::string sexIcon;  // empty while the sex is not known
+  std::vector<std::string> lines;
+
+  Value toValue(bool open) const;
+};
+
+// One card per profile of loadProfils, in its order.
+std::vector<ProfileCard> pregnancyCards(const Context& context, const List& profiles);
+
+}  // namespace lad::shell
