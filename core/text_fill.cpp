@@ -49,9 +49,11 @@ std::string fillIn(std::string_view pattern, std::int64_t a, std::string_view b)
 }
 
 std::string formatFixed(double value, int decimals) {
-  char buf[64];
+  // Room for the largest double written out in full with a few decimals.
+  char buf[512];
   const auto result =
       std::to_chars(buf, buf + sizeof buf, value, std::chars_format::fixed, decimals);
+  if (result.ec != std::errc()) return "";
   return std::string(buf, result.ptr);
 }
 
