@@ -18,8 +18,6 @@ namespace lad {
 
 namespace {
 
-constexpr int kDietEnd = 1000;
-
 std::string rowsFilter(DayRows rows) {
   switch (rows) {
     case DayRows::Weight:
@@ -75,15 +73,17 @@ class DayLoader {
     }
     period_ = dayPeriod(context_, regim_, year, date, setup_);
     List work;
+    bool connected = false;
     {
       StoreBracket bracket = store_.connectToBase();
-      if (bracket.db()) {
+      connected = bracket.db() != nullptr;
+      if (connected) {
         readCarryOver(bracket);
         readDays(bracket, work);
         readCarryOver(bracket);
       }
     }
-    List target = secondPass(work);
+    List target = connected ? secondPass(work) : List();
     if (regim_ == kOneDayRegim) oneDay(target, date);
     return target;
   }

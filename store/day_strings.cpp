@@ -12,8 +12,6 @@ namespace lad {
 
 namespace {
 
-constexpr int kDietEnd = 1000;
-
 Value color(double r, double g, double b, double a) {
   Map m;
   m.set("r", r);

@@ -8,6 +8,9 @@ namespace lad {
 
 class Store;
 
+// The diet value that ends a diet.
+inline constexpr int kDietEnd = 1000;
+
 // A new day on that date with the flags isbirthdate, istoday, isphoto, isbolezn and isdieta
 // false.
 Map initNoteStruct(Date dat);

@@ -104,9 +104,9 @@ TEST_F(DayPeriodsTest, TheWomansYearIsTheCalendarYearAndHerMonthLoadsEachTempera
 }
 
 TEST_F(DayPeriodsTest, TheOneDayRegimGivesExactlyOneDay) {
-  for (int appid : {1, 2, 3}) {
+  for (int appid : {1, 2, 3, 14}) {
     openEdition(appid);
-    if (appid == 1) testing::addPregnancy(*store, kGid, day(1, 1, 2026), "60");
+    if (appid == 1 || appid == 14) testing::addPregnancy(*store, kGid, day(1, 1, 2026), "60");
     if (appid == 2) testing::addChild(*store, kGid, day(1, 1, 2025), "3.2", "50");
     put("note", "запись", day(12, 3, 2026));
     put("doctor", "завтра", day(13, 3, 2026));
@@ -119,6 +119,20 @@ TEST_F(DayPeriodsTest, TheOneDayRegimGivesExactlyOneDay) {
     EXPECT_EQ(one[0]["note"].text(), "запись");
     EXPECT_FALSE(one[0].asMap()->contains("doctor")) << appid;
   }
+}
+
+TEST_F(DayPeriodsTest, WithoutADatabaseTheListIsEmptyAndTheOneDayRegimStillGivesItsDay) {
+  openEdition(1);
+  testing::addPregnancy(*store, kGid, day(1, 3, 2026), "60");
+  put("note", "запись", day(2, 3, 2026));
+  std::filesystem::remove(store->liveFile());
+  std::filesystem::create_directory(store->liveFile());  // a folder in its place cannot be opened
+  EXPECT_TRUE(load(1, 0, day(1, 3, 2026)).empty());
+  EXPECT_TRUE(load(5, 0, day(1, 3, 2026)).empty());
+  const List one = load(2, 0, day(2, 3, 2026));
+  ASSERT_EQ(one.size(), 1u);
+  EXPECT_EQ(dateText(one[0]), "2026-03-02");
+  EXPECT_FALSE(one[0].asMap()->contains("note"));
 }
 
 TEST_F(DayPeriodsTest, TheCountsRegimCountsRecordsPerDay) {
