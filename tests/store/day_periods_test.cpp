@@ -76,6 +76,8 @@ TEST_F(DayPeriodsTest, AChildBornOn29FebruaryHasYearsFrom1MarchTo1March) {
   put("ves", "3.5", day(1, 3, 2024));
   EXPECT_EQ(datesOf(load(3, 0, {})), "2024-03-01 2025-03-01") << "all years below 1";
   EXPECT_EQ(datesOf(load(3, 2, {})), "2025-03-01") << "one year of age";
+  put("rost", "52", day(2, 3, 2024));
+  EXPECT_EQ(datesOf(load(4, 0, {})), "2024-03-02") << "the height table holds heights only";
 }
 
 TEST_F(DayPeriodsTest, TheWomansYearIsTheCalendarYearAndHerMonthLoadsEachTemperature) {
@@ -85,6 +87,11 @@ TEST_F(DayPeriodsTest, TheWomansYearIsTheCalendarYearAndHerMonthLoadsEachTempera
   testing::addPhoto(*context, day(15, 6, 2025), kGid);
   EXPECT_EQ(datesOf(load(1, 2025, {})), "2025-01-01 2025-06-15 2025-12-31");
   EXPECT_EQ(load(4, 2025, {}).size(), 365u);
+
+  for (const char* d : {"2025-12-14", "2025-12-15", "2025-12-31", "2026-01-01"})
+    put("ves", "55", *context->dates().dateFromString(d));
+  EXPECT_EQ(datesOf(load(5, 0, day(15, 12, 2025))), "2025-12-15 2025-12-31")
+      << "from the day to the first of the next month, across the new year";
 
   put("temp", "08:15<td>36.6<tr>21:40<td>37.1", day(3, 2, 2025));
   put("temp", R"([{"time":"07:05","temp":"36.4"}])", day(28, 2, 2025));
