@@ -9,7 +9,7 @@ namespace lad {
 
 namespace {
 
-struct FieldRowSpec {
+struct FieldRowEntry {
   const char* pic;
   const char* caption;
   int tp;
@@ -20,7 +20,7 @@ struct FieldRowSpec {
   bool edit;
 };
 
-const FieldRowSpec kPregnancyRows[] = {
+const FieldRowEntry kPregnancyRows[] = {
     {"ne-change.png", "Изменения, которые произошли с вами в этот день", 1, 1, "Изменения",
      "Отметьте изменения, которые произошли с вами в этот день", "changes", true},
     {"ne-health128.png", "Недомогания и ощущения, которые Вы почувствовали в этот день", 1, 2,
@@ -54,7 +54,7 @@ const FieldRowSpec kPregnancyRows[] = {
     {"", "Фото", 100, 0, "", "", "", true},
 };
 
-const FieldRowSpec kChildRows[] = {
+const FieldRowEntry kChildRows[] = {
     {"ne-achiv128.png", "Достижения малыша в этот день", 1, 1, "Достижения",
      "Отметьте достижения малыша в этот день", "achive", true},
     {"ne-health128.png", "Недомогания, которые наблюдаются у малыша", 1, 2, "Недомогания",
@@ -99,7 +99,7 @@ const FieldRowSpec kChildRows[] = {
     {"", "Фото", 100, 0, "", "", "", true},
 };
 
-const FieldRowSpec kWomanRows[] = {
+const FieldRowEntry kWomanRows[] = {
     {"checkgreen.png", "Тип", 14, 0, "", "", "daytype", true},
     {"ne-health128.png", "Недомогания, которые наблюдаются в этот день", 1, 1, "Недомогания",
      "Недомогания, которые наблюдаются в этот день", "health", true},
@@ -127,7 +127,7 @@ const FieldRowSpec kWomanRows[] = {
     {"", "Фото", 100, 0, "", "", "", true},
 };
 
-std::span<const FieldRowSpec> rowsOf(DayEdition edition) {
+std::span<const FieldRowEntry> rowsOf(DayEdition edition) {
   switch (edition) {
     case DayEdition::Child:
       return kChildRows;
@@ -139,18 +139,18 @@ std::span<const FieldRowSpec> rowsOf(DayEdition edition) {
   return kPregnancyRows;
 }
 
-Value fieldRow(const Context& context, const FieldRowSpec& spec) {
+Value fieldRow(const Context& context, const FieldRowEntry& entry) {
   Map row;
-  row.set("tp", spec.tp);
-  row.set("listid", spec.listid);
-  row.set("caption", context.translate(spec.caption));
-  row.set("pic", spec.pic);
-  row.set("editcap", context.translate(spec.editcap));
-  row.set("editdescr", context.translate(spec.editdescr));
+  row.set("tp", entry.tp);
+  row.set("listid", entry.listid);
+  row.set("caption", context.translate(entry.caption));
+  row.set("pic", entry.pic);
+  row.set("editcap", context.translate(entry.editcap));
+  row.set("editdescr", context.translate(entry.editdescr));
   row.set("text", "");
   row.set("source", "");
-  row.set("field", spec.field);
-  row.set("edit", spec.edit);
+  row.set("field", entry.field);
+  row.set("edit", entry.edit);
   row.set("required", false);
   return Value(std::move(row));
 }
@@ -159,8 +159,8 @@ Value fieldRow(const Context& context, const FieldRowSpec& spec) {
 
 void initTodayNoteStruct(const Context& context, List& rows) {
   rows.clear();
-  for (const FieldRowSpec& spec : rowsOf(dayEdition(context.values().appid)))
-    rows.push_back(fieldRow(context, spec));
+  for (const FieldRowEntry& entry : rowsOf(dayEdition(context.values().appid)))
+    rows.push_back(fieldRow(context, entry));
 }
 
 }  // namespace lad
