@@ -56,7 +56,7 @@ void markBirth(Map& day, const Map& setup, const DateCodec& dates, Date dat) {
   const std::optional<Date> birth = setup["birthdate2"].asDate();
   if (!birth || dates.getDays(*birth, dat) != 0) return;
   day.set("isbirthdate", true);
-  day.set("birthresult", setup["birthresult"]);
+  if (const Value* result = setup.find("birthresult")) day.set("birthresult", *result);
 }
 
 void setGroup(const Context& context, DayEdition edition, Map& day, const Map& setup, Date dat) {
