@@ -15,7 +15,12 @@ class DayTest : public StoreTest {
  protected:
   static constexpr const char* kGid = "DAY-PROFILE";
 
+  // A fresh installation of the edition, whatever an earlier one of the test left behind.
   void openEdition(int appid) {
+    store.reset();
+    context.reset();
+    for (const auto& entry : std::filesystem::directory_iterator(dir.path()))
+      std::filesystem::remove_all(entry.path());
     open(appid);
     fromOldVersion(*store);
     listData = loadConstList(*store, 0, std::nullopt);
