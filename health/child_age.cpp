@@ -2,31 +2,9 @@
 
 #include "core/context.h"
 #include "health/calendar_text.h"
+#include "store/calendar_span.h"
 
 namespace lad {
-
-namespace {
-
-struct CalendarSpan {
-  int years = 0;
-  int months = 0;
-  int days = 0;
-};
-
-// Whole years first, then whole months from there, then the days left, as a calendar counts
-// them: a year from 29 February ends on 28 February and the months go on from that day.
-CalendarSpan calendarSpan(const DateCodec& dates, Date from, Date to) {
-  from = dates.noTime(from);
-  to = dates.noTime(to);
-  CalendarSpan span;
-  span.years = dates.getMonths(from, to) / 12;
-  const Date afterYears = dates.addYears(from, span.years);
-  span.months = dates.getMonths(afterYears, to);
-  span.days = dates.getDays(dates.addMonths(afterYears, span.months), to);
-  return span;
-}
-
-}  // namespace
 
 std::string monthAge(const Context& context, Date from, Date to, bool noempty, bool nodays) {
   const CalendarSpan span = calendarSpan(context.dates(), from, to);
