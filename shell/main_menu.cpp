@@ -3,7 +3,11 @@
 #include <charconv>
 
 #include "core/menu_table.h"
+#include "shell/page_ring.h"
+#include "shell/pages.h"
+#include "shell/profile_cards.h"
 #include "shell/view.h"
+#include "store/profiles.h"
 
 namespace lad::shell {
 
@@ -60,16 +64,29 @@ std::optional<int> parseTarget(std::string_view target) {
   return id;
 }
 
+bool isPage(int id) {
+  return id > 0 && id < kFirstNonPageId;
+}
+
+bool isBuilt(int id) {
+  const SwitchSetting* sw = switchFor(id);
+  return (sw && sw->built) || (isPage(id) && builtPages().count(id));
+}
+
+// Rows that belong to an open profile, as opposed to the common ones.
+bool isProfileItem(const Value& item) {
+  return item["gid"].text() == "LOCAL";
+}
+
 RowView rowOf(const Value& item) {
   const int id = static_cast<int>(item["id"].intValue());
-  const SwitchSetting* sw = switchFor(id);
   RowView row;
   row.id = menuTarget(id);
   row.icon = item["pic"].text();
   row.caption = item["name"].text();
   row.comment = item["comment"].text();
   if (item["hint"].intValue() > 0) row.badge = item["hint"].text();
-  row.enabled = sw && sw->built;
+  row.enabled = isBuilt(id);
   if (item["tp"].intValue() == kMenuSwitch) row.checked = item["checked"].boolValue();
   return row;
 }
@@ -85,24 +102,66 @@ void MainMenu::updateMenu() {
     menuItemCheck(context_.values().tabMenu, s.id, switchShows(context_, s));
 }
 
+bool MainMenu::hasCards() const {
+  const int appid = context_.values().appid;
+  return appid == 1 || appid == 14;
+}
+
+// The cards, each open one followed by the items of its profile.
+List MainMenu::cardViews() {
+  List views;
+  bool activeFound = false;
+  for (const ProfileCard& card : pregnancyCards(context_, loadProfils(store_))) {
+    const bool open = !card.guid.empty() && card.guid == activeId_;
+    views.push_back(card.toValue(open));
+    if (!open) continue;
+    activeFound = true;
+    List rows;
+    for (const Value& item : context_.values().tabMenu)
+      if (isProfileItem(item)) rows.push_back(rowOf(item).toValue());
+    views.push_back(listView(std::move(rows)));
+  }
+  if (!activeFound) activeId_.clear();  // the open profile was removed
+  return views;
+}
+
 Value MainMenu::view() {
   updateMenu();
+  const bool cards = hasCards();
+  List children = cards ? cardViews() : List();
   List rows;
-  for (const Value& item : context_.values().tabMenu) rows.push_back(rowOf(item).toValue());
-  List children;
+  for (const Value& item : context_.values().tabMenu)
+    if (!cards || !isProfileItem(item)) rows.push_back(rowOf(item).toValue());
   children.push_back(listView(std::move(rows)));
   return pageView(context_.translate(context_.edition().caption), std::move(children));
 }
 
 EventResult MainMenu::tap(std::string_view target) {
+  if (const std::string guid = cardGuid(target); !guid.empty()) return tapCard(guid);
   auto id = parseTarget(target);
   if (!id || !menuRow(context_.values().tabMenu, *id))
     return EventResult::refused("no menu item " + std::string(target));
-  const SwitchSetting* sw = switchFor(*id);
-  if (!sw || !sw->built)
+  if (!isBuilt(*id))
     return EventResult::refused("menu item " + std::string(target) +
                                 " is not available in this version");
-  return toggleSwitch(*sw);
+  return tapItem(*id);
+}
+
+EventResult MainMenu::tapCard(const std::string& guid) {
+  for (const Value& profile : loadProfils(store_))
+    if (profile["guid"].text() == guid) {
+      activeId_ = activeId_ == guid ? std::string() : guid;
+      return {};
+    }
+  return EventResult::refused("no profile " + guid);
+}
+
+EventResult MainMenu::tapItem(int id) {
+  if (const SwitchSetting* sw = switchFor(id)) return toggleSwitch(*sw);
+  if (hasCards() && activeId_.empty())
+    return EventResult::refused("open a profile before its pages");
+  if (!openPage_) return EventResult::refused("pages cannot be opened here");
+  return openPage_(id);
 }
 
 EventResult MainMenu::toggleSwitch(const SwitchSetting& s) {

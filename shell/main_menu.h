@@ -1,16 +1,25 @@
 // The main menu: the edition's pages, commands and switches as one list.
 #pragma once
 
+#include <functional>
+#include <string>
+
 #include "core/context.h"
 #include "shell/screen.h"
+#include "store/store.h"
 
 namespace lad::shell {
 
 struct SwitchSetting;
 
+// In the pregnancy editions the menu begins with a card per pregnancy; touching a card opens
+// it, with the pages and commands of that profile below it, and touching it again closes it.
 class MainMenu : public Screen {
  public:
-  explicit MainMenu(Context& context) : context_(context) {}
+  // Brings a page of the ring to the front for the open profile.
+  using PageOpener = std::function<EventResult(int page)>;
+
+  MainMenu(Context& context, Store& store) : context_(context), store_(store) {}
 
   Value view() override;
   EventResult tap(std::string_view target) override;
@@ -18,10 +27,22 @@ class MainMenu : public Screen {
   // Marks the switch rows of the menu table with the state they stand for.
   void updateMenu();
 
+  void onOpenPage(PageOpener opener) { openPage_ = std::move(opener); }
+  // The open profile, or "" while every card is closed.
+  const std::string& activeId() const { return activeId_; }
+  void setActiveId(std::string gid) { activeId_ = std::move(gid); }
+
  private:
+  bool hasCards() const;
+  List cardViews();
+  EventResult tapCard(const std::string& guid);
+  EventResult tapItem(int id);
   EventResult toggleSwitch(const SwitchSetting& s);
 
   Context& context_;
+  Store& store_;
+  PageOpener openPage_;
+  std::string activeId_;
 };
 
 // Row id of a menu item in the view description ("menu:51").

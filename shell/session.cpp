@@ -2,6 +2,8 @@
 
 #include <algorithm>
 
+#include "shell/pages.h"
+#include "shell/view.h"
 #include "store/profiles.h"
 
 namespace lad::shell {
@@ -19,14 +21,26 @@ bool isShortcut(const std::string& name) {
   return name == "SCHVATKI" || name == "NEWNOTE";
 }
 
+constexpr std::string_view kToMenu = "ring:menu";
+constexpr int kContractionsPage = 6;
+// Pages that depend on the profile rebuild when another profile opens them.
+constexpr int kFirstProfilePage = 16, kLastProfilePage = 18;
+
 }  // namespace
+
+Session::Session(Application& app)
+    : app_(app),
+      menu_(app.context(), app.store()),
+      ring_(PageRing::pagesOf(app.context().values().tabMenu, builtPages())) {
+  menu_.onOpenPage([this](int page) { return openTab(page); });
+}
 
 Value Session::view() {
   if (!appeared_) {
     appeared_ = true;
     if (auto greeting = app_.takeVersionRecord()) welcome_.emplace(app_.context(), *greeting);
   }
-  Value screen = welcome_ ? welcome_->view() : menu_.view();
+  Value screen = welcome_ ? welcome_->view() : page_ ? ringView() : menu_.view();
   if (message_) screen.asMap()->set("message", message_->toValue());
   return screen;
 }
@@ -42,6 +56,8 @@ EventResult Session::handle(const Value& event) {
     return {};
   }
   if (*type == "shortcut") return setShortcut(event);
+  if (*type == "drag") return drag(event);
+  if (*type == "tilt") return tilt(event);
   if (*type == "tap") {
     const std::string* target = event["target"].asText();
     if (!target) return EventResult::refused("a tap needs a text \"target\"");
@@ -62,7 +78,84 @@ EventResult Session::tap(std::string_view target) {
     if (welcome_->closed()) welcome_.reset();
     return result;
   }
+  if (page_) {
+    if (target != kToMenu) return page_->tap(target);
+    gotoMenu();
+    return {};
+  }
   return menu_.tap(target);
+}
+
+Value Session::ringView() {
+  Map ring;
+  ring.set("kind", "ring");
+  ring.set("page", page_->view());
+  if (auto back = ring_.back(); back && *back != *ring_.front())
+    if (auto next = makePage(*back, app_, menu_.activeId())) ring.set("next", next->view());
+  ring.set("menu", menu_.view());
+  ring.set("toMenu", std::string(kToMenu));
+  return Value(std::move(ring));
+}
+
+EventResult Session::openTab(int page) {
+  auto screen = makePage(page, app_, menu_.activeId());
+  if (!screen || !ring_.open(page)) return EventResult::refused("no page " + std::to_string(page));
+  if (pageProfile_ != menu_.activeId()) {
+    auto& dirty = app_.context().values().pageDirty;
+    for (int i = kFirstProfilePage; i <= kLastProfilePage; ++i) dirty[i] = 1;
+    pageProfile_ = menu_.activeId();
+  }
+  page_ = std::move(screen);
+  return {};
+}
+
+void Session::gotoNextPage() {
+  ring_.gotoNextPage();
+  if (auto front = ring_.front()) openTab(*front);
+}
+
+void Session::gotoMenu() {
+  ring_.gotoMenu();
+  page_.reset();
+  menu_.updateMenu();
+}
+
+EventResult Session::drag(const Value& event) {
+  const Value& offset = event["offset"];
+  const Value& width = event["width"];
+  if (!isNumber(offset) || !isNumber(width))
+    return EventResult::refused("a drag needs numeric \"offset\" and \"width\"");
+  if (!page_ || welcome_ || message_) return EventResult::refused("no page is in front");
+  switch (dragEnded(offset.doubleValue(), width.doubleValue())) {
+    case DragOutcome::kMenu:
+      gotoMenu();
+      break;
+    case DragOutcome::kNextPage:
+      gotoNextPage();
+      break;
+    case DragOutcome::kBack:
+      break;
+  }
+  return {};
+}
+
+// Samples are dropped while something covers the pages or tilting is switched off.
+EventResult Session::tilt(const Value& event) {
+  const Value& x = event["x"];
+  if (!isNumber(x)) return EventResult::refused("a tilt needs a numeric \"x\"");
+  if (!atRoot() || app_.context().values().accStop) return {};
+  const bool upsideDown = event["upsideDown"].boolValue();
+  switch (tilt_.sample(x.doubleValue(), upsideDown, !menu_.activeId().empty())) {
+    case TiltNavigator::Move::kMenu:
+      if (page_) gotoMenu();
+      break;
+    case TiltNavigator::Move::kNextPage:
+      gotoNextPage();
+      break;
+    case TiltNavigator::Move::kNone:
+      break;
+  }
+  return {};
 }
 
 EventResult Session::setViewport(const Value& event) {
@@ -91,6 +184,7 @@ EventResult Session::becomeVisible() {
   if (!pendingShortcut_.empty() && atRoot()) quickStart();
   pendingShortcut_.clear();
   lockDue_ = app_.becomeActive().lockDue;
+  if (auto front = ring_.front()) openTab(*front);
   menu_.updateMenu();
   return {};
 }
@@ -99,8 +193,8 @@ bool Session::atRoot() const {
   return !welcome_ && !message_ && app_.context().values().modalOpen == 0;
 }
 
-// Both shortcuts act on the active pregnancy. The pages they open join the page ring as they
-// are built; until then the shortcut chooses the pregnancy and the menu stays.
+// Both shortcuts act on the active pregnancy. The contractions page opens when this build has
+// it; the new note waits for the diary screens, so it only chooses the pregnancy.
 void Session::quickStart() {
   Context& context = app_.context();
   auto active = getActivePregnancy(app_.store(), context.clock().now());
@@ -109,7 +203,8 @@ void Session::quickStart() {
         MessageBox::make(context, "Активная беременность не найдена", "Активная беременность");
     return;
   }
-  activeId_ = *active;
+  menu_.setActiveId(*active);
+  if (pendingShortcut_ == "SCHVATKI") openTab(kContractionsPage);
 }
 
 }  // namespace lad::shell

@@ -3,12 +3,14 @@
 // sessions.
 #pragma once
 
+#include <memory>
 #include <optional>
 #include <string>
 
 #include "shell/application.h"
 #include "shell/main_menu.h"
 #include "shell/message_box.h"
+#include "shell/page_ring.h"
 #include "shell/welcome_screen.h"
 
 namespace lad::shell {
@@ -21,36 +23,50 @@ struct ScreenMetrics {
 
 class Session {
  public:
-  explicit Session(Application& app) : app_(app), menu_(app.context()) {}
+  explicit Session(Application& app);
 
   // The screen on top; the first view of the first session after a launch brings the
-  // greeting when this version has not shown it yet.
+  // greeting when this version has not shown it yet. With a page in front the view is a
+  // "ring": the page, the page waiting behind it and the menu under both.
   Value view();
   // Takes one event from the browser:
   //   {"type": "tap", "target": id}, {"type": "viewport", "width": w, "height": h},
-  //   {"type": "visible"}, {"type": "hidden"}, {"type": "shortcut", "name": "SCHVATKI"}.
+  //   {"type": "visible"}, {"type": "hidden"}, {"type": "shortcut", "name": "SCHVATKI"},
+  //   {"type": "drag", "offset": px, "width": px} when the finger lifts off a dragged page,
+  //   {"type": "tilt", "x": g, "upsideDown": bool} every 0.3 s while the page is shown.
   EventResult handle(const Value& event);
 
   const ScreenMetrics& metrics() const { return metrics_; }
   // The last activation asked for the password lock.
   bool lockDue() const { return lockDue_; }
   // The profile this browser works on.
-  const std::string& activeId() const { return activeId_; }
+  const std::string& activeId() const { return menu_.activeId(); }
+  // The page in front, or nothing while the menu is.
+  std::optional<int> frontPage() const { return ring_.front(); }
 
  private:
   EventResult tap(std::string_view target);
   EventResult setViewport(const Value& event);
   EventResult setShortcut(const Value& event);
   EventResult becomeVisible();
+  EventResult drag(const Value& event);
+  EventResult tilt(const Value& event);
+  EventResult openTab(int page);
+  void gotoNextPage();
+  void gotoMenu();
   void quickStart();
   bool atRoot() const;
+  Value ringView();
 
   Application& app_;
   MainMenu menu_;
+  PageRing ring_;
+  std::unique_ptr<Screen> page_;  // the screen of the front page
+  std::string pageProfile_;       // the profile the pages were last opened for
+  TiltNavigator tilt_;
   std::optional<WelcomeScreen> welcome_;
   std::optional<MessageBox> message_;
   std::string pendingShortcut_;
-  std::string activeId_;
   ScreenMetrics metrics_;
   bool appeared_ = false;
   bool lockDue_ = false;

@@ -2,50 +2,88 @@
 
 #include <gtest/gtest.h>
 
-#include "core/launch.h"
-#include "tests/support/test_files.h"
+#include "tests/shell/application_fixture.h"
 
 namespace lad::shell {
 namespace {
 
 using namespace std::chrono_literals;
 
-class MainMenuTest : public ::testing::Test {
+class MainMenuTest : public testing::ApplicationTest {
  protected:
   MainMenuTest() {
-    context = std::make_unique<Context>(ContextOptions{1, 1, dir.path(), "1.0", nullptr, {}});
-    launch(*context);
+    launchApp();
+    context = &app->context();
     context->values().pageDirty.fill(0);
   }
 
+  // The rows of the view's last list: the common items.
+  static const List& commonRows(const Value& view) {
+    return *view["children"].asList()->back()["rows"].asList();
+  }
   const Value* row(Value& view, const std::string& id) {
-    for (const Value& r : *view["children"].asList()->front()["rows"].asList())
-      if (r["id"].text() == id) return &r;
+    for (const List* list : lists(view))
+      for (const Value& r : *list)
+        if (r["id"].text() == id) return &r;
     return nullptr;
+  }
+  static std::vector<const List*> lists(const Value& view) {
+    std::vector<const List*> found;
+    for (const Value& child : *view["children"].asList())
+      if (child["kind"].text() == "list") found.push_back(child["rows"].asList());
+    return found;
   }
   bool checkedInView(const std::string& id) {
     Value view = menu().view();
     const Value* r = row(view, id);
     return r && (*r)["checked"].boolValue();
   }
-  MainMenu menu() { return MainMenu(*context); }
+  MainMenu menu() { return MainMenu(*context, app->store()); }
   SettingsStore reread() { return SettingsStore(context->settings().file()); }
 
-  lad::testing::TempDir dir;
-  std::unique_ptr<Context> context;
+  Context* context = nullptr;
 };
 
-TEST_F(MainMenuTest, ViewListsTheMenuTableWithUnbuiltFeaturesDisabled) {
-  Value view = menu().view();
+TEST_F(MainMenuTest, CardsComeFirstAndAnOpenCardShowsItsProfileItems) {
+  MainMenu m = menu();
+  Value view = m.view();
   EXPECT_EQ(view["kind"].text(), "page");
   EXPECT_EQ(view["title"].text(), "Ладанея");
-  const List& rows = *view["children"].asList()->front()["rows"].asList();
-  ASSERT_EQ(rows.size(), context->values().tabMenu.size());
-  EXPECT_EQ(rows[0]["id"].text(), "menu:1");
-  EXPECT_EQ(rows[0]["caption"].text(), "Сегодня");
-  EXPECT_EQ(rows[0]["icon"].text(), "icon-today.png");
-  EXPECT_EQ(rows[0]["enabled"], Value(false));
-  EXPECT_TRUE(rows[0]["checked"].isNull());  // not a switch
+  const Value& card = view["children"].asList()->front();
+  ASSERT_EQ(card["kind"].text(), "card");
+  const std::string guid = "00000000-0000-0000-0001-000000000001";
+  EXPECT_EQ(card["id"].text(), "card:" + guid);
+  EXPECT_EQ(card["name"].text(), "Без имени");
+  EXPECT_EQ(card["picture"].text(), "ti-preg2.png");
+  EXPECT_EQ(card["open"], Value(false));
+  // The first launch starts a pregnancy today, due in 280 days.
+  EXPECT_EQ((*card["lines"].asList())[0].text(), "23.11.2026 - 30.08.2027");
+  EXPECT_EQ(lists(view).size(), 1u);
+  EXPECT_EQ(row(view, "menu:1"), nullptr);  // profile items wait for an open card
+
+  ASSERT_TRUE(m.tap("card:" + guid).ok());
+  EXPECT_EQ(m.activeId(), guid);
+  view = m.view();
+  ASSERT_EQ(lists(view).size(), 2u);
+  EXPECT_EQ((*row(view, "menu:1"))["caption"].text(), "Сегодня");
+  EXPECT_EQ((*row(view, "menu:1"))["enabled"], Value(false));  // its screen is not built
+  EXPECT_EQ((*row(view, "menu:3"))["enabled"], Value(true));
+
+  // Opening a page goes to the page ring; a page without a screen never gets there.
+  std::vector<int> opened;
+  m.onOpenPage([&](int page) {
+    opened.push_back(page);
+    return EventResult{};
+  });
+  EXPECT_TRUE(m.tap("menu:3").ok());
+  EXPECT_FALSE(m.tap("menu:1").ok());
+  EXPECT_EQ(opened, std::vector<int>{3});
+
+  ASSERT_TRUE(m.tap("card:" + guid).ok());  // touching an open card closes it
+  EXPECT_EQ(m.activeId(), "");
+  EXPECT_EQ(row(view = m.view(), "menu:1"), nullptr);
+  EXPECT_FALSE(m.tap("menu:3").ok());
+  EXPECT_FALSE(m.tap("card:00000000-0000-0000-0001-000000000009").ok());
 
   Value& v = view;
   EXPECT_EQ((*row(v, "menu:51"))["enabled"], Value(true));
@@ -54,6 +92,7 @@ TEST_F(MainMenuTest, ViewListsTheMenuTableWithUnbuiltFeaturesDisabled) {
   EXPECT_EQ((*row(v, "menu:53"))["checked"], Value(false));  // tilt is off at first
   EXPECT_EQ((*row(v, "menu:55"))["checked"], Value(true));
   EXPECT_EQ((*row(v, "menu:0"))["comment"].text(), "Версия 1.0");
+  EXPECT_TRUE(commonRows(v).front()["checked"].isNull());  // not a switch
 }
 
 TEST_F(MainMenuTest, SwitchesStoreTheirSettingAndSharedValue) {

@@ -66,7 +66,7 @@ TEST_F(SessionTest, TapsReachTheMenuAndAllSessionsShareTheInstallation) {
   ASSERT_TRUE(a->handle(event(R"({"type":"tap","target":"menu:51"})")).ok());
   Value view = b->view();
   bool found = false;
-  for (const Value& row : *view["children"].asList()->front()["rows"].asList())
+  for (const Value& row : *view["children"].asList()->back()["rows"].asList())
     if (row["id"].text() == "menu:51") found = row["checked"].boolValue();
   EXPECT_TRUE(found);
 }
@@ -89,6 +89,50 @@ TEST_F(SessionTest, AShortcutRunsAtTheNextActivationOnTheActivePregnancy) {
   ASSERT_TRUE(s->handle(event(R"({"type":"visible"})")).ok());
   EXPECT_EQ(s->activeId(), "00000000-0000-0000-0001-000000000001");
   EXPECT_FALSE(s->view().asMap()->contains("message"));
+}
+
+TEST_F(SessionTest, PagesOpenFromAnOpenCardAndLeaveByDragOrTilt) {
+  const std::string card = "card:00000000-0000-0000-0001-000000000001";
+  auto s = greeted();
+  EXPECT_FALSE(s->handle(event(R"({"type":"tap","target":"menu:3"})")).ok());  // no open card
+  ASSERT_TRUE(s->handle(event(R"({"type":"tap","target":")" + card + R"("})")).ok());
+  ASSERT_TRUE(s->handle(event(R"({"type":"tap","target":"menu:3"})")).ok());
+  EXPECT_EQ(s->frontPage(), 3);
+  Value view = s->view();
+  ASSERT_EQ(view["kind"].text(), "ring");
+  EXPECT_EQ(view["page"]["title"].text(), "Графики ребенка");
+  EXPECT_EQ((*view["page"]["children"].asList())[0]["text"].text(), "1 неделя");
+  EXPECT_EQ(view["menu"]["kind"].text(), "page");
+  EXPECT_TRUE(view["next"].isNull());  // a ring of one page has only itself behind
+
+  // A short drag springs back; past a quarter of the width to the left the ring turns, and to
+  // the right the menu comes back.
+  EXPECT_FALSE(s->handle(event(R"({"type":"drag","offset":"x","width":320})")).ok());
+  ASSERT_TRUE(s->handle(event(R"({"type":"drag","offset":70,"width":320})")).ok());
+  EXPECT_EQ(s->frontPage(), 3);
+  ASSERT_TRUE(s->handle(event(R"({"type":"drag","offset":-90,"width":320})")).ok());
+  EXPECT_EQ(s->frontPage(), 3);
+  ASSERT_TRUE(s->handle(event(R"({"type":"drag","offset":90,"width":320})")).ok());
+  EXPECT_EQ(s->frontPage(), std::nullopt);
+  EXPECT_EQ(s->view()["kind"].text(), "page");
+  EXPECT_FALSE(s->handle(event(R"({"type":"drag","offset":90,"width":320})")).ok());
+
+  // Tilting is off until switch 53 turns it on; then one tilt left opens the next page and
+  // one tilt right, after a rest, uncovers the menu.
+  ASSERT_TRUE(s->handle(event(R"({"type":"tilt","x":-0.8})")).ok());
+  EXPECT_EQ(s->frontPage(), std::nullopt);
+  ASSERT_TRUE(s->handle(event(R"({"type":"tap","target":"menu:53"})")).ok());
+  ASSERT_TRUE(s->handle(event(R"({"type":"tilt","x":-0.8})")).ok());
+  EXPECT_EQ(s->frontPage(), 3);
+  ASSERT_TRUE(s->handle(event(R"({"type":"tilt","x":0.8})")).ok());
+  EXPECT_EQ(s->frontPage(), 3);
+  ASSERT_TRUE(s->handle(event(R"({"type":"tilt","x":0.1})")).ok());
+  ASSERT_TRUE(s->handle(event(R"({"type":"tilt","x":0.8})")).ok());
+  EXPECT_EQ(s->frontPage(), std::nullopt);
+
+  ASSERT_TRUE(s->handle(event(R"({"type":"tap","target":"menu:3"})")).ok());
+  ASSERT_TRUE(s->handle(event(R"({"type":"tap","target":"ring:menu"})")).ok());
+  EXPECT_EQ(s->frontPage(), std::nullopt);
 }
 
 TEST_F(SessionTest, AShortcutWithoutAPregnancyTellsSoAndAMessageTakesTheTapsUntilClosed) {
