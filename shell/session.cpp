@@ -42,6 +42,9 @@ Value Session::view() {
   }
   Value screen = welcome_ ? welcome_->view() : page_ ? ringView() : menu_.view();
   if (message_) screen.asMap()->set("message", message_->toValue());
+  // The browser sends tilt samples only while they can move a page.
+  screen.asMap()->set("tilt", !welcome_ && !app_.context().values().accStop &&
+                                  !menu_.activeId().empty());
   return screen;
 }
 

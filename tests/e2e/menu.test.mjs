@@ -155,7 +155,17 @@ function rowsOf(node) {
   return (node.rows ?? node.children ?? []).flatMap(rowsOf);
 }
 
+/** Opens the first pregnancy's card, which brings its pages and commands under it. */
+async function openCard(page) {
+  await page.waitForSelector('.card[data-id]');
+  assert.equal(await page.getAttribute('.card[data-id]', 'aria-expanded'), 'false', 'cards start closed');
+  await page.tap('.card[data-id]');
+  await page.waitForSelector(`[data-id="${NOT_BUILT_ROW}"]`);
+  assert.equal(await page.getAttribute('.card[data-id]', 'aria-expanded'), 'true', 'the card is open');
+}
+
 async function checkMenuRows(page) {
+  await openCard(page);
   const view = await page.evaluate(() => fetch('/api/view').then((r) => r.json()).then((b) => b.view));
   const expected = rowsOf(view).map((row) => ({ id: row.id, text: rowText(row), enabled: row.enabled }));
   const drawn = await page.$$eval('.row', (rows) =>
@@ -189,6 +199,24 @@ async function checkDisabledTapSendsNothing(page) {
   await sleep(500);
   page.off('request', record);
   assert.deepEqual(sent, [], `tapping disabled ${NOT_BUILT_ROW} sends no event`);
+}
+
+/** A built page comes to the front over the menu; dragging it right uncovers the menu again. */
+async function checkRing(page, outDir) {
+  await page.tap('[data-id="menu:3"]');
+  await page.waitForSelector('.ring-page .page-title');
+  assert.equal(await page.textContent('.ring-page .page-title'), 'Графики ребенка', 'the page title');
+  await page.screenshot({ path: path.join(outDir, 'ring-page.png') });
+  const box = await page.$eval('.ring-page', (node) => {
+    const r = node.getBoundingClientRect();
+    return { y: r.top + 300, width: window.innerWidth };
+  });
+  await page.mouse.move(40, box.y);
+  await page.mouse.down();
+  for (const x of [80, 160, 240, 320]) await page.mouse.move(x, box.y);
+  await page.mouse.up();
+  await page.waitForSelector('.card[data-id]');
+  assert.equal(await page.$('.ring'), null, 'the drag to the right uncovered the menu');
 }
 
 async function checkFont(page) {
@@ -276,6 +304,7 @@ async function checkGerman(browser, executable, outDir) {
     const context = await browser.newContext(PHONE);
     const { page, welcome } = await passWelcome(context, base, outDir, 'welcome-de');
     assert.equal(welcome.close, GERMAN.close, 'the closing button in German');
+    await openCard(page);
     const first = await page.textContent('.row .caption');
     assert.equal(first, GERMAN.firstRow, 'the first menu row in German');
     await page.screenshot({ path: path.join(outDir, 'menu-de.png'), fullPage: true });
@@ -296,6 +325,7 @@ async function checkInBrowser(browser, base, outDir) {
   await checkFont(page);
   await checkIcons(page);
   await checkDisabledTapSendsNothing(page);
+  await checkRing(page, outDir);
   await checkServiceWorker(page);
 
   await waitForSwitch(page, false, 'fresh data');

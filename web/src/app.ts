@@ -3,6 +3,7 @@
 import { fetchView, RefusedError, sendEvent } from './api.js';
 import { listen } from './events.js';
 import { showNotice } from './notice.js';
+import { followDrags, followTilt } from './gestures.js';
 import { show } from './screen.js';
 import type { ClientEvent, Screen } from './view.js';
 import { onViewportChange, viewportEvent } from './viewport.js';
@@ -15,6 +16,7 @@ let newest = 0; // number of the newest request; answers to older ones are dropp
 let viewportSent = false;
 let activated = false;
 let tapping = false;
+let tiltOn = false;
 let listening = false;
 let retryDelay = RETRY_FIRST_MS;
 let retryTimer: number | undefined;
@@ -24,7 +26,10 @@ async function request(load: () => Promise<Screen>): Promise<boolean> {
   const ticket = ++newest;
   try {
     const view = await load();
-    if (ticket === newest) show(root, view);
+    if (ticket === newest) {
+      show(root, view);
+      tiltOn = view.tilt === true;
+    }
     retryDelay = RETRY_FIRST_MS;
     startListening();
     return true;
@@ -91,7 +96,9 @@ async function tap(control: HTMLElement): Promise<void> {
 
 /** The row or button that a click or key press is meant for. */
 function controlOf(target: EventTarget | null): HTMLElement | null {
-  return target instanceof Element ? target.closest<HTMLElement>('.row, button[data-id]') : null;
+  return target instanceof Element
+    ? target.closest<HTMLElement>('.row, .card[data-id], button[data-id]')
+    : null;
 }
 
 root.addEventListener('click', (event) => {
@@ -101,7 +108,7 @@ root.addEventListener('click', (event) => {
 root.addEventListener('keydown', (event) => {
   const control = controlOf(event.target);
   // Buttons turn Enter and Space into clicks themselves.
-  if (control?.classList.contains('row') && (event.key === 'Enter' || event.key === ' ')) {
+  if (control && control.tagName !== 'BUTTON' && (event.key === 'Enter' || event.key === ' ')) {
     event.preventDefault();
     void tap(control);
   }
@@ -116,5 +123,10 @@ onViewportChange(() => {
   void sync();
 });
 window.addEventListener('online', () => void sync());
+followDrags(root, (offset, width) => void send({ type: 'drag', offset, width }));
+followTilt(
+  () => tiltOn && !tapping,
+  (x, upsideDown) => void send({ type: 'tilt', x, upsideDown }),
+);
 if ('serviceWorker' in navigator) void navigator.serviceWorker.register('/sw.js');
 void sync();

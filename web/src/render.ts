@@ -1,8 +1,10 @@
 // Turns a view description into DOM. All text shown comes from the description itself.
 import { element } from './dom.js';
+import { renderRing } from './ring.js';
 import type {
   ButtonNode,
   ButtonsNode,
+  CardNode,
   ListNode,
   MessageNode,
   PageNode,
@@ -29,12 +31,16 @@ export function render(node: ViewNode): HTMLElement | null {
       return renderButtons(node);
     case 'message':
       return renderMessage(node);
+    case 'card':
+      return renderCard(node);
+    case 'ring':
+      return renderRing(node, renderPage);
     default:
       return null; // kinds this build does not know are skipped
   }
 }
 
-function renderPage(node: PageNode): HTMLElement {
+export function renderPage(node: PageNode): HTMLElement {
   const page = element('div', 'page');
   const header = element('header', 'page-header');
   header.append(element('h1', 'page-title', node.title));
@@ -83,6 +89,23 @@ function renderRow(node: RowNode): HTMLElement {
     control.setAttribute('aria-disabled', 'true');
   }
   return row;
+}
+
+function renderCard(node: CardNode): HTMLElement {
+  const card = element('div', node.open ? 'card open' : 'card');
+  card.append(renderIcon(node.picture, 'card-picture'));
+  const text = element('div', 'card-text');
+  const name = element('div', 'card-name', node.name);
+  if (node.sex) name.append(renderIcon(node.sex, 'card-sex'));
+  text.append(name, ...node.lines.map((line) => element('div', 'card-line', line)));
+  card.append(text);
+  if (node.id) {
+    card.dataset.id = node.id;
+    card.setAttribute('role', 'button');
+    card.setAttribute('aria-expanded', String(node.open));
+    card.tabIndex = 0;
+  }
+  return card;
 }
 
 function renderIcon(name: string, className: string): HTMLElement {

@@ -65,6 +65,28 @@ export interface MessageNode {
   button: string;
 }
 
+/** A profile's card at the top of the main menu; touching it opens or closes the profile. */
+export interface CardNode {
+  kind: 'card';
+  /** Empty on the card that only invites to add a profile. */
+  id: string;
+  picture: string;
+  name: string;
+  sex?: string;
+  lines: string[];
+  open: boolean;
+}
+
+/** A page of the ring in front of the menu, the page waiting behind it, and the menu. */
+export interface RingNode {
+  kind: 'ring';
+  page: PageNode;
+  next?: PageNode;
+  menu: PageNode;
+  /** The tap that slides the page aside to uncover the menu. */
+  toMenu: string;
+}
+
 export type ViewNode =
   | PageNode
   | ListNode
@@ -73,14 +95,21 @@ export type ViewNode =
   | WelcomeNode
   | TextNode
   | ButtonsNode
-  | MessageNode;
+  | MessageNode
+  | CardNode
+  | RingNode;
 
-/** What the server sends: the screen on top, with a message over it while one is open. */
-export type Screen = ViewNode & { message?: MessageNode };
+/**
+ * What the server sends: the screen on top, with a message over it while one is open, and
+ * whether tilting the device moves between pages.
+ */
+export type Screen = ViewNode & { message?: MessageNode; tilt?: boolean };
 
 export type ClientEvent =
   | { type: 'tap'; target: string }
   | { type: 'viewport'; width: number; height: number }
   | { type: 'visible' }
   | { type: 'hidden' }
-  | { type: 'shortcut'; name: string };
+  | { type: 'shortcut'; name: string }
+  | { type: 'drag'; offset: number; width: number }
+  | { type: 'tilt'; x: number; upsideDown: boolean };
