@@ -21,12 +21,25 @@ bool isShortcut(const std::string& name) {
 
 }  // namespace
 
+Session::Session(Application& app) : app_(app), menu_(app.context()) {
+  if (passwordOn(app.context().settings())) showLock(LockMode::Check);
+}
+
+void Session::showLock(LockMode mode) {
+  lock_.emplace(app_.context(), app_.lockThrottle(), mode);
+}
+
+void Session::askNewPassword() {
+  showLock(LockMode::New);
+}
+
 Value Session::view() {
+  if (locked()) return lock_->view();
   if (!appeared_) {
     appeared_ = true;
     if (auto greeting = app_.takeVersionRecord()) welcome_.emplace(app_.context(), *greeting);
   }
-  Value screen = welcome_ ? welcome_->view() : menu_.view();
+  Value screen = lock_ ? lock_->view() : welcome_ ? welcome_->view() : menu_.view();
   if (message_) screen.asMap()->set("message", message_->toValue());
   return screen;
 }
@@ -52,6 +65,7 @@ EventResult Session::handle(const Value& event) {
 
 // Only the screen on top takes taps; a tap meant for a screen below it is stale.
 EventResult Session::tap(std::string_view target) {
+  if (lock_) return tapLock(target);
   if (message_) {
     if (target != kMessageClose) return EventResult::refused("a message is open");
     message_.reset();
@@ -63,6 +77,16 @@ EventResult Session::tap(std::string_view target) {
     return result;
   }
   return menu_.tap(target);
+}
+
+EventResult Session::tapLock(std::string_view target) {
+  EventResult result = lock_->tap(target);
+  if (lock_->closed()) {
+    if (lock_->outcome()) message_ = lock_->outcome();
+    lock_.reset();
+    menu_.updateMenu();
+  }
+  return result;
 }
 
 EventResult Session::setViewport(const Value& event) {
@@ -91,6 +115,7 @@ EventResult Session::becomeVisible() {
   if (!pendingShortcut_.empty() && atRoot()) quickStart();
   pendingShortcut_.clear();
   lockDue_ = app_.becomeActive().lockDue;
+  if (lockDue_ && passwordOn(app_.context().settings()) && !locked()) showLock(LockMode::Check);
   menu_.updateMenu();
   return {};
 }

@@ -9,6 +9,7 @@
 #include "shell/application.h"
 #include "shell/main_menu.h"
 #include "shell/message_box.h"
+#include "shell/password_lock.h"
 #include "shell/welcome_screen.h"
 
 namespace lad::shell {
@@ -21,7 +22,8 @@ struct ScreenMetrics {
 
 class Session {
  public:
-  explicit Session(Application& app) : app_(app), menu_(app.context()) {}
+  // With the lock on, a new session starts behind it.
+  explicit Session(Application& app);
 
   // The screen on top; the first view of the first session after a launch brings the
   // greeting when this version has not shown it yet.
@@ -34,11 +36,17 @@ class Session {
   const ScreenMetrics& metrics() const { return metrics_; }
   // The last activation asked for the password lock.
   bool lockDue() const { return lockDue_; }
+  // The lock covers everything: the session shows it and takes nothing else.
+  bool locked() const { return lock_ && lock_->mode() == LockMode::Check; }
+  // The menu's password switch turned on: the lock takes a new code.
+  void askNewPassword();
   // The profile this browser works on.
   const std::string& activeId() const { return activeId_; }
 
  private:
   EventResult tap(std::string_view target);
+  EventResult tapLock(std::string_view target);
+  void showLock(LockMode mode);
   EventResult setViewport(const Value& event);
   EventResult setShortcut(const Value& event);
   EventResult becomeVisible();
@@ -49,6 +57,7 @@ class Session {
   MainMenu menu_;
   std::optional<WelcomeScreen> welcome_;
   std::optional<MessageBox> message_;
+  std::optional<PasswordLock> lock_;
   std::string pendingShortcut_;
   std::string activeId_;
   ScreenMetrics metrics_;
