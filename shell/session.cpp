@@ -2,6 +2,7 @@
 
 #include <algorithm>
 
+#include "shell/theme.h"
 #include "store/profiles.h"
 
 namespace lad::shell {
@@ -34,14 +35,17 @@ void Session::askNewPassword() {
 }
 
 Value Session::view() {
-  if (locked()) return lock_->view();
+  if (locked()) return withBackground(lock_->view());
   if (!appeared_) {
     appeared_ = true;
     if (auto greeting = app_.takeVersionRecord()) welcome_.emplace(app_.context(), *greeting);
   }
-  Value screen = lock_ ? lock_->view() : welcome_ ? welcome_->view() : menu_.view();
+  Value screen = lock_          ? lock_->view()
+                 : welcome_     ? welcome_->view()
+                 : backgrounds_ ? backgrounds_->view()
+                                : menu_.view();
   if (message_) screen.asMap()->set("message", message_->toValue());
-  return screen;
+  return withBackground(std::move(screen));
 }
 
 EventResult Session::handle(const Value& event) {
@@ -76,7 +80,25 @@ EventResult Session::tap(std::string_view target) {
     if (welcome_->closed()) welcome_.reset();
     return result;
   }
+  if (backgrounds_) {
+    EventResult result = backgrounds_->tap(target);
+    if (backgrounds_->closed()) backgrounds_.reset();
+    return result;
+  }
   return menu_.tap(target);
+}
+
+// Every screen lies on the chosen background; the lock on its darker form.
+Value Session::withBackground(Value screen) const {
+  const ProcessValues& values = app_.context().values();
+  Map theme;
+  theme.set("picture", backgroundPicture(values.backgroundId, lock_.has_value()));
+  theme.set("darkHeader", values.themeDarkHeader);
+  theme.set("caption", values.themeCaptionColour);
+  theme.set("text", values.themeTextColour);
+  theme.set("accent", values.themeAccentColour);
+  screen.asMap()->set("theme", Value(std::move(theme)));
+  return screen;
 }
 
 EventResult Session::tapLock(std::string_view target) {

@@ -7,6 +7,7 @@
 #include <string>
 
 #include "shell/application.h"
+#include "shell/background_list.h"
 #include "shell/main_menu.h"
 #include "shell/message_box.h"
 #include "shell/password_lock.h"
@@ -40,6 +41,8 @@ class Session {
   bool locked() const { return lock_ && lock_->mode() == LockMode::Check; }
   // The menu's password switch turned on: the lock takes a new code.
   void askNewPassword();
+  // The menu's background row: the list of backgrounds.
+  void showBackgrounds() { backgrounds_.emplace(app_.context()); }
   // The profile this browser works on.
   const std::string& activeId() const { return activeId_; }
 
@@ -47,6 +50,7 @@ class Session {
   EventResult tap(std::string_view target);
   EventResult tapLock(std::string_view target);
   void showLock(LockMode mode);
+  Value withBackground(Value screen) const;
   EventResult setViewport(const Value& event);
   EventResult setShortcut(const Value& event);
   EventResult becomeVisible();
@@ -58,6 +62,7 @@ class Session {
   std::optional<WelcomeScreen> welcome_;
   std::optional<MessageBox> message_;
   std::optional<PasswordLock> lock_;
+  std::optional<BackgroundList> backgrounds_;
   std::string pendingShortcut_;
   std::string activeId_;
   ScreenMetrics metrics_;

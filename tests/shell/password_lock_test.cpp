@@ -42,7 +42,7 @@ TEST_F(PasswordLockTest, NewCodeIsRepeatedAndKeptOnlyAsAHash) {
   type(l, "1234");
   EXPECT_EQ(l.mode(), LockMode::Repeat);
   EXPECT_EQ(caption(l), "Введите пароль еще раз");
-  EXPECT_EQ(dot(l, 0), "b-pass-e.png");
+  EXPECT_EQ(dot(l, 0), "pass-e.png");
   type(l, "1234");
   ASSERT_TRUE(l.closed());
   EXPECT_EQ(l.outcome()->text, "На вход в программу установлен пароль.");
@@ -72,12 +72,12 @@ TEST_F(PasswordLockTest, DeleteTakesADigitOffAndCancelsOnlyWhileSettingACode) {
   setCode("1234");
   PasswordLock check = lock(LockMode::Check);
   type(check, "12");
-  EXPECT_EQ(dot(check, 1), "b-pass-f.png");
+  EXPECT_EQ(dot(check, 1), "pass-f.png");
   check.tap(kLockDelete);
   check.tap(kLockDelete);
   check.tap(kLockDelete);  // nothing left: no way past the lock
   EXPECT_FALSE(check.closed());
-  EXPECT_EQ(dot(check, 0), "b-pass-e.png");
+  EXPECT_EQ(dot(check, 0), "pass-e.png");
   EXPECT_FALSE(check.tap("lock:x").ok());
   EXPECT_FALSE(check.tap("menu:52").ok());
 
@@ -96,7 +96,7 @@ TEST_F(PasswordLockTest, WrongCodeWarnsInTheEditionsColourAndTheFourthDigitDecid
   EXPECT_FALSE(l.closed());
   EXPECT_EQ(caption(l), "Пароль указан неправильно");
   EXPECT_EQ(l.view()["captionColor"].text(), "rgb(255,207,0)");
-  EXPECT_EQ(dot(l, 0), "b-pass-e.png");
+  EXPECT_EQ(dot(l, 0), "pass-e.png");
   l.tap("lock:1");  // the first key brings the caption back
   EXPECT_EQ(caption(l), "Введите пароль");
   EXPECT_TRUE(l.view()["captionColor"].isNull());
@@ -123,7 +123,7 @@ TEST_F(PasswordLockTest, RepeatedWrongCodesWaitLongerButNeverShutOut) {
   EXPECT_EQ(l.view()["wait"].intValue(), 1);
   // While waiting, keys are taken but nothing is entered.
   EXPECT_EQ(l.tap("lock:1").redrawAfter, 1s);
-  EXPECT_EQ(dot(l, 0), "b-pass-e.png");
+  EXPECT_EQ(dot(l, 0), "pass-e.png");
   clock->advance(1s);
   EXPECT_EQ(type(l, "0000").redrawAfter, 2s);
   clock->advance(2s);
