@@ -11,6 +11,8 @@ namespace {
 
 constexpr double kTabletShortSide = 600;  // CSS pixels
 constexpr double kLargestViewport = 100000;
+constexpr int kPasswordSwitch = 52;
+constexpr int kBackgroundRow = 42;
 
 bool isNumber(const Value& v) {
   return v.type() == Value::Type::Integer || v.type() == Value::Type::Double;
@@ -84,6 +86,27 @@ EventResult Session::tap(std::string_view target) {
     EventResult result = backgrounds_->tap(target);
     if (backgrounds_->closed()) backgrounds_.reset();
     return result;
+  }
+  return tapMenu(target);
+}
+
+// The password switch and the background row open their screens; the rest is the menu's.
+EventResult Session::tapMenu(std::string_view target) {
+  if (target == menuTarget(kPasswordSwitch)) {
+    SettingsStore& settings = app_.context().settings();
+    if (!settings.boolForKey("pass")) {
+      askNewPassword();
+      return {};
+    }
+    turnPasswordOff(settings);
+    menu_.updateMenu();
+    EventResult result;
+    result.installationChanged = true;
+    return result;
+  }
+  if (target == menuTarget(kBackgroundRow)) {
+    showBackgrounds();
+    return {};
   }
   return menu_.tap(target);
 }

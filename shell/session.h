@@ -49,6 +49,7 @@ class Session {
  private:
   EventResult tap(std::string_view target);
   EventResult tapLock(std::string_view target);
+  EventResult tapMenu(std::string_view target);
   void showLock(LockMode mode);
   Value withBackground(Value screen) const;
   EventResult setViewport(const Value& event);

@@ -154,7 +154,9 @@ TEST_F(PasswordLockTest, SwitchRoundTripThroughTheSession) {
   };
   Session s(*app);
   EXPECT_FALSE(s.locked());
-  s.askNewPassword();  // the switch on
+  s.view();
+  tap(s, "welcome:close");
+  tap(s, "menu:52");  // the switch on
   typeIn(s, "24682468");
   EXPECT_EQ(s.view()["message"]["text"].text(), "На вход в программу установлен пароль.");
   ASSERT_TRUE(tap(s, std::string(kMessageClose)).ok());
@@ -184,7 +186,8 @@ TEST_F(PasswordLockTest, SwitchRoundTripThroughTheSession) {
   typeIn(third, "1357");
   EXPECT_FALSE(third.locked());
 
-  turnPasswordOff(settings());  // the switch off
+  EXPECT_TRUE(tap(s, "menu:52").installationChanged);  // the switch off
+  EXPECT_FALSE(settings().boolForKey("pass"));
   EXPECT_FALSE(Session(*app).locked());
 }
 

@@ -87,7 +87,8 @@ TEST_F(ThemeTest, SessionShowsTheChosenBackgroundAndTheLockItsDarkerForm) {
   Session s(*app);
   EXPECT_EQ(s.view()["theme"]["picture"].text(), "bg640-2.png");
   tapIn(s, "welcome:close");
-  s.showBackgrounds();
+  tapIn(s, "menu:42");
+  ASSERT_EQ(s.view()["children"].asList()->at(0)["rows"].asList()->size(), 9u);
   ASSERT_TRUE(tapIn(s, backgroundTarget(4)).ok());
   EXPECT_EQ(s.view()["theme"]["picture"].text(), "bg640-4.png");
   EXPECT_EQ(s.view()["theme"]["caption"].text(), "rgba(179,0,0,1)");
