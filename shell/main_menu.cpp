@@ -1,5 +1,6 @@
 #include "shell/main_menu.h"
 
+#include <algorithm>
 #include <charconv>
 
 #include "core/menu_table.h"
@@ -36,6 +37,13 @@ const SwitchSetting kSwitches[] = {
     {56, "showRec", &ProcessValues::showRec, false, true, kNoPage, 0ms},
 };
 
+// Rows that the session answers with a screen of its own (the background list, the lock).
+constexpr int kScreenRows[] = {42, 52};
+
+bool opensScreen(int id) {
+  return std::find(std::begin(kScreenRows), std::end(kScreenRows), id) != std::end(kScreenRows);
+}
+
 const SwitchSetting* switchFor(int id) {
   for (const auto& s : kSwitches)
     if (s.id == id) return &s;
@@ -69,7 +77,7 @@ RowView rowOf(const Value& item) {
   row.caption = item["name"].text();
   row.comment = item["comment"].text();
   if (item["hint"].intValue() > 0) row.badge = item["hint"].text();
-  row.enabled = sw && sw->built;
+  row.enabled = (sw && sw->built) || opensScreen(id);
   if (item["tp"].intValue() == kMenuSwitch) row.checked = item["checked"].boolValue();
   return row;
 }
