@@ -82,8 +82,4 @@ std::string usage(const std::string& program) {
          "  --version           the program's version\n";
 }
 
-bool isLoopbackHost(const std::string& host) {
-  return host == "localhost" || host == "::1" || host.starts_with("127.");
-}
-
 }  // namespace lad::app

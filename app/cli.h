@@ -28,6 +28,4 @@ std::optional<Command> parseCommandLine(const std::vector<std::string>& args, st
 
 std::string usage(const std::string& program);
 
-bool isLoopbackHost(const std::string& host);
-
 }  // namespace lad::app

@@ -7,6 +7,7 @@
 #include <thread>
 
 #include "server/http_server.h"
+#include "server/listen_policy.h"
 
 namespace lad::app {
 
@@ -40,12 +41,6 @@ std::thread signalWaiter(sigset_t set, server::HttpServer& http, std::atomic<boo
 }  // namespace
 
 int serve(int appid, const ServeOptions& o) {
-  if (!isLoopbackHost(o.host)) {
-    std::fprintf(stderr,
-                 "serving hosts other than this machine needs the password lock, which this "
-                 "version does not have yet; listen on 127.0.0.1 and use a reverse proxy\n");
-    return 2;
-  }
   if (!std::filesystem::exists(o.webDir / "index.html")) {
     std::fprintf(stderr, "the web app is not built in %s: run scripts/setup\n", o.webDir.c_str());
     return 2;
@@ -63,6 +58,10 @@ int serve(int appid, const ServeOptions& o) {
   } catch (const std::exception& e) {
     std::fprintf(stderr, "cannot open the installation in %s: %s\n", o.dataDir.c_str(), e.what());
     return 1;
+  }
+  if (auto refusal = server::listenRefusal(o.host, installation->passwordSet()); !refusal.empty()) {
+    std::fprintf(stderr, "%s\n", refusal.c_str());
+    return 2;
   }
   server::HttpServer http(*installation, {o.host, o.port, o.webDir, o.imagesDir});
   std::string error;

@@ -33,6 +33,11 @@ struct ProcessValues {
   bool themeDarkIcons = true;
   bool themeDarkHeader = true;
   bool colorIcons = true;
+  // The theme's colours as CSS, set with the background.
+  std::string themeCaptionColour;
+  std::string themeTextColour;
+  std::string themeHighlightColour;
+  std::string themeAccentColour;
   std::string pendingPdf;
   int modalOpen = 0;
   bool popupOpen = false;

@@ -4,6 +4,7 @@
 
 #include "core/ids.h"
 #include "shell/app_manifest.h"
+#include "shell/password_lock.h"
 
 namespace lad::server {
 
@@ -96,6 +97,10 @@ Reply Installation::event(const std::string& session, std::string_view body) {
     reply.body = viewBody(s);
     return reply;
   });
+}
+
+bool Installation::passwordSet() {
+  return loop_.call([&] { return shell::passwordOn(app_->context().settings()); });
 }
 
 std::string Installation::manifest() {

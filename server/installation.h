@@ -33,6 +33,8 @@ class Installation {
 
   Reply view(const std::string& session);
   Reply event(const std::string& session, std::string_view body);
+  // The lock is on with a code: only then may other machines be served.
+  bool passwordSet();
   // The edition's web app manifest (JSON).
   std::string manifest();
 

@@ -3,6 +3,7 @@
 #include <chrono>
 
 #include "core/launch.h"
+#include "shell/theme.h"
 #include "store/first_launch.h"
 
 namespace lad::shell {
@@ -20,6 +21,7 @@ Application::Application(ContextOptions options)
       store_(std::make_unique<Store>(*context_)) {
   launch(*context_);
   fromOldVersion(*store_);
+  correctBackground(context_->values(), context_->values().backgroundId);
 }
 
 std::optional<Greeting> Application::takeVersionRecord() {

@@ -8,6 +8,7 @@
 #include <optional>
 
 #include "core/context.h"
+#include "shell/lock_throttle.h"
 #include "shell/message_box.h"
 #include "store/store.h"
 
@@ -29,6 +30,8 @@ class Application {
 
   Context& context() { return *context_; }
   Store& store() { return *store_; }
+  // Wrong codes count for the whole installation, so a new browser session does not start afresh.
+  LockThrottle& lockThrottle() { return lockThrottle_; }
 
   // The version record, taken when the first screen appears: the greeting due for this
   // version, once, and afterwards nothing.
@@ -54,6 +57,7 @@ class Application {
   std::unique_ptr<Store> store_;
   bool versionRecordTaken_ = false;
   std::function<void()> askReview_;
+  LockThrottle lockThrottle_;
 };
 
 }  // namespace lad::shell

@@ -1,5 +1,6 @@
 #include "shell/main_menu.h"
 
+#include <algorithm>
 #include <charconv>
 
 #include "core/menu_table.h"
@@ -39,6 +40,13 @@ const SwitchSetting kSwitches[] = {
     {55, "chatIndi", &ProcessValues::chatIndi, false, true, kNoPage, 1s},
     {56, "showRec", &ProcessValues::showRec, false, true, kNoPage, 0ms},
 };
+
+// Rows that the session answers with a screen of its own (the background list, the lock).
+constexpr int kScreenRows[] = {42, 52};
+
+bool opensScreen(int id) {
+  return std::find(std::begin(kScreenRows), std::end(kScreenRows), id) != std::end(kScreenRows);
+}
 
 const SwitchSetting* switchFor(int id) {
   for (const auto& s : kSwitches)
@@ -86,7 +94,7 @@ RowView rowOf(const Value& item) {
   row.caption = item["name"].text();
   row.comment = item["comment"].text();
   if (item["hint"].intValue() > 0) row.badge = item["hint"].text();
-  row.enabled = isBuilt(id);
+  row.enabled = isBuilt(id) || opensScreen(id);
   if (item["tp"].intValue() == kMenuSwitch) row.checked = item["checked"].boolValue();
   return row;
 }

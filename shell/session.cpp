@@ -3,6 +3,7 @@
 #include <algorithm>
 
 #include "shell/pages.h"
+#include "shell/theme.h"
 #include "shell/view.h"
 #include "store/profiles.h"
 
@@ -12,6 +13,8 @@ namespace {
 
 constexpr double kTabletShortSide = 600;  // CSS pixels
 constexpr double kLargestViewport = 100000;
+constexpr int kPasswordSwitch = 52;
+constexpr int kBackgroundRow = 42;
 
 bool isNumber(const Value& v) {
   return v.type() == Value::Type::Integer || v.type() == Value::Type::Double;
@@ -33,19 +36,33 @@ Session::Session(Application& app)
       menu_(app.context(), app.store()),
       ring_(PageRing::pagesOf(app.context().values().tabMenu, builtPages())) {
   menu_.onOpenPage([this](int page) { return openTab(page); });
+  if (passwordOn(app.context().settings())) showLock(LockMode::Check);
+}
+
+void Session::showLock(LockMode mode) {
+  lock_.emplace(app_.context(), app_.lockThrottle(), mode);
+}
+
+void Session::askNewPassword() {
+  showLock(LockMode::New);
 }
 
 Value Session::view() {
+  if (locked()) return withBackground(lock_->view());
   if (!appeared_) {
     appeared_ = true;
     if (auto greeting = app_.takeVersionRecord()) welcome_.emplace(app_.context(), *greeting);
   }
-  Value screen = welcome_ ? welcome_->view() : page_ ? ringView() : menu_.view();
+  Value screen = lock_          ? lock_->view()
+                 : welcome_     ? welcome_->view()
+                 : backgrounds_ ? backgrounds_->view()
+                 : page_        ? ringView()
+                                : menu_.view();
   if (message_) screen.asMap()->set("message", message_->toValue());
   // The browser sends tilt samples only while they can move a page.
-  screen.asMap()->set("tilt", !welcome_ && !app_.context().values().accStop &&
-                                  !menu_.activeId().empty());
-  return screen;
+  screen.asMap()->set("tilt",
+                      atRoot() && !app_.context().values().accStop && !menu_.activeId().empty());
+  return withBackground(std::move(screen));
 }
 
 EventResult Session::handle(const Value& event) {
@@ -71,6 +88,7 @@ EventResult Session::handle(const Value& event) {
 
 // Only the screen on top takes taps; a tap meant for a screen below it is stale.
 EventResult Session::tap(std::string_view target) {
+  if (lock_) return tapLock(target);
   if (message_) {
     if (target != kMessageClose) return EventResult::refused("a message is open");
     message_.reset();
@@ -81,9 +99,35 @@ EventResult Session::tap(std::string_view target) {
     if (welcome_->closed()) welcome_.reset();
     return result;
   }
+  if (backgrounds_) {
+    EventResult result = backgrounds_->tap(target);
+    if (backgrounds_->closed()) backgrounds_.reset();
+    return result;
+  }
   if (page_) {
     if (target != kToMenu) return page_->tap(target);
     gotoMenu();
+    return {};
+  }
+  return tapMenu(target);
+}
+
+// The password switch and the background row open their screens; the rest is the menu's.
+EventResult Session::tapMenu(std::string_view target) {
+  if (target == menuTarget(kPasswordSwitch)) {
+    SettingsStore& settings = app_.context().settings();
+    if (!settings.boolForKey("pass")) {
+      askNewPassword();
+      return {};
+    }
+    turnPasswordOff(settings);
+    menu_.updateMenu();
+    EventResult result;
+    result.installationChanged = true;
+    return result;
+  }
+  if (target == menuTarget(kBackgroundRow)) {
+    showBackgrounds();
     return {};
   }
   return menu_.tap(target);
@@ -128,7 +172,7 @@ EventResult Session::drag(const Value& event) {
   const Value& width = event["width"];
   if (!isNumber(offset) || !isNumber(width))
     return EventResult::refused("a drag needs numeric \"offset\" and \"width\"");
-  if (!page_ || welcome_ || message_) return EventResult::refused("no page is in front");
+  if (!page_ || !atRoot()) return EventResult::refused("no page is in front");
   switch (dragEnded(offset.doubleValue(), width.doubleValue())) {
     case DragOutcome::kMenu:
       gotoMenu();
@@ -161,6 +205,29 @@ EventResult Session::tilt(const Value& event) {
   return {};
 }
 
+// Every screen lies on the chosen background; the lock on its darker form.
+Value Session::withBackground(Value screen) const {
+  const ProcessValues& values = app_.context().values();
+  Map theme;
+  theme.set("picture", backgroundPicture(values.backgroundId, lock_.has_value()));
+  theme.set("darkHeader", values.themeDarkHeader);
+  theme.set("caption", values.themeCaptionColour);
+  theme.set("text", values.themeTextColour);
+  theme.set("accent", values.themeAccentColour);
+  screen.asMap()->set("theme", Value(std::move(theme)));
+  return screen;
+}
+
+EventResult Session::tapLock(std::string_view target) {
+  EventResult result = lock_->tap(target);
+  if (lock_->closed()) {
+    if (lock_->outcome()) message_ = lock_->outcome();
+    lock_.reset();
+    menu_.updateMenu();
+  }
+  return result;
+}
+
 EventResult Session::setViewport(const Value& event) {
   const Value& w = event["width"];
   const Value& h = event["height"];
@@ -187,13 +254,15 @@ EventResult Session::becomeVisible() {
   if (!pendingShortcut_.empty() && atRoot()) quickStart();
   pendingShortcut_.clear();
   lockDue_ = app_.becomeActive().lockDue;
+  if (lockDue_ && passwordOn(app_.context().settings()) && !locked()) showLock(LockMode::Check);
   if (auto front = ring_.front()) openTab(*front);
   menu_.updateMenu();
   return {};
 }
 
 bool Session::atRoot() const {
-  return !welcome_ && !message_ && app_.context().values().modalOpen == 0;
+  return !lock_ && !welcome_ && !message_ && !backgrounds_ &&
+         app_.context().values().modalOpen == 0;
 }
 
 // Both shortcuts act on the active pregnancy. The contractions page opens when this build has

@@ -8,9 +8,11 @@
 #include <string>
 
 #include "shell/application.h"
+#include "shell/background_list.h"
 #include "shell/main_menu.h"
 #include "shell/message_box.h"
 #include "shell/page_ring.h"
+#include "shell/password_lock.h"
 #include "shell/welcome_screen.h"
 
 namespace lad::shell {
@@ -23,6 +25,7 @@ struct ScreenMetrics {
 
 class Session {
  public:
+  // With the lock on, a new session starts behind it.
   explicit Session(Application& app);
 
   // The screen on top; the first view of the first session after a launch brings the
@@ -39,6 +42,12 @@ class Session {
   const ScreenMetrics& metrics() const { return metrics_; }
   // The last activation asked for the password lock.
   bool lockDue() const { return lockDue_; }
+  // The lock covers everything: the session shows it and takes nothing else.
+  bool locked() const { return lock_ && lock_->mode() == LockMode::Check; }
+  // The menu's password switch turned on: the lock takes a new code.
+  void askNewPassword();
+  // The menu's background row: the list of backgrounds.
+  void showBackgrounds() { backgrounds_.emplace(app_.context()); }
   // The profile this browser works on.
   const std::string& activeId() const { return menu_.activeId(); }
   // The page in front, or nothing while the menu is.
@@ -46,6 +55,10 @@ class Session {
 
  private:
   EventResult tap(std::string_view target);
+  EventResult tapLock(std::string_view target);
+  EventResult tapMenu(std::string_view target);
+  void showLock(LockMode mode);
+  Value withBackground(Value screen) const;
   EventResult setViewport(const Value& event);
   EventResult setShortcut(const Value& event);
   EventResult becomeVisible();
@@ -66,6 +79,8 @@ class Session {
   TiltNavigator tilt_;
   std::optional<WelcomeScreen> welcome_;
   std::optional<MessageBox> message_;
+  std::optional<PasswordLock> lock_;
+  std::optional<BackgroundList> backgrounds_;
   std::string pendingShortcut_;
   ScreenMetrics metrics_;
   bool appeared_ = false;

@@ -1,5 +1,7 @@
 // Renders every src/*.svg into a transparent PNG next to this script: 96×96, or larger for
-// the pictures shown large.
+// the pictures shown large. A background "bg640-N" (640×960) also gives its darker form for
+// dialogs "bd640-N" and its thumbnail "bs-N"; a lock picture "pass-*" (white) also gives its
+// dark form "b-pass-*" for light backgrounds.
 // Run by hand after editing an icon: `node resources/images/render.mjs`.
 import { readdir, readFile } from 'node:fs/promises';
 import { dirname, join, basename } from 'node:path';
@@ -21,19 +23,34 @@ try {
   const files = (await readdir(srcDir)).filter((f) => f.endsWith('.svg')).sort();
   for (const file of files) {
     const svg = await readFile(join(srcDir, file), 'utf8');
-    const size = LARGE[basename(file, '.svg')] ?? SIZE;
-    const page = await browser.newPage({ viewport: { width: size, height: size }, deviceScaleFactor: 1 });
-    // The SVG fills the whole viewport; the page itself stays transparent.
-    await page.setContent(
-      `<!doctype html><html><head><style>
-         html, body { margin: 0; padding: 0; background: transparent; }
-         svg { display: block; width: ${size}px; height: ${size}px; }
-       </style></head><body>${svg}</body></html>`);
-    const out = join(here, `${basename(file, '.svg')}.png`);
-    await page.screenshot({ path: out, omitBackground: true, clip: { x: 0, y: 0, width: size, height: size } });
-    await page.close();
-    console.log(`rendered ${basename(out)}`);
+    const name = basename(file, '.svg');
+    const background = name.match(/^bg640-(\d+)$/);
+    if (background) {
+      const id = background[1];
+      await render(svg, name, 640, 960);
+      await render(svg, `bd640-${id}`, 640, 960, 'body::after { content: ""; position: fixed; inset: 0; background: rgba(0,0,0,0.45); }');
+      await render(svg.replace('<svg ', '<svg preserveAspectRatio="xMidYMid slice" '), `bs-${id}`, SIZE, SIZE);
+      continue;
+    }
+    const size = LARGE[name] ?? SIZE;
+    await render(svg, name, size, size);
+    if (name.startsWith('pass-')) await render(svg, `b-${name}`, size, size, 'svg { filter: invert(1); }');
   }
 } finally {
   await browser.close();
+}
+
+/** Renders one SVG filling a width×height viewport, with extra CSS, to NAME.png. */
+async function render(svg, name, width, height, extraCss = '') {
+  const page = await browser.newPage({ viewport: { width, height }, deviceScaleFactor: 1 });
+  // The SVG fills the whole viewport; the page itself stays transparent.
+  await page.setContent(
+    `<!doctype html><html><head><style>
+       html, body { margin: 0; padding: 0; background: transparent; }
+       svg { display: block; width: ${width}px; height: ${height}px; }
+       ${extraCss}
+     </style></head><body>${svg}</body></html>`);
+  await page.screenshot({ path: join(here, `${name}.png`), omitBackground: true, clip: { x: 0, y: 0, width, height } });
+  await page.close();
+  console.log(`rendered ${name}.png`);
 }

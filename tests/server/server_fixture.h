@@ -68,7 +68,7 @@ inline std::size_t countOf(std::string_view text, std::string_view needle) {
 
 // The row with that id in a view response, or null.
 inline Json rowOf(const Json& response, std::string_view id) {
-  for (const Json& row : response["view"]["children"][0]["rows"])
+  for (const Json& row : response["view"]["children"].back()["rows"])
     if (row.value("id", "") == id) return row;
   return nullptr;
 }

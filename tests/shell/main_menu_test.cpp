@@ -88,7 +88,7 @@ TEST_F(MainMenuTest, CardsComeFirstAndAnOpenCardShowsItsProfileItems) {
   Value& v = view;
   EXPECT_EQ((*row(v, "menu:51"))["enabled"], Value(true));
   EXPECT_EQ((*row(v, "menu:51"))["checked"], Value(false));
-  EXPECT_EQ((*row(v, "menu:52"))["enabled"], Value(false));  // the lock is not built
+  EXPECT_EQ((*row(v, "menu:52"))["enabled"], Value(true));   // the session opens the lock
   EXPECT_EQ((*row(v, "menu:53"))["checked"], Value(false));  // tilt is off at first
   EXPECT_EQ((*row(v, "menu:55"))["checked"], Value(true));
   EXPECT_EQ((*row(v, "menu:0"))["comment"].text(), "Версия 1.0");

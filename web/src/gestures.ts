@@ -2,7 +2,6 @@
 // The browser only moves the page under the finger; the server decides where it lands.
 
 const DRAG_START_PX = 12; // a shorter move is a tap
-const CLICK_AFTER_DRAG_MS = 300;
 const TILT_INTERVAL_MS = 300;
 const GRAVITY = 9.81;
 
@@ -12,17 +11,19 @@ export function followDrags(root: HTMLElement, ended: (offset: number, width: nu
   let startY = 0;
   let page: HTMLElement | null = null;
   let dragging = false;
-  let lastDragEnd = -Infinity;
+  let draggedJustNow = false;
 
   // The click that follows a drag must not tap what lies under the finger.
   root.addEventListener(
     'click',
     (click) => {
-      if (performance.now() - lastDragEnd < CLICK_AFTER_DRAG_MS) click.stopPropagation();
+      if (draggedJustNow) click.stopPropagation();
+      draggedJustNow = false;
     },
     { capture: true },
   );
   root.addEventListener('pointerdown', (event) => {
+    draggedJustNow = false;
     page = event.target instanceof Element ? event.target.closest<HTMLElement>('.ring-page') : null;
     startX = event.clientX;
     startY = event.clientY;
@@ -47,7 +48,7 @@ export function followDrags(root: HTMLElement, ended: (offset: number, width: nu
     if (!dragging) return;
     moved.classList.remove('dragging');
     moved.style.transform = '';
-    lastDragEnd = performance.now();
+    draggedJustNow = true;
     ended(event.clientX - startX, root.clientWidth || window.innerWidth);
   };
   root.addEventListener('pointerup', finish);

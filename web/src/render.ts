@@ -6,6 +6,7 @@ import type {
   ButtonsNode,
   CardNode,
   ListNode,
+  LockNode,
   MessageNode,
   PageNode,
   RowNode,
@@ -35,6 +36,8 @@ export function render(node: ViewNode): HTMLElement | null {
       return renderCard(node);
     case 'ring':
       return renderRing(node, renderPage);
+    case 'lock':
+      return renderLock(node);
     default:
       return null; // kinds this build does not know are skipped
   }
@@ -164,4 +167,33 @@ function renderMessage(node: MessageNode): HTMLElement {
   box.append(renderButton({ id: node.id, caption: node.button }));
   cover.append(box);
   return cover;
+}
+
+const PAD_ORDER = ['1', '2', '3', '4', '5', '6', '7', '8', '9', '', '0', 'delete'];
+
+function renderLock(node: LockNode): HTMLElement {
+  const lock = element('div', 'lock');
+  const caption = element('h1', 'lock-caption', node.caption);
+  caption.setAttribute('aria-live', 'polite');
+  if (node.captionColor) caption.style.color = node.captionColor;
+  const dots = element('div', 'lock-dots');
+  dots.append(...node.dots.map((dot) => renderIcon(dot, 'lock-dot')));
+  const pad = element('div', 'lock-pad');
+  pad.append(...PAD_ORDER.map((key) => renderPadKey(node, key)));
+  lock.append(caption, dots, pad);
+  return lock;
+}
+
+/** A key of the pad; the gap left of zero is an empty slot. */
+function renderPadKey(node: LockNode, key: string): HTMLElement {
+  if (key === '') return element('span', 'lock-gap');
+  const button = element('button', 'lock-key');
+  button.type = 'button';
+  const erase = key === 'delete';
+  button.dataset.id = erase ? node.deleteId : node.digitPrefix + key;
+  button.style.backgroundImage = `url(/img/${encodeURIComponent(erase ? node.deleteKey : node.key)})`;
+  if (!erase) button.textContent = key;
+  else button.setAttribute('aria-label', '⌫');
+  button.disabled = node.wait > 0 && !erase;
+  return button;
 }

@@ -87,6 +87,32 @@ export interface RingNode {
   toMenu: string;
 }
 
+/** The four-digit lock: a caption, four dots and a digit pad. */
+export interface LockNode {
+  kind: 'lock';
+  caption: string;
+  /** Set while the caption warns of a wrong code. */
+  captionColor?: string;
+  /** Pictures of the four dots, empty or full. */
+  dots: string[];
+  /** Picture of a digit key, of the delete key, and the tap ids. */
+  key: string;
+  deleteKey: string;
+  deleteId: string;
+  digitPrefix: string;
+  /** Seconds before the pad takes keys again after wrong codes. */
+  wait: number;
+}
+
+/** The chosen background and the colours of its theme. */
+export interface Theme {
+  picture: string;
+  darkHeader: boolean;
+  caption: string;
+  text: string;
+  accent: string;
+}
+
 export type ViewNode =
   | PageNode
   | ListNode
@@ -97,13 +123,14 @@ export type ViewNode =
   | ButtonsNode
   | MessageNode
   | CardNode
-  | RingNode;
+  | RingNode
+  | LockNode;
 
 /**
- * What the server sends: the screen on top, with a message over it while one is open, and
- * whether tilting the device moves between pages.
+ * What the server sends: the screen on top, with a message over it while one is open, the
+ * chosen background, and whether tilting the device moves between pages.
  */
-export type Screen = ViewNode & { message?: MessageNode; tilt?: boolean };
+export type Screen = ViewNode & { message?: MessageNode; theme?: Theme; tilt?: boolean };
 
 export type ClientEvent =
   | { type: 'tap'; target: string }

@@ -1,0 +1,110 @@
+// Browser test of the password lock and the backgrounds against the real server.
+//   node tests/e2e/lock.test.mjs --server PATH_TO_SERVER --out SCREENSHOT_DIR
+import assert from 'node:assert/strict';
+import fs from 'node:fs';
+import os from 'node:os';
+import path from 'node:path';
+import { parseArgs } from 'node:util';
+import { chromium } from 'playwright-core';
+import { CHROMIUM_ARGS, PHONE, freePort, startServer, stopServer, waitUntilServing } from './harness.mjs';
+
+const CODE = '1357';
+const PASSWORD_SWITCH = 'menu:52';
+const BACKGROUND_ROW = 'menu:42';
+
+async function typeCode(page, code) {
+  for (const digit of code) await page.tap(`button[data-id="lock:${digit}"]`);
+}
+
+async function captionIs(page, text) {
+  await page.waitForFunction((t) => document.querySelector('.lock-caption')?.textContent === t, text);
+}
+
+async function turnLockOn(page, outDir) {
+  await page.tap(`[data-id="${PASSWORD_SWITCH}"]`);
+  await captionIs(page, 'Введите новый пароль');
+  await typeCode(page, CODE);
+  await captionIs(page, 'Введите пароль еще раз');
+  await typeCode(page, CODE);
+  await page.waitForSelector('.message');
+  assert.equal(await page.textContent('.message-text'), 'На вход в программу установлен пароль.');
+  await page.screenshot({ path: path.join(outDir, 'lock-set.png') });
+  await page.tap('.message button');
+  await page.waitForSelector(`[data-id="${PASSWORD_SWITCH}"] .switch[aria-checked="true"]`);
+}
+
+async function unlockAfterReload(page, outDir) {
+  await page.context().clearCookies(); // a browser the installation has not seen yet
+  await page.reload();
+  await captionIs(page, 'Введите пароль');
+  assert.equal(await page.$$eval('.lock-dot', (dots) => dots.length), 4, 'four dots');
+  assert.equal(await page.$('.row'), null, 'nothing of the diary behind the lock');
+  await typeCode(page, '0000');
+  await captionIs(page, 'Пароль указан неправильно');
+  await page.screenshot({ path: path.join(outDir, 'lock-wrong.png') });
+  await typeCode(page, CODE);
+  await page.waitForSelector('.row[data-id]');
+}
+
+async function changeBackground(page, outDir) {
+  await page.tap(`[data-id="${BACKGROUND_ROW}"]`);
+  await page.waitForSelector('.row[data-id="background:4"]');
+  await page.tap('.row[data-id="background:4"]');
+  await page.waitForFunction(() => document.body.dataset.background === 'bg640-4.png');
+  await page.screenshot({ path: path.join(outDir, 'background.png') });
+}
+
+async function refusedWithoutPassword(executable) {
+  const dataDir = fs.mkdtempSync(path.join(os.tmpdir(), 'ladaneya-e2e-open-'));
+  try {
+    const server = startServer(executable, dataDir, `0.0.0.0:${await freePort()}`);
+    const exit = await server.exited;
+    assert.equal(exit.code, 2, 'a listen beyond loopback without a password is refused');
+    assert.match(server.log, /password/, 'the refusal says why');
+  } finally {
+    fs.rmSync(dataDir, { recursive: true, force: true });
+  }
+}
+
+async function main() {
+  const { values } = parseArgs({ options: { server: { type: 'string' }, out: { type: 'string' } } });
+  if (!values.server || !values.out) {
+    console.error('usage: node tests/e2e/lock.test.mjs --server PATH --out DIR');
+    process.exit(2);
+  }
+  fs.mkdirSync(values.out, { recursive: true });
+  await refusedWithoutPassword(values.server);
+  const dataDir = fs.mkdtempSync(path.join(os.tmpdir(), 'ladaneya-e2e-lock-'));
+  const port = await freePort();
+  const base = `http://127.0.0.1:${port}`;
+  const server = startServer(values.server, dataDir, `127.0.0.1:${port}`);
+  const browser = await chromium.launch({ executablePath: '/usr/bin/chromium', args: CHROMIUM_ARGS });
+  try {
+    await waitUntilServing(server, base);
+    const context = await browser.newContext(PHONE);
+    const page = await context.newPage();
+    page.setDefaultTimeout(10000);
+    const errors = [];
+    page.on('pageerror', (error) => errors.push(error.message));
+    await page.goto(`${base}/`);
+    await page.waitForSelector('.welcome');
+    await page.tap('.welcome-footer button');
+    await page.waitForSelector('.row[data-id]');
+    await turnLockOn(page, values.out);
+    await unlockAfterReload(page, values.out);
+    await changeBackground(page, values.out);
+    assert.deepEqual(errors, [], 'no uncaught errors in the page');
+    await context.close();
+    await stopServer(server);
+    console.log('lock and background: ok');
+  } catch (error) {
+    console.error(server.log);
+    throw error;
+  } finally {
+    await browser.close();
+    if (!server.exit) server.child.kill('SIGKILL');
+    fs.rmSync(dataDir, { recursive: true, force: true });
+  }
+}
+
+await main();

@@ -1,0 +1,195 @@
+#include "shell/password_lock.h"
+
+#include <gtest/gtest.h>
+
+#include "shell/password_hash.h"
+#include "shell/session.h"
+#include "tests/shell/application_fixture.h"
+
+namespace lad::shell {
+namespace {
+
+using namespace std::chrono_literals;
+
+class PasswordLockTest : public lad::testing::ApplicationTest {
+ protected:
+  PasswordLockTest() { launchApp(); }
+
+  PasswordLock lock(LockMode mode) { return PasswordLock(app->context(), throttle, mode); }
+  static EventResult type(Screen& screen, std::string_view digits) {
+    EventResult last;
+    for (char d : digits) last = screen.tap("lock:" + std::string(1, d));
+    return last;
+  }
+  // Sets a code through the new-code and repeat modes.
+  void setCode(std::string_view code) {
+    PasswordLock l = lock(LockMode::New);
+    type(l, code);
+    type(l, code);
+    ASSERT_TRUE(l.closed());
+  }
+  std::string caption(Screen& screen) { return screen.view()["caption"].text(); }
+  static std::string dot(Screen& screen, std::size_t i) {
+    return screen.view()["dots"].asList()->at(i).text();
+  }
+
+  LockThrottle throttle;
+};
+
+TEST_F(PasswordLockTest, NewCodeIsRepeatedAndKeptOnlyAsAHash) {
+  PasswordLock l = lock(LockMode::New);
+  EXPECT_EQ(caption(l), "Введите новый пароль");
+  type(l, "1234");
+  EXPECT_EQ(l.mode(), LockMode::Repeat);
+  EXPECT_EQ(caption(l), "Введите пароль еще раз");
+  EXPECT_EQ(dot(l, 0), "pass-e.png");
+  type(l, "1234");
+  ASSERT_TRUE(l.closed());
+  EXPECT_EQ(l.outcome()->text, "На вход в программу установлен пароль.");
+  EXPECT_EQ(l.outcome()->caption, "Пароль");
+  EXPECT_TRUE(passwordOn(settings()));
+  const std::string stored = settings().stringForKey("password");
+  EXPECT_NE(stored, "1234");
+  EXPECT_EQ(stored.find("1234"), std::string::npos);
+  EXPECT_TRUE(passwordMatches(stored, "1234"));
+  EXPECT_FALSE(passwordMatches(stored, "1235"));
+  EXPECT_FALSE(passwordMatches("$argon2id$damaged", "1234"));
+}
+
+TEST_F(PasswordLockTest, DifferentRepeatLeavesTheLockOffAndTheOldCodeKept) {
+  setCode("1111");
+  const std::string before = settings().stringForKey("password");
+  PasswordLock l = lock(LockMode::New);
+  type(l, "2222");
+  type(l, "3333");
+  ASSERT_TRUE(l.closed());
+  EXPECT_EQ(l.outcome()->text, "Пароли не совпали! Пароль НЕ установлен!");
+  EXPECT_FALSE(settings().boolForKey("pass"));
+  EXPECT_EQ(settings().stringForKey("password"), before);
+}
+
+TEST_F(PasswordLockTest, DeleteTakesADigitOffAndCancelsOnlyWhileSettingACode) {
+  setCode("1234");
+  PasswordLock check = lock(LockMode::Check);
+  type(check, "12");
+  EXPECT_EQ(dot(check, 1), "pass-f.png");
+  check.tap(kLockDelete);
+  check.tap(kLockDelete);
+  check.tap(kLockDelete);  // nothing left: no way past the lock
+  EXPECT_FALSE(check.closed());
+  EXPECT_EQ(dot(check, 0), "pass-e.png");
+  EXPECT_FALSE(check.tap("lock:x").ok());
+  EXPECT_FALSE(check.tap("menu:52").ok());
+
+  PasswordLock repeat = lock(LockMode::New);
+  type(repeat, "5678");
+  repeat.tap(kLockDelete);
+  EXPECT_TRUE(repeat.closed());
+  EXPECT_FALSE(repeat.outcome());
+  EXPECT_FALSE(settings().boolForKey("pass"));
+}
+
+TEST_F(PasswordLockTest, WrongCodeWarnsInTheEditionsColourAndTheFourthDigitDecides) {
+  setCode("1234");
+  PasswordLock l = lock(LockMode::Check);
+  type(l, "1299");
+  EXPECT_FALSE(l.closed());
+  EXPECT_EQ(caption(l), "Пароль указан неправильно");
+  EXPECT_EQ(l.view()["captionColor"].text(), "rgb(255,207,0)");
+  EXPECT_EQ(dot(l, 0), "pass-e.png");
+  l.tap("lock:1");  // the first key brings the caption back
+  EXPECT_EQ(caption(l), "Введите пароль");
+  EXPECT_TRUE(l.view()["captionColor"].isNull());
+  type(l, "234");
+  EXPECT_TRUE(l.closed());
+  EXPECT_EQ(throttle.failures(), 0);
+
+  launchApp(3);
+  PasswordLock brown = lock(LockMode::Check);
+  type(brown, "0000");
+  EXPECT_EQ(brown.view()["captionColor"].text(), "rgb(99,69,0)");
+}
+
+TEST_F(PasswordLockTest, RepeatedWrongCodesWaitLongerButNeverShutOut) {
+  EXPECT_EQ(LockThrottle::delayAfter(2), 0s);
+  EXPECT_EQ(LockThrottle::delayAfter(3), 1s);
+  EXPECT_EQ(LockThrottle::delayAfter(5), 4s);
+  EXPECT_EQ(LockThrottle::delayAfter(1000), 60s);
+  setCode("1234");
+  PasswordLock l = lock(LockMode::Check);
+  type(l, "0000");
+  type(l, "0000");
+  EXPECT_EQ(type(l, "0000").redrawAfter, 1s);
+  EXPECT_EQ(l.view()["wait"].intValue(), 1);
+  // While waiting, keys are taken but nothing is entered.
+  EXPECT_EQ(l.tap("lock:1").redrawAfter, 1s);
+  EXPECT_EQ(dot(l, 0), "pass-e.png");
+  clock->advance(1s);
+  EXPECT_EQ(type(l, "0000").redrawAfter, 2s);
+  clock->advance(2s);
+  type(l, "1234");
+  EXPECT_TRUE(l.closed());
+  EXPECT_EQ(throttle.waitAt(clock->now()), 0s);
+}
+
+TEST_F(PasswordLockTest, CodeKeptInClearByAnOlderVersionOpensAndIsThenHashed) {
+  settings().set("pass", true);
+  settings().set("password", "4321");
+  PasswordLock l = lock(LockMode::Check);
+  type(l, "4321");
+  EXPECT_TRUE(l.closed());
+  EXPECT_NE(settings().stringForKey("password"), "4321");
+  EXPECT_TRUE(passwordMatches(settings().stringForKey("password"), "4321"));
+}
+
+TEST_F(PasswordLockTest, SwitchRoundTripThroughTheSession) {
+  auto tap = [](Session& s, const std::string& target) {
+    Map m;
+    m.set("type", "tap");
+    m.set("target", target);
+    return s.handle(Value(std::move(m)));
+  };
+  auto typeIn = [&](Session& s, std::string_view digits) {
+    for (char d : digits) tap(s, "lock:" + std::string(1, d));
+  };
+  Session s(*app);
+  EXPECT_FALSE(s.locked());
+  s.view();
+  tap(s, "welcome:close");
+  tap(s, "menu:52");  // the switch on
+  typeIn(s, "24682468");
+  EXPECT_EQ(s.view()["message"]["text"].text(), "На вход в программу установлен пароль.");
+  ASSERT_TRUE(tap(s, std::string(kMessageClose)).ok());
+
+  // Away longer than the grace time: the lock comes up and shows nothing else.
+  s.handle(*Value::fromJson(R"({"type":"hidden"})"));
+  clock->advance(6s);
+  s.handle(*Value::fromJson(R"({"type":"visible"})"));
+  ASSERT_TRUE(s.locked());
+  EXPECT_EQ(s.view()["kind"].text(), "lock");
+  typeIn(s, "1111");
+  EXPECT_TRUE(s.locked());
+  typeIn(s, "2468");
+  EXPECT_FALSE(s.locked());
+  EXPECT_NE(s.view()["kind"].text(), "lock");
+
+  // A new browser starts behind the lock.
+  Session other(*app);
+  EXPECT_TRUE(other.locked());
+
+  s.askNewPassword();  // a change of code
+  typeIn(s, "13571357");
+  tap(s, std::string(kMessageClose));
+  Session third(*app);
+  typeIn(third, "2468");
+  EXPECT_TRUE(third.locked());
+  typeIn(third, "1357");
+  EXPECT_FALSE(third.locked());
+
+  EXPECT_TRUE(tap(s, "menu:52").installationChanged);  // the switch off
+  EXPECT_FALSE(settings().boolForKey("pass"));
+  EXPECT_FALSE(Session(*app).locked());
+}
+
+}  // namespace
+}  // namespace lad::shell

@@ -1,0 +1,102 @@
+#include "shell/theme.h"
+
+#include <gtest/gtest.h>
+
+#include "shell/background_list.h"
+#include "shell/password_lock.h"
+#include "shell/session.h"
+#include "tests/shell/application_fixture.h"
+
+namespace lad::shell {
+namespace {
+
+class ThemeTest : public lad::testing::ApplicationTest {
+ protected:
+  ThemeTest() { launchApp(); }
+  ProcessValues& values() { return app->context().values(); }
+  static EventResult tap(Screen& screen, std::string_view target) { return screen.tap(target); }
+};
+
+TEST_F(ThemeTest, TableGroupsTheBackgroundsAndKeepsTheHighlightWhereItHasNone) {
+  ASSERT_TRUE(themeOf(1));
+  EXPECT_TRUE(themeOf(1)->darkIcons);
+  EXPECT_FALSE(themeOf(1)->darkHeader);
+  EXPECT_EQ(themeOf(1)->caption.css(), "rgba(255,255,255,1)");
+  EXPECT_EQ(themeOf(1)->highlight->css(), "rgba(180,120,0,0.4)");
+  for (int id : {2, 3, 5, 6, 10}) {
+    EXPECT_FALSE(themeOf(id)->darkIcons) << id;
+    EXPECT_EQ(themeOf(id)->caption.css(), "rgba(255,207,65,1)") << id;
+    EXPECT_EQ(themeOf(id)->text.css(), "rgba(255,255,255,1)") << id;
+  }
+  for (int id : {4, 7, 8, 9}) {
+    EXPECT_TRUE(themeOf(id)->darkIcons && themeOf(id)->darkHeader) << id;
+    EXPECT_EQ(themeOf(id)->caption.css(), "rgba(179,0,0,1)") << id;
+  }
+  EXPECT_EQ(themeOf(3)->accent.css(), "rgba(71,142,25,1)");
+  EXPECT_EQ(themeOf(8)->accent.css(), "rgba(54,119,176,1)");
+  EXPECT_EQ(themeOf(0), nullptr);
+  EXPECT_EQ(themeOf(11), nullptr);
+
+  correctBackground(values(), 3);
+  const std::string highlight = values().themeHighlightColour;
+  EXPECT_EQ(highlight, "rgba(180,120,0,1)");
+  correctBackground(values(), 7);
+  EXPECT_EQ(values().themeHighlightColour, highlight);
+  EXPECT_EQ(values().themeAccentColour, "rgba(137,28,28,1)");
+  EXPECT_TRUE(values().themeDarkIcons);
+  // An id with no theme leaves everything as it was.
+  correctBackground(values(), 42);
+  EXPECT_TRUE(values().themeDarkIcons);
+  EXPECT_EQ(values().themeCaptionColour, "rgba(179,0,0,1)");
+}
+
+TEST_F(ThemeTest, ChoosingABackgroundStoresItRedrawsEverythingAndOutlivesALaunch) {
+  BackgroundList list(app->context());
+  const Value view = list.view();
+  const List& rows = *view["children"].asList()->at(0)["rows"].asList();
+  ASSERT_EQ(rows.size(), 9u);
+  EXPECT_EQ(rows[0]["icon"].text(), "bs-1.png");
+  EXPECT_TRUE(rows[1]["checked"].boolValue());  // 2 by default
+  EXPECT_FALSE(rows[4]["checked"].boolValue());
+  for (const char* bad :
+       {"background:0", "background:10", "background:x", "background:5x", "menu:42"})
+    EXPECT_FALSE(tap(list, bad).ok()) << bad;
+  EXPECT_FALSE(list.closed());
+
+  values().pageDirty.fill(0);
+  EXPECT_TRUE(tap(list, backgroundTarget(8)).installationChanged);
+  EXPECT_TRUE(list.closed());
+  EXPECT_EQ(settings().integerForKey("backgroundId"), 8);
+  EXPECT_EQ(values().pageDirty[0], 1);
+  EXPECT_EQ(values().pageDirty[kPageDirtyCount - 1], 1);
+  EXPECT_TRUE(values().themeDarkIcons);
+
+  launchApp();
+  EXPECT_EQ(values().backgroundId, 8);
+  EXPECT_TRUE(values().themeDarkHeader);
+  EXPECT_EQ(values().themeAccentColour, "rgba(54,119,176,1)");
+}
+
+TEST_F(ThemeTest, SessionShowsTheChosenBackgroundAndTheLockItsDarkerForm) {
+  auto tapIn = [](Session& s, const std::string& target) {
+    Map m;
+    m.set("type", "tap");
+    m.set("target", target);
+    return s.handle(Value(std::move(m)));
+  };
+  Session s(*app);
+  EXPECT_EQ(s.view()["theme"]["picture"].text(), "bg640-2.png");
+  tapIn(s, "welcome:close");
+  tapIn(s, "menu:42");
+  ASSERT_EQ(s.view()["children"].asList()->at(0)["rows"].asList()->size(), 9u);
+  ASSERT_TRUE(tapIn(s, backgroundTarget(4)).ok());
+  EXPECT_EQ(s.view()["theme"]["picture"].text(), "bg640-4.png");
+  EXPECT_EQ(s.view()["theme"]["caption"].text(), "rgba(179,0,0,1)");
+
+  s.askNewPassword();  // dark-icon theme: the "b-" forms
+  EXPECT_EQ(s.view()["theme"]["picture"].text(), "bd640-4.png");
+  EXPECT_EQ(s.view()["dots"].asList()->at(0).text(), "b-pass-e.png");
+}
+
+}  // namespace
+}  // namespace lad::shell
