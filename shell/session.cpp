@@ -27,6 +27,7 @@ Value Session::view() {
     if (auto greeting = app_.takeVersionRecord()) welcome_.emplace(app_.context(), *greeting);
   }
   Value screen = welcome_ ? welcome_->view() : menu_.view();
+  if (popup_) screen.asMap()->set("popup", popup_->view());
   if (message_) screen.asMap()->set("message", message_->toValue());
   return screen;
 }
@@ -45,24 +46,41 @@ EventResult Session::handle(const Value& event) {
   if (*type == "tap") {
     const std::string* target = event["target"].asText();
     if (!target) return EventResult::refused("a tap needs a text \"target\"");
-    return tap(*target);
+    return tap(*target, event["value"]);
   }
   return EventResult::refused("unknown event type \"" + *type + "\"");
 }
 
 // Only the screen on top takes taps; a tap meant for a screen below it is stale.
-EventResult Session::tap(std::string_view target) {
+EventResult Session::tap(std::string_view target, const Value& value) {
   if (message_) {
     if (target != kMessageClose) return EventResult::refused("a message is open");
     message_.reset();
     return {};
   }
+  if (popup_) return answerPopup(target, value);
   if (welcome_) {
     EventResult result = welcome_->tap(target);
     if (welcome_->closed()) welcome_.reset();
     return result;
   }
   return menu_.tap(target);
+}
+
+void Session::openPopup(std::unique_ptr<Popup> popup, PopupAction action) {
+  popup_ = std::move(popup);
+  popupAction_ = std::move(action);
+}
+
+// The popup closes before its action runs, so that the action may open the next one.
+EventResult Session::answerPopup(std::string_view target, const Value& value) {
+  const auto answer = popup_->answer(target, value);
+  if (!answer) return EventResult::refused("a popup is open and takes no such answer");
+  popup_.reset();
+  const PopupAction action = std::move(popupAction_);
+  popupAction_ = nullptr;
+  if (action) action(*answer);
+  return {};
 }
 
 EventResult Session::setViewport(const Value& event) {
@@ -96,7 +114,7 @@ EventResult Session::becomeVisible() {
 }
 
 bool Session::atRoot() const {
-  return !welcome_ && !message_ && app_.context().values().modalOpen == 0;
+  return !welcome_ && !message_ && !popup_ && app_.context().values().modalOpen == 0;
 }
 
 // Both shortcuts act on the active pregnancy. The pages they open join the page ring as they

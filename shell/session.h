@@ -3,12 +3,15 @@
 // sessions.
 #pragma once
 
+#include <functional>
+#include <memory>
 #include <optional>
 #include <string>
 
 #include "shell/application.h"
 #include "shell/main_menu.h"
 #include "shell/message_box.h"
+#include "shell/popup.h"
 #include "shell/welcome_screen.h"
 
 namespace lad::shell {
@@ -37,8 +40,14 @@ class Session {
   // The profile this browser works on.
   const std::string& activeId() const { return activeId_; }
 
+  // Puts a popup over the current screen; its answer goes to the action once, and closes it.
+  // A tap may carry the popup's input in "value".
+  using PopupAction = std::function<void(const PopupAnswer&)>;
+  void openPopup(std::unique_ptr<Popup> popup, PopupAction action);
+
  private:
-  EventResult tap(std::string_view target);
+  EventResult tap(std::string_view target, const Value& value);
+  EventResult answerPopup(std::string_view target, const Value& value);
   EventResult setViewport(const Value& event);
   EventResult setShortcut(const Value& event);
   EventResult becomeVisible();
@@ -49,6 +58,8 @@ class Session {
   MainMenu menu_;
   std::optional<WelcomeScreen> welcome_;
   std::optional<MessageBox> message_;
+  std::unique_ptr<Popup> popup_;
+  PopupAction popupAction_;
   std::string pendingShortcut_;
   std::string activeId_;
   ScreenMetrics metrics_;

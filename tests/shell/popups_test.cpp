@@ -4,6 +4,8 @@
 #include "shell/list_choice.h"
 #include "shell/popup_menu.h"
 #include "shell/question.h"
+#include "shell/session.h"
+#include "shell/wheel_picker.h"
 #include "tests/shell/application_fixture.h"
 
 namespace lad::shell {
@@ -111,6 +113,28 @@ TEST_F(ApplicationTest, AHintShowsUntilItsKeyIsFinishedAndStaysFinished) {
   settings().synchronize();
   launchApp();
   EXPECT_FALSE(HelpHint(settings(), "noteHelp").due());
+}
+
+TEST_F(ApplicationTest, ASessionShowsAPopupOverItsScreenUntilItIsAnswered) {
+  launchApp();
+  Session s(*app);
+  if (s.view()["kind"].text() == "welcome") {
+    ASSERT_TRUE(s.handle(*Value::fromJson(R"({"type":"tap","target":"welcome:close"})")).ok());
+  }
+  std::vector<PopupAnswer> answers;
+  s.openPopup(std::make_unique<WheelPicker>(app->context(), kTimePicker, "Время", "08:00"),
+              [&](const PopupAnswer& a) { answers.push_back(a); });
+  EXPECT_EQ(s.view()["popup"]["value"].text(), "08:00");
+  EXPECT_EQ(s.view()["kind"].text(), "page") << "the screen stays below the popup";
+  EXPECT_FALSE(s.handle(*Value::fromJson(R"({"type":"tap","target":"menu:0"})")).ok());
+  EXPECT_FALSE(s.handle(*Value::fromJson(R"({"type":"tap","target":"popup:1","value":"8"})")).ok())
+      << "an unreadable time keeps the picker open";
+  EXPECT_TRUE(answers.empty());
+  ASSERT_TRUE(
+      s.handle(*Value::fromJson(R"({"type":"tap","target":"popup:1","value":"21:45"})")).ok());
+  ASSERT_EQ(answers.size(), 1u);
+  EXPECT_EQ(answers[0].value.text(), "21:45");
+  EXPECT_FALSE(s.view().asMap()->contains("popup"));
 }
 
 }  // namespace
