@@ -85,7 +85,7 @@ function renderRow(node: RowNode): HTMLElement {
   return row;
 }
 
-function renderIcon(name: string, className: string): HTMLElement {
+export function renderIcon(name: string, className: string): HTMLElement {
   const img = element('img', className);
   img.alt = '';
   // A missing picture leaves its slot empty so the rows stay aligned.

@@ -65,6 +65,50 @@ export interface MessageNode {
   button: string;
 }
 
+/** A button or item of a popup: a caption, an icon, or both. */
+export interface PopupButton {
+  id: string;
+  caption?: string;
+  icon?: string;
+}
+
+export interface QuestionNode {
+  kind: 'question';
+  caption: string;
+  text: string;
+  /** Present: the question has a text field, starting with this text. */
+  input?: string;
+  buttons: PopupButton[];
+}
+
+export interface PopupMenuNode {
+  kind: 'popupMenu';
+  items: (PopupButton & { gap?: boolean })[];
+}
+
+export interface ListChoiceNode {
+  kind: 'listChoice';
+  entries: PopupButton[];
+  buttons: PopupButton[];
+}
+
+export interface WheelNode {
+  rows: string[];
+  selected: number;
+}
+
+/** A picker: native date and time inputs, or wheels; buttons close (first) and confirm. */
+export interface PickerNode {
+  kind: 'picker';
+  mode: 'date' | 'time' | 'countdown' | 'wheels';
+  caption: string;
+  value?: string;
+  wheels?: WheelNode[];
+  buttons: PopupButton[];
+}
+
+export type PopupNode = QuestionNode | PopupMenuNode | ListChoiceNode | PickerNode;
+
 export type ViewNode =
   | PageNode
   | ListNode
@@ -75,11 +119,11 @@ export type ViewNode =
   | ButtonsNode
   | MessageNode;
 
-/** What the server sends: the screen on top, with a message over it while one is open. */
-export type Screen = ViewNode & { message?: MessageNode };
+/** What the server sends: the screen on top, with a popup and a message over it while open. */
+export type Screen = ViewNode & { popup?: PopupNode; message?: MessageNode };
 
 export type ClientEvent =
-  | { type: 'tap'; target: string }
+  | { type: 'tap'; target: string; value?: unknown }
   | { type: 'viewport'; width: number; height: number }
   | { type: 'visible' }
   | { type: 'hidden' }
