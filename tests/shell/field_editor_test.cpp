@@ -2,14 +2,21 @@
 
 #include <gtest/gtest.h>
 
+#include "shell/day_field_edit.h"
 #include "shell/detail_forms.h"
 #include "shell/detail_rows.h"
+#include "store/records.h"
+#include "store/store.h"
 #include "tests/shell/application_fixture.h"
 
 namespace lad::shell {
 namespace {
 
 using lad::testing::ApplicationTest;
+
+const Value& nth(const Value& list, std::size_t i) {
+  return list.asList()->at(i);
+}
 
 std::string sourceOf(const FieldEditor& e, std::string_view field) {
   return (*e.row(field))["source"].text();
@@ -134,6 +141,36 @@ TEST_F(ApplicationTest, ANestedEditorsEntryLandsInItsRowBeforeTheFormCloses) {
   EXPECT_EQ((*list->asList())[0]["time"].text(), "08:30") << "entries kept in time order";
   EXPECT_EQ((*list->asList())[0]["pressure2"].text(), "70");
   EXPECT_FALSE(day.close());
+}
+
+TEST_F(ApplicationTest, ADaysMeasurementsAreAddedThroughTheirEditor) {
+  launchApp();
+  const std::string gid = "00000000-0000-0000-0001-000000000001";
+  const Date today = clock->now();
+  const DetailForm form{4, "Температура", "Укажите температуру", ""};
+  auto stored = [&] {
+    StoreBracket bracket = app->store().connectToBase();
+    return getDateValue(app->store(), bracket, today, "temp", gid);
+  };
+
+  auto first = DayFieldEdit::open(*app, gid, today, "temp", form);
+  ASSERT_TRUE(first);
+  first->editor().change("temp", Value(37.2));
+  first->editor().change("time", Value(""));
+  ASSERT_TRUE(first->commit()) << "a measurement without its time is refused";
+  EXPECT_EQ(stored(), "") << "a refused editor stores nothing";
+  first->editor().change("time", Value("10:00"));
+  EXPECT_FALSE(first->commit());
+
+  auto second = DayFieldEdit::open(*app, gid, today, "temp", form);
+  second->editor().change("time", Value("08:00"));
+  EXPECT_FALSE(second->commit());
+  const auto list = Value::fromJson(stored());
+  ASSERT_TRUE(list && list->asList());
+  ASSERT_EQ(list->asList()->size(), 2u) << stored();
+  EXPECT_EQ(nth(*list, 0)["temp"].text(), "36.6") << "the day's default, earlier, comes first";
+  EXPECT_EQ(nth(*list, 1)["temp"].text(), "37.2");
+  EXPECT_FALSE(DayFieldEdit::open(*app, gid, today, "temp", {12, "", "", ""}));
 }
 
 }  // namespace
