@@ -41,6 +41,25 @@ Value birthKinds(const Context& c) {
   return row;
 }
 
+// The body sizes of a child, each on a scale with its numbered picture.
+void bodySizes(const Context& c, List& rows) {
+  const std::string prefix = c.values().themeDarkIcons ? "b-" : "";
+  Value picture = detailRow(c, kPicture, "", "");
+  picture.asMap()->set("pic", prefix + "size.png");
+  rows.push_back(std::move(picture));
+  const std::pair<const char*, int> sizes[] = {{"Окружность головы (см.)", 70},
+                                               {"Обхват груди (см.)", 90},
+                                               {"Обхват талии (см.)", 90},
+                                               {"Обхват бедер (см.)", 90},
+                                               {"Длина стопы (см.)", 40}};
+  for (int n = 1; n <= 5; ++n) {
+    const auto [caption, max] = sizes[n - 1];
+    Value row = scaleRow(c, "bio" + std::to_string(n), caption, n == 5 ? 1 : 20, max, kScaleLength);
+    row.asMap()->set("pic", prefix + "num" + std::to_string(n) + ".png");
+    rows.push_back(std::move(row));
+  }
+}
+
 // The rows under the message and the value dictionary of one form; false for no such form.
 bool formRows(const Context& c, const DetailForm& f, List& rows, Map& values) {
   switch (f.parentflag) {
@@ -67,6 +86,10 @@ bool formRows(const Context& c, const DetailForm& f, List& rows, Map& values) {
       return true;
     case 6:
     case 7:
+      return true;
+    case 9:
+      bodySizes(c, rows);
+      values = jsonObject(f.dat);
       return true;
     case 15:
       rows.push_back(scaleRow(c, "rost", "Рост малыша на УЗИ (см.)", -3, 80, kScaleLength));

@@ -101,6 +101,13 @@ TEST_F(ApplicationTest, FormsTakeTheirStartingValuesFromThePresentOne) {
   EXPECT_EQ(sourceOf(*products, "volume"), "120");
   EXPECT_FALSE(detailPrepare(c, {12, "", "", ""}));
 
+  auto sizes = detailPrepare(c, {9, "Размеры", "", R"({"bio5":"11.5"})"});
+  ASSERT_EQ(sizes->rows().size(), 7u);
+  EXPECT_EQ((*sizes->row("bio5"))["scalemin"].text(), "1");
+  EXPECT_EQ((*sizes->row("bio1"))["scalemax"].text(), "70");
+  EXPECT_EQ((*sizes->row("bio3"))["pic"].text(), "b-num3.png") << "dark icons by default";
+  EXPECT_EQ(sourceOf(*sizes, "bio5"), "11.5");
+
   EXPECT_EQ(addDialog(c, 2)->caption(), "Новая болезнь");
   EXPECT_EQ(addDialog(c, 3)->rows().size(), 3u);
   EXPECT_FALSE(addDialog(c, 4));
