@@ -5,6 +5,7 @@
 #include "shell/day_field_edit.h"
 #include "shell/detail_forms.h"
 #include "shell/detail_rows.h"
+#include "shell/entry_forms.h"
 #include "store/records.h"
 #include "store/store.h"
 #include "tests/shell/application_fixture.h"
@@ -119,17 +120,10 @@ TEST_F(ApplicationTest, ANestedEditorsEntryLandsInItsRowBeforeTheFormCloses) {
   FieldEditor day(c, "День", {detailRow(c, 30, "Давление", "pressure")}, {});
   day.change("pressure",
              Value(R"([{"time":"12:00","pressure1":"120","pressure2":"80","comment":""}])"));
-  auto entry = [&] {
-    return FieldEditor(
-        c, "Давление",
-        {detailRow(c, kEntryTime, "Время замера", "time", true),
-         detailRow(c, kEntryNumber, "Вехнее давление", "pressure1", true, "Верхнее давление"),
-         detailRow(c, kEntryNumber, "Нижнее давление", "pressure2", true, "Нижнее давление"),
-         detailRow(c, kEntryText, "Комментарий", "comment")},
-        {});
-  };
-  EXPECT_FALSE(day.openNested("nothing", 30, -1, entry()));
-  ASSERT_TRUE(day.openNested("pressure", 30, -1, entry()));
+
+  const std::string old = sourceOf(day, "pressure");
+  EXPECT_FALSE(day.openNested("nothing", 30, -1, *entryForm(c, "pressure", old, -1)));
+  ASSERT_TRUE(day.openNested("pressure", 30, -1, *entryForm(c, "pressure", old, -1)));
   FieldEditor* sub = day.nested();
   ASSERT_TRUE(sub);
   EXPECT_EQ(day.view()["nested"]["caption"].text(), "Давление");
@@ -148,6 +142,14 @@ TEST_F(ApplicationTest, ANestedEditorsEntryLandsInItsRowBeforeTheFormCloses) {
   EXPECT_EQ((*list->asList())[0]["time"].text(), "08:30") << "entries kept in time order";
   EXPECT_EQ((*list->asList())[0]["pressure2"].text(), "70");
   EXPECT_FALSE(day.close());
+
+  auto second = entryForm(c, "pressure", sourceOf(day, "pressure"), 1);
+  ASSERT_TRUE(second);
+  EXPECT_EQ(sourceOf(*second, "pressure1"), "120") << "an entry opens on its own values";
+  EXPECT_EQ(sourceOf(*entryForm(c, "zhid", "", -1), "time"), "10:00");
+  EXPECT_FALSE(entryForm(c, "pressure", sourceOf(day, "pressure"), 2));
+  EXPECT_FALSE(entryForm(c, "pressure", "not json", 0));
+  EXPECT_FALSE(entryForm(c, "sleep", "", -1));
 }
 
 TEST_F(ApplicationTest, ADaysMeasurementsAreAddedThroughTheirEditor) {
