@@ -6,6 +6,18 @@
 
 namespace lad::shell {
 
+namespace {
+
+// The row of a field in rows, const or not; nullptr when there is none.
+template <class Rows>
+auto rowOf(Rows& rows, std::string_view field) -> decltype(rows.front().asMap()) {
+  for (auto& r : rows)
+    if (auto* m = r.asMap(); m && (*m)["field"].text() == field) return m;
+  return nullptr;
+}
+
+}  // namespace
+
 FieldEditor::FieldEditor(const Context& context, std::string caption, List rows, const Map& values)
     : context_(context), caption_(context.translate(caption)), rows_(std::move(rows)) {
   for (Value& row : rows_) {
@@ -18,13 +30,11 @@ FieldEditor::FieldEditor(const Context& context, std::string caption, List rows,
 }
 
 Map* FieldEditor::find(std::string_view field) {
-  for (Value& r : rows_)
-    if (Map* m = r.asMap(); m && (*m)["field"].text() == field) return m;
-  return nullptr;
+  return rowOf(rows_, field);
 }
 
 const Map* FieldEditor::row(std::string_view field) const {
-  return const_cast<FieldEditor*>(this)->find(field);
+  return rowOf(rows_, field);
 }
 
 bool FieldEditor::change(std::string_view field, Value source) {
