@@ -4,6 +4,7 @@
 #include "core/ids.h"
 #include "health/body_index.h"
 #include "health/pregnancy_dates.h"
+#include "shell/detail_rows.h"
 #include "store/folders.h"
 #include "store/setup_data.h"
 #include "store/setup_editor.h"
@@ -12,36 +13,11 @@ namespace lad::shell {
 
 namespace {
 
-// Kinds of editor rows.
-enum RowKind {
-  kLine = 1001,
-  kText = 1002,
-  kDate = 1003,
-  kTextInput = 1006,
-  kNumber = 1007,
-  kBodyIndex = 1008,
-  kSegments = 1009,
-  kPhoto = 1010,
-  kNumberWithIndex = 1011,
-  kButton = 1023,
-};
-
 const std::pair<const char*, PregnancyDateField> kDateFields[] = {
     {"sdat1", PregnancyDateField::Sdat1},
     {"sdat2", PregnancyDateField::Sdat2},
     {"sbirthdate", PregnancyDateField::Sbirthdate},
 };
-
-Value detailRow(const Context& context, int kind, std::string_view caption, std::string_view field,
-                bool required = false) {
-  Map m;
-  m.set("tp", kind);
-  m.set("caption", context.translate(caption));
-  m.set("field", std::string(field));
-  m.set("required", required);
-  m.set("source", Value());
-  return Value(std::move(m));
-}
 
 std::string editorDate(const Context& context, const Map& setup, std::string_view key) {
   const auto date = setup[key].asDate();

@@ -58,6 +58,7 @@ Value Session::view() {
                  : backgrounds_ ? backgrounds_->view()
                  : page_        ? ringView()
                                 : menu_.view();
+  if (popup_) screen.asMap()->set("popup", popup_->view());
   if (message_) screen.asMap()->set("message", message_->toValue());
   // The browser sends tilt samples only while they can move a page.
   screen.asMap()->set("tilt",
@@ -81,19 +82,20 @@ EventResult Session::handle(const Value& event) {
   if (*type == "tap") {
     const std::string* target = event["target"].asText();
     if (!target) return EventResult::refused("a tap needs a text \"target\"");
-    return tap(*target);
+    return tap(*target, event["value"]);
   }
   return EventResult::refused("unknown event type \"" + *type + "\"");
 }
 
 // Only the screen on top takes taps; a tap meant for a screen below it is stale.
-EventResult Session::tap(std::string_view target) {
+EventResult Session::tap(std::string_view target, const Value& value) {
   if (lock_) return tapLock(target);
   if (message_) {
     if (target != kMessageClose) return EventResult::refused("a message is open");
     message_.reset();
     return {};
   }
+  if (popup_) return answerPopup(target, value);
   if (welcome_) {
     EventResult result = welcome_->tap(target);
     if (welcome_->closed()) welcome_.reset();
@@ -228,6 +230,22 @@ EventResult Session::tapLock(std::string_view target) {
   return result;
 }
 
+void Session::openPopup(std::unique_ptr<Popup> popup, PopupAction action) {
+  popup_ = std::move(popup);
+  popupAction_ = std::move(action);
+}
+
+// The popup closes before its action runs, so that the action may open the next one.
+EventResult Session::answerPopup(std::string_view target, const Value& value) {
+  const auto answer = popup_->answer(target, value);
+  if (!answer) return EventResult::refused("a popup is open and takes no such answer");
+  popup_.reset();
+  const PopupAction action = std::move(popupAction_);
+  popupAction_ = nullptr;
+  if (action) action(*answer);
+  return {};
+}
+
 EventResult Session::setViewport(const Value& event) {
   const Value& w = event["width"];
   const Value& h = event["height"];
@@ -261,7 +279,7 @@ EventResult Session::becomeVisible() {
 }
 
 bool Session::atRoot() const {
-  return !lock_ && !welcome_ && !message_ && !backgrounds_ &&
+  return !lock_ && !welcome_ && !message_ && !popup_ && !backgrounds_ &&
          app_.context().values().modalOpen == 0;
 }
 

@@ -3,6 +3,7 @@
 // sessions.
 #pragma once
 
+#include <functional>
 #include <memory>
 #include <optional>
 #include <string>
@@ -13,6 +14,7 @@
 #include "shell/message_box.h"
 #include "shell/page_ring.h"
 #include "shell/password_lock.h"
+#include "shell/popup.h"
 #include "shell/welcome_screen.h"
 
 namespace lad::shell {
@@ -53,12 +55,18 @@ class Session {
   // The page in front, or nothing while the menu is.
   std::optional<int> frontPage() const { return ring_.front(); }
 
+  // Puts a popup over the current screen; its answer goes to the action once, and closes it.
+  // A tap may carry the popup's input in "value".
+  using PopupAction = std::function<void(const PopupAnswer&)>;
+  void openPopup(std::unique_ptr<Popup> popup, PopupAction action);
+
  private:
-  EventResult tap(std::string_view target);
+  EventResult tap(std::string_view target, const Value& value);
   EventResult tapLock(std::string_view target);
   EventResult tapMenu(std::string_view target);
   void showLock(LockMode mode);
   Value withBackground(Value screen) const;
+  EventResult answerPopup(std::string_view target, const Value& value);
   EventResult setViewport(const Value& event);
   EventResult setShortcut(const Value& event);
   EventResult becomeVisible();
@@ -81,6 +89,8 @@ class Session {
   std::optional<MessageBox> message_;
   std::optional<PasswordLock> lock_;
   std::optional<BackgroundList> backgrounds_;
+  std::unique_ptr<Popup> popup_;
+  PopupAction popupAction_;
   std::string pendingShortcut_;
   ScreenMetrics metrics_;
   bool appeared_ = false;

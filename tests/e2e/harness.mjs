@@ -1,5 +1,4 @@
-// Shared pieces of the browser tests: a server process on a free loopback port and the
-// headless browser's flags.
+// What the browser tests share: starting and stopping the server, and the browser's set-up.
 import assert from 'node:assert/strict';
 import { spawn } from 'node:child_process';
 import net from 'node:net';
@@ -15,21 +14,27 @@ export const CHROMIUM_ARGS = [
   '--disable-quic',
 ];
 export const PHONE = { viewport: { width: 390, height: 844 }, isMobile: true, hasTouch: true, deviceScaleFactor: 2 };
+
 const START_TIMEOUT_MS = 20000;
 const STOP_TIMEOUT_MS = 10000;
 
-export const sleep = (ms) => new Promise((resolve) => setTimeout(resolve, ms));
-
 /** A running server process with its output kept for failure reports. */
-export function startServer(executable, dataDir, listen) {
-  const child = spawn(executable, ['serve', '--data', dataDir, '--listen', listen], { stdio: ['ignore', 'pipe', 'pipe'] });
+export function startServer(executable, dataDir, port, lang = 'ru', host = '127.0.0.1') {
+  const args = ['serve', '--data', dataDir, '--listen', `${host}:${port}`, '--lang', lang];
+  const child = spawn(executable, args, { stdio: ['ignore', 'pipe', 'pipe'] });
   const server = { child, log: '', exit: null };
   const keep = (chunk) => (server.log = (server.log + chunk).slice(-8000));
   child.stdout.on('data', keep);
   child.stderr.on('data', keep);
   server.exited = new Promise((resolve) => {
-    child.on('error', (error) => resolve((server.exit = { error })));
-    child.on('exit', (code, signal) => resolve((server.exit = { code, signal })));
+    child.on('error', (error) => {
+      server.exit = { error };
+      resolve(server.exit);
+    });
+    child.on('exit', (code, signal) => {
+      server.exit = { code, signal };
+      resolve(server.exit);
+    });
   });
   return server;
 }
@@ -45,10 +50,17 @@ export function freePort() {
   });
 }
 
+export const sleep = (ms) => new Promise((resolve) => setTimeout(resolve, ms));
+
+function describeExit(exit) {
+  return exit.error ? `failed to start: ${exit.error.message}` : `exited (code ${exit.code}, signal ${exit.signal})`;
+}
+
+// Probes with the manifest: the first view of a launch belongs to the browser, which is greeted.
 export async function waitUntilServing(server, base) {
   const deadline = Date.now() + START_TIMEOUT_MS;
   while (Date.now() < deadline) {
-    if (server.exit) throw new Error(`server exited before answering: ${server.log}`);
+    if (server.exit) throw new Error(`server ${describeExit(server.exit)} before answering`);
     const status = await fetch(`${base}/manifest.webmanifest`).then((r) => r.status, () => 0);
     if (status === 200) return;
     await sleep(100);

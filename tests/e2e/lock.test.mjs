@@ -57,7 +57,7 @@ async function changeBackground(page, outDir) {
 async function refusedWithoutPassword(executable) {
   const dataDir = fs.mkdtempSync(path.join(os.tmpdir(), 'ladaneya-e2e-open-'));
   try {
-    const server = startServer(executable, dataDir, `0.0.0.0:${await freePort()}`);
+    const server = startServer(executable, dataDir, await freePort(), 'ru', '0.0.0.0');
     const exit = await server.exited;
     assert.equal(exit.code, 2, 'a listen beyond loopback without a password is refused');
     assert.match(server.log, /password/, 'the refusal says why');
@@ -77,7 +77,7 @@ async function main() {
   const dataDir = fs.mkdtempSync(path.join(os.tmpdir(), 'ladaneya-e2e-lock-'));
   const port = await freePort();
   const base = `http://127.0.0.1:${port}`;
-  const server = startServer(values.server, dataDir, `127.0.0.1:${port}`);
+  const server = startServer(values.server, dataDir, port);
   const browser = await chromium.launch({ executablePath: '/usr/bin/chromium', args: CHROMIUM_ARGS });
   try {
     await waitUntilServing(server, base);

@@ -4,6 +4,7 @@ import { fetchView, RefusedError, sendEvent } from './api.js';
 import { listen } from './events.js';
 import { showNotice } from './notice.js';
 import { followDrags, followTilt } from './gestures.js';
+import { popupValueOf } from './popup.js';
 import { show } from './screen.js';
 import type { ClientEvent, Screen } from './view.js';
 import { onViewportChange, viewportEvent } from './viewport.js';
@@ -87,7 +88,8 @@ async function tap(control: HTMLElement): Promise<void> {
   tapping = true;
   root.classList.add('busy');
   try {
-    await send({ type: 'tap', target: id });
+    const value = popupValueOf(control);
+    await send(value === undefined ? { type: 'tap', target: id } : { type: 'tap', target: id, value });
   } finally {
     tapping = false;
     root.classList.remove('busy');

@@ -111,7 +111,7 @@ function renderCard(node: CardNode): HTMLElement {
   return card;
 }
 
-function renderIcon(name: string, className: string): HTMLElement {
+export function renderIcon(name: string, className: string): HTMLElement {
   const img = element('img', className);
   img.alt = '';
   // A missing picture leaves its slot empty so the rows stay aligned.

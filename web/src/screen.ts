@@ -1,17 +1,22 @@
 // Puts a view on screen. Redrawing the same screen (same rows) keeps the scroll position.
+import { renderPopup } from './popup.js';
 import { render } from './render.js';
-import type { Screen } from './view.js';
+import type { PopupNode, Screen } from './view.js';
 
 export function show(root: HTMLElement, view: Screen): void {
   const next = render(view);
   const scroll = next && rowIds(root) === rowIds(next) ? window.scrollY : 0;
+  const popup = view.popup ? keptPopup(root, view.popup) ?? renderPopup(view.popup) : null;
   const message = view.message ? render(view.message) : null;
-  root.replaceChildren(...[next, message].filter((node): node is HTMLElement => node !== null));
+  // Taking a kept popup out of the page loses its wheels' places: they are put back.
+  const wheels = Array.from(popup?.querySelectorAll<HTMLElement>('.wheel') ?? [], (w) => [w, w.scrollTop] as const);
+  root.replaceChildren(...[next, popup, message].filter((node): node is HTMLElement => node !== null));
+  for (const [wheel, top] of wheels) wheel.scrollTop = top;
   window.scrollTo(0, scroll);
   applyTheme(view);
   if (view.kind === 'page') document.title = view.title;
   if (view.kind === 'welcome') document.title = view.caption;
-  message?.querySelector<HTMLElement>('button')?.focus();
+  (message ?? popup)?.querySelector<HTMLElement>('input, button')?.focus();
 }
 
 /** The chosen background lies under every screen; its theme colours the texts. */
@@ -28,4 +33,10 @@ function applyTheme(view: Screen): void {
 
 function rowIds(node: ParentNode): string {
   return Array.from(node.querySelectorAll<HTMLElement>('.row'), (row) => row.dataset.id).join('\n');
+}
+
+/** The popup on screen if it is the one described: what the user typed or scrolled stays. */
+function keptPopup(root: HTMLElement, node: PopupNode): HTMLElement | null {
+  const shown = root.querySelector<HTMLElement>(':scope > .popup-cover');
+  return shown?.dataset.source === JSON.stringify(node) ? shown : null;
 }

@@ -113,6 +113,50 @@ export interface Theme {
   accent: string;
 }
 
+/** A button or item of a popup: a caption, an icon, or both. */
+export interface PopupButton {
+  id: string;
+  caption?: string;
+  icon?: string;
+}
+
+export interface QuestionNode {
+  kind: 'question';
+  caption: string;
+  text: string;
+  /** Present: the question has a text field, starting with this text. */
+  input?: string;
+  buttons: PopupButton[];
+}
+
+export interface PopupMenuNode {
+  kind: 'popupMenu';
+  items: (PopupButton & { gap?: boolean })[];
+}
+
+export interface ListChoiceNode {
+  kind: 'listChoice';
+  entries: PopupButton[];
+  buttons: PopupButton[];
+}
+
+export interface WheelNode {
+  rows: string[];
+  selected: number;
+}
+
+/** A picker: native date and time inputs, or wheels; buttons close (first) and confirm. */
+export interface PickerNode {
+  kind: 'picker';
+  mode: 'date' | 'time' | 'countdown' | 'wheels';
+  caption: string;
+  value?: string;
+  wheels?: WheelNode[];
+  buttons: PopupButton[];
+}
+
+export type PopupNode = QuestionNode | PopupMenuNode | ListChoiceNode | PickerNode;
+
 export type ViewNode =
   | PageNode
   | ListNode
@@ -127,13 +171,18 @@ export type ViewNode =
   | LockNode;
 
 /**
- * What the server sends: the screen on top, with a message over it while one is open, the
- * chosen background, and whether tilting the device moves between pages.
+ * What the server sends: the screen on top, with a popup and a message over it while open,
+ * the chosen background, and whether tilting the device moves between pages.
  */
-export type Screen = ViewNode & { message?: MessageNode; theme?: Theme; tilt?: boolean };
+export type Screen = ViewNode & {
+  popup?: PopupNode;
+  message?: MessageNode;
+  theme?: Theme;
+  tilt?: boolean;
+};
 
 export type ClientEvent =
-  | { type: 'tap'; target: string }
+  | { type: 'tap'; target: string; value?: unknown }
   | { type: 'viewport'; width: number; height: number }
   | { type: 'visible' }
   | { type: 'hidden' }

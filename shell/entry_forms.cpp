@@ -1,0 +1,59 @@
+#include "shell/entry_forms.h"
+
+#include "shell/detail_rows.h"
+
+namespace lad::shell {
+
+namespace {
+
+struct EntryForm {
+  std::string_view caption;
+  List rows;
+};
+
+std::optional<EntryForm> formOf(const Context& c, std::string_view field) {
+  const Value comment = detailRow(c, kEntryText, "Комментарий", "comment", false, "Комментарий");
+  if (field == "pressure")
+    return EntryForm{
+        "Давление",
+        {detailRow(c, kEntryTime, "Время замера", "time", true, "Укажите время замера"),
+         detailRow(c, kEntryNumber, "Верхнее давление", "pressure1", true, "Вехнее давление"),
+         detailRow(c, kEntryNumber, "Нижнее давление", "pressure2", true, "Нижнее давление"),
+         comment}};
+  if (field == "zhid")
+    return EntryForm{
+        "Жидкость",
+        {detailRow(c, kEntryTime, "Время замера", "time", true, "Время замера"),
+         detailRow(c, kEntryNumber, "Выпито", "in", true, "Выпито (мл.)"),
+         detailRow(c, kEntryNumber, "Выделено", "out", true, "Выделено (мл.)"), comment}};
+  return std::nullopt;
+}
+
+// The entry at pos of the JSON list, or the defaults of a new one.
+std::optional<Map> entryValues(const Context& c, const List& rows, std::string_view value,
+                               int pos) {
+  if (pos < 0) {
+    Map values;
+    for (const Value& row : rows) values.set(row["field"].text(), "");
+    values.set("time", c.dates().dateToString(c.clock().now(), "HH:mm"));
+    return values;
+  }
+  const auto list = Value::fromJson(value);
+  const List* entries = list ? list->asList() : nullptr;
+  if (!entries || pos >= static_cast<int>(entries->size())) return std::nullopt;
+  const Map* entry = (*entries)[pos].asMap();
+  return entry ? std::optional<Map>(*entry) : std::nullopt;
+}
+
+}  // namespace
+
+std::optional<FieldEditor> entryForm(const Context& context, std::string_view field,
+                                     std::string_view value, int pos) {
+  auto form = formOf(context, field);
+  if (!form) return std::nullopt;
+  auto values = entryValues(context, form->rows, value, pos);
+  if (!values) return std::nullopt;
+  return FieldEditor(context, std::string(form->caption), std::move(form->rows), *values);
+}
+
+}  // namespace lad::shell

@@ -1,0 +1,16 @@
+// The editors of one entry of a multi-entry field of a day (pressure, fluids): an entry of
+// the present JSON list, or a new one starting at the time now.
+#pragma once
+
+#include <optional>
+
+#include "shell/field_editor.h"
+
+namespace lad::shell {
+
+// pos: the entry of value to edit, -1 for a new one. Nullopt for a field without an entry
+// editor here or a position the value lacks.
+std::optional<FieldEditor> entryForm(const Context& context, std::string_view field,
+                                     std::string_view value, int pos);
+
+}  // namespace lad::shell

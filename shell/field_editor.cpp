@@ -1,0 +1,81 @@
+#include "shell/field_editor.h"
+
+#include "shell/detail_rows.h"
+#include "shell/field_check.h"
+#include "store/editor_value.h"
+
+namespace lad::shell {
+
+namespace {
+
+// The row of a field in rows, const or not; nullptr when there is none.
+template <class Rows>
+auto rowOf(Rows& rows, std::string_view field) -> decltype(rows.front().asMap()) {
+  for (auto& r : rows)
+    if (auto* m = r.asMap(); m && (*m)["field"].text() == field) return m;
+  return nullptr;
+}
+
+}  // namespace
+
+FieldEditor::FieldEditor(const Context& context, std::string caption, List rows, const Map& values)
+    : context_(context), caption_(context.translate(caption)), rows_(std::move(rows)) {
+  for (Value& row : rows_) {
+    Map* m = row.asMap();
+    if (!m) continue;
+    const std::string field = (*m)["field"].text();
+    if (const Value* v = values.find(field); v && !field.empty()) m->set("source", *v);
+    if ((*m)["tp"].intValue() == kScale && !emptySource(row)) m->set("startactive", true);
+  }
+}
+
+Map* FieldEditor::find(std::string_view field) {
+  return rowOf(rows_, field);
+}
+
+const Map* FieldEditor::row(std::string_view field) const {
+  return rowOf(rows_, field);
+}
+
+bool FieldEditor::change(std::string_view field, Value source) {
+  Map* m = field.empty() ? nullptr : find(field);
+  if (!m) return false;
+  m->set("source", std::move(source));
+  return true;
+}
+
+std::optional<MessageBox> FieldEditor::close() {
+  correctField(rows_);
+  return checkField(context_, rows_);
+}
+
+bool FieldEditor::openNested(std::string_view field, int tp, int pos, FieldEditor editor) {
+  if (field.empty() || !find(field)) return false;
+  nested_ = std::make_unique<Nested>(Nested{std::string(field), tp, pos, std::move(editor)});
+  return true;
+}
+
+FieldEditor* FieldEditor::nested() {
+  return nested_ ? &nested_->editor : nullptr;
+}
+
+std::optional<MessageBox> FieldEditor::commitNested() {
+  if (!nested_) return std::nullopt;
+  if (auto refused = nested_->editor.close()) return refused;
+  Map* m = find(nested_->field);
+  const std::string old = (*m)["source"].text();
+  m->set("source", jsonFromDic(nested_->tp, old, nested_->editor.rows(), nested_->pos));
+  nested_.reset();
+  return std::nullopt;
+}
+
+Value FieldEditor::view() const {
+  Map m;
+  m.set("kind", "editor");
+  m.set("caption", caption_);
+  m.set("rows", Value(rows_));
+  if (nested_) m.set("nested", nested_->editor.view());
+  return Value(std::move(m));
+}
+
+}  // namespace lad::shell

@@ -1,0 +1,152 @@
+// Browser test of the popups: a popup menu, a date picker and a wheel picker drawn over the
+// menu, and the taps they send. The server's views are passed through with a popup added, in
+// the form the session sends it, so the test needs no screen that opens one.
+//   node tests/e2e/popups.test.mjs --server PATH_TO_SERVER --out SCREENSHOT_DIR
+import assert from 'node:assert/strict';
+import fs from 'node:fs';
+import os from 'node:os';
+import path from 'node:path';
+import { parseArgs } from 'node:util';
+import { chromium } from 'playwright-core';
+import { CHROMIUM_ARGS, PHONE, freePort, startServer, stopServer, waitUntilServing } from './harness.mjs';
+
+const STEP_TIMEOUT_MS = 10000;
+
+const MENU = {
+  kind: 'popupMenu',
+  items: [
+    { id: 'popup:0', caption: 'Редактировать', icon: 'pm-edit.png' },
+    { gap: true },
+    { id: 'popup:2', caption: 'Удалить', icon: 'pm-clear.png' },
+    { id: 'popup:3', caption: 'Отменить' },
+  ],
+};
+const BUTTONS = [
+  { id: 'popup:0', icon: 'b-cap-close.png' },
+  { id: 'popup:1', icon: 'b-cap-ok2.png' },
+];
+const DATE = { kind: 'picker', mode: 'date', caption: 'Дата', value: '2026-11-23', buttons: BUTTONS };
+const numbers = (from, to) => Array.from({ length: to - from + 1 }, (_, i) => String(from + i));
+const WHEELS = {
+  kind: 'picker',
+  mode: 'wheels',
+  caption: 'Дозировка',
+  wheels: [
+    { rows: ['1/8', '1/4', '1/2', ...numbers(1, 200)], selected: 9 },
+    { rows: ['мл.', 'мг.', 'шт.', 'мерн.лож.', 'ч.лож.', 'ст.лож.', 'куб.см.', 'впрыск', 'капля'], selected: 2 },
+  ],
+  buttons: BUTTONS,
+};
+
+/** Serves the real views with `state.popup` over them, and keeps the popup taps it catches
+ *  (the server has no popup open, so they go to it as a request for the view). */
+async function overlayPopups(page, state) {
+  const overlay = async (route, request) => {
+    const response = await route.fetch(request);
+    const body = await response.json();
+    if (state.popup && body.view) body.view.popup = state.popup;
+    await route.fulfill({ response, json: body });
+  };
+  await page.route('**/api/view', (route) => overlay(route));
+  await page.route('**/api/event', async (route) => {
+    const event = JSON.parse(route.request().postData() ?? '{}');
+    if (!String(event.target ?? '').startsWith('popup:')) return overlay(route);
+    state.taps.push(event);
+    state.popup = null;
+    return overlay(route, { url: route.request().url().replace('/api/event', '/api/view'), method: 'GET' });
+  });
+}
+
+async function showPopup(page, state, popup) {
+  state.popup = popup;
+  const activated = page.waitForRequest((r) => r.url().endsWith('/api/event') && r.postData()?.includes('"visible"'));
+  await page.reload();
+  await activated;
+  await page.waitForSelector('.popup-cover');
+}
+
+async function checkMenu(page, state, outDir) {
+  await showPopup(page, state, MENU);
+  const items = await page.$$eval('.sheet > *', (nodes) =>
+    nodes.map((n) => (n.classList.contains('sheet-gap') ? '—' : n.textContent)),
+  );
+  assert.deepEqual(items, ['Редактировать', '—', 'Удалить', 'Отменить'], 'menu items with the gap');
+  const blur = await page.$eval('.popup-cover', (n) => getComputedStyle(n).backdropFilter);
+  assert.match(blur, /blur/, 'the screen below is blurred');
+  await page.screenshot({ path: path.join(outDir, 'popup-menu.png') });
+  await page.tap('[data-id="popup:2"]');
+  await page.waitForSelector('.popup-cover', { state: 'detached' });
+  assert.deepEqual(state.taps.pop(), { type: 'tap', target: 'popup:2' }, 'a menu item sends its tap alone');
+}
+
+async function checkDate(page, state, outDir) {
+  await showPopup(page, state, DATE);
+  const input = await page.$('.picker-input');
+  assert.equal(await input.getAttribute('type'), 'date', 'a native date input');
+  assert.equal(await input.inputValue(), '2026-11-23', 'the old date');
+  await input.fill('2027-03-04');
+  await page.screenshot({ path: path.join(outDir, 'picker-date.png') });
+  await page.tap('[data-id="popup:1"]');
+  await page.waitForSelector('.popup-cover', { state: 'detached' });
+  assert.deepEqual(state.taps.pop(), { type: 'tap', target: 'popup:1', value: '2027-03-04' }, 'the date picked');
+}
+
+async function checkWheels(page, state, outDir) {
+  await showPopup(page, state, WHEELS);
+  await page.waitForFunction(() => [...document.querySelectorAll('.wheel')].every((w) => w.scrollTop > 0));
+  await page.screenshot({ path: path.join(outDir, 'picker-wheels.png') });
+  await page.tap('[data-id="popup:1"]');
+  await page.waitForSelector('.popup-cover', { state: 'detached' });
+  assert.deepEqual(state.taps.pop(), { type: 'tap', target: 'popup:1', value: [9, 2] }, 'the wheels keep their rows');
+}
+
+async function checkInBrowser(browser, base, outDir) {
+  const context = await browser.newContext(PHONE);
+  const page = await context.newPage();
+  page.setDefaultTimeout(STEP_TIMEOUT_MS);
+  const errors = [];
+  page.on('pageerror', (error) => errors.push(error.message));
+  await page.goto(`${base}/`);
+  await page.tap('.welcome-footer button');
+  await page.waitForSelector('.row[data-id]');
+  const state = { popup: null, taps: [] };
+  await overlayPopups(page, state);
+  await checkMenu(page, state, outDir);
+  await checkDate(page, state, outDir);
+  await checkWheels(page, state, outDir);
+  assert.deepEqual(errors, [], 'no uncaught errors in the page');
+  await context.close();
+}
+
+async function main() {
+  const { values } = parseArgs({ options: { server: { type: 'string' }, out: { type: 'string' } } });
+  if (!values.server || !values.out) {
+    console.error('usage: node tests/e2e/popups.test.mjs --server PATH --out DIR');
+    process.exit(2);
+  }
+  fs.mkdirSync(values.out, { recursive: true });
+  const dataDir = fs.mkdtempSync(path.join(os.tmpdir(), 'ladaneya-e2e-popups-'));
+  let server = null;
+  let browser = null;
+  try {
+    const port = await freePort();
+    const base = `http://127.0.0.1:${port}`;
+    server = startServer(path.resolve(values.server), dataDir, port);
+    await waitUntilServing(server, base);
+    browser = await chromium.launch({ executablePath: '/usr/bin/chromium', args: CHROMIUM_ARGS });
+    await checkInBrowser(browser, base, values.out);
+    await stopServer(server);
+    console.log('popups: 1 passed, 0 failed');
+  } catch (error) {
+    console.error(`popups: FAILED: ${error.message}`);
+    if (server?.log) console.error(`--- server output (last part) ---\n${server.log}`);
+    console.log('popups: 0 passed, 1 failed');
+    process.exitCode = 1;
+  } finally {
+    await browser?.close().catch(() => {});
+    if (server && !server.exit) server.child.kill('SIGKILL');
+    fs.rmSync(dataDir, { recursive: true, force: true });
+  }
+}
+
+await main();
