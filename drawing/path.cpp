@@ -37,4 +37,16 @@ Path& Path::addCircle(Point centre, double radius) {
   return arc(centre, radius, 0, 2 * std::numbers::pi).close();
 }
 
+Path& Path::addRoundedRect(Rect r, double radius) {
+  constexpr double kQuarter = std::numbers::pi / 2;
+  moveTo({r.x + radius, r.y}).lineTo({r.right() - radius, r.y});
+  arc({r.right() - radius, r.y + radius}, radius, -kQuarter, 0);
+  lineTo({r.right(), r.bottom() - radius});
+  arc({r.right() - radius, r.bottom() - radius}, radius, 0, kQuarter);
+  lineTo({r.x + radius, r.bottom()});
+  arc({r.x + radius, r.bottom() - radius}, radius, kQuarter, 2 * kQuarter);
+  lineTo({r.x, r.y + radius});
+  return arc({r.x + radius, r.y + radius}, radius, 2 * kQuarter, 3 * kQuarter).close();
+}
+
 }  // namespace lad::draw

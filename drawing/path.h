@@ -25,6 +25,7 @@ class Path {
   Path& close();
   Path& addRect(Rect r);
   Path& addCircle(Point centre, double radius);
+  Path& addRoundedRect(Rect r, double radius);
 
   const std::vector<Op>& ops() const { return ops_; }
   bool empty() const { return ops_.empty(); }
