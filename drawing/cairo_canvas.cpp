@@ -6,6 +6,14 @@
 
 namespace lad::draw {
 
+CairoCanvas::CairoCanvas(cairo_t* cr) : cr_(cr), text_(pango_cairo_create_context(cr)) {
+  prepareTextContext(text_);
+}
+
+CairoCanvas::~CairoCanvas() {
+  g_object_unref(text_);
+}
+
 void CairoCanvas::setPath(const Path& p) {
   cairo_new_path(cr_);
   for (const auto& op : p.ops()) {
@@ -88,12 +96,10 @@ void CairoCanvas::fillGradient(const Path& clip, Point from, Point to,
 }
 
 void CairoCanvas::drawText(std::string_view text, Rect r, Font f, Color c, Align a) {
-  PangoLayout* layout = pango_cairo_create_layout(cr_);
-  PangoLayout* shaped = makeLayout(pango_layout_get_context(layout), text, f, r.w, a);
+  PangoLayout* layout = makeLayout(text_, text, f, r.w, a);
   setColor(c);
   cairo_move_to(cr_, r.x, r.y);
-  pango_cairo_show_layout(cr_, shaped);
-  g_object_unref(shaped);
+  pango_cairo_show_layout(cr_, layout);
   g_object_unref(layout);
 }
 

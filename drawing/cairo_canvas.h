@@ -2,6 +2,7 @@
 #pragma once
 
 #include <cairo.h>
+#include <pango/pango.h>
 
 #include "drawing/canvas.h"
 
@@ -10,7 +11,10 @@ namespace lad::draw {
 class CairoCanvas : public Canvas {
  public:
   // Does not take ownership of the context.
-  explicit CairoCanvas(cairo_t* cr) : cr_(cr) {}
+  explicit CairoCanvas(cairo_t* cr);
+  ~CairoCanvas() override;
+  CairoCanvas(const CairoCanvas&) = delete;
+  CairoCanvas& operator=(const CairoCanvas&) = delete;
 
   void clear(Rect r) override;
   void fillRect(Rect r, Color c) override;
@@ -26,6 +30,7 @@ class CairoCanvas : public Canvas {
   void setPath(const Path& p);
   void setColor(Color c);
   cairo_t* cr_;
+  PangoContext* text_;  // one context for all texts of the painting
 };
 
 }  // namespace lad::draw

@@ -39,6 +39,7 @@ bool finish(cairo_surface_t* surface, bool ok) {
 
 std::string renderSvg(Size size, const Painter& paint) {
   std::string out;
+  out.reserve(1 << 18);  // a chart of a few hundred points, without regrowing
   cairo_surface_t* surface =
       cairo_svg_surface_create_for_stream(appendToString, &out, size.w, size.h);
   if (!finish(surface, paintOn(surface, 1, paint))) return {};

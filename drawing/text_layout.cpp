@@ -24,8 +24,7 @@ PangoAlignment pangoAlignment(Align a) {
 
 }  // namespace
 
-PangoLayout* makeLayout(PangoContext* context, std::string_view text, Font f, double width,
-                        Align a) {
+void prepareTextContext(PangoContext* context) {
   // Unhinted metrics: widths scale with the font size, as in the browser.
   cairo_font_options_t* options = cairo_font_options_create();
   cairo_font_options_set_hint_metrics(options, CAIRO_HINT_METRICS_OFF);
@@ -33,6 +32,10 @@ PangoLayout* makeLayout(PangoContext* context, std::string_view text, Font f, do
   pango_cairo_context_set_font_options(context, options);
   cairo_font_options_destroy(options);
   pango_context_set_round_glyph_positions(context, FALSE);
+}
+
+PangoLayout* makeLayout(PangoContext* context, std::string_view text, Font f, double width,
+                        Align a) {
   PangoLayout* layout = pango_layout_new(context);
   PangoFontDescription* desc = pango_font_description_new();
   pango_font_description_set_family(desc, kFontFamily);
