@@ -26,7 +26,7 @@ Value Session::view() {
     appeared_ = true;
     if (auto greeting = app_.takeVersionRecord()) welcome_.emplace(app_.context(), *greeting);
   }
-  Value screen = welcome_ ? welcome_->view() : menu_.view();
+  Value screen = welcome_ ? welcome_->view() : contractions_ ? contractions_->view() : menu_.view();
   if (message_) screen.asMap()->set("message", message_->toValue());
   return screen;
 }
@@ -60,6 +60,11 @@ EventResult Session::tap(std::string_view target) {
   if (welcome_) {
     EventResult result = welcome_->tap(target);
     if (welcome_->closed()) welcome_.reset();
+    return result;
+  }
+  if (contractions_) {
+    EventResult result = contractions_->tap(target);
+    if (contractions_->closed()) contractions_.reset();
     return result;
   }
   return menu_.tap(target);
@@ -96,7 +101,7 @@ EventResult Session::becomeVisible() {
 }
 
 bool Session::atRoot() const {
-  return !welcome_ && !message_ && app_.context().values().modalOpen == 0;
+  return !welcome_ && !message_ && !contractions_ && app_.context().values().modalOpen == 0;
 }
 
 // Both shortcuts act on the active pregnancy. The pages they open join the page ring as they
@@ -110,6 +115,8 @@ void Session::quickStart() {
     return;
   }
   activeId_ = *active;
+  if (pendingShortcut_ == "SCHVATKI")
+    contractions_ = ContractionScreen::open(app_, activeId_, metrics_.scaleX);
 }
 
 }  // namespace lad::shell

@@ -7,6 +7,7 @@
 #include <string>
 
 #include "shell/application.h"
+#include "shell/contraction_screen.h"
 #include "shell/main_menu.h"
 #include "shell/message_box.h"
 #include "shell/welcome_screen.h"
@@ -49,6 +50,7 @@ class Session {
   MainMenu menu_;
   std::optional<WelcomeScreen> welcome_;
   std::optional<MessageBox> message_;
+  std::shared_ptr<ContractionScreen> contractions_;  // opened by the "SCHVATKI" shortcut
   std::string pendingShortcut_;
   std::string activeId_;
   ScreenMetrics metrics_;
