@@ -92,11 +92,12 @@ List ContractionScreen::listViews() const {
       const health::Contraction& c = data_[next];
       const health::ContractionRowText text = health::rowText(c, app_.context());
       RowView row;
-      row.id = "contraction:" + std::to_string(c.schid);
+      row.id = std::string(kContractionRow) + std::to_string(c.schid);
       row.caption = text.duration;
       row.comment = text.start + " " + text.pause;
       Value v = row.toValue();
       v.asMap()->set("deleteTarget", std::string(kContractionDelete) + std::to_string(c.schid));
+      v.asMap()->set("deleteCaption", app_.context().translate("Удалить"));
       rows.push_back(std::move(v));
     }
     out.push_back(listView(std::move(rows)));
@@ -113,6 +114,7 @@ EventResult ContractionScreen::tap(std::string_view target) {
   }
   if (target.starts_with(kContractionDelete))
     return remove(target.substr(kContractionDelete.size()));
+  if (target.starts_with(kContractionRow)) return {};  // a row opens nothing
   return EventResult::refused("unknown target \"" + std::string(target) + "\"");
 }
 

@@ -18,6 +18,8 @@ namespace lad::shell {
 inline constexpr std::string_view kContractionStart = "contractions:start";
 inline constexpr std::string_view kContractionStop = "contractions:stop";
 inline constexpr std::string_view kContractionClose = "contractions:close";
+// Row id prefix of a contraction, followed by its schid.
+inline constexpr std::string_view kContractionRow = "contractions:row:";
 // Row target prefix of a contraction's delete swipe, followed by its schid.
 inline constexpr std::string_view kContractionDelete = "contractions:delete:";
 
