@@ -1,13 +1,21 @@
 // Browser test of the greeting and the main menu against the real server, in headless Chromium.
 //   node tests/e2e/menu.test.mjs --server PATH_TO_SERVER --out SCREENSHOT_DIR
 import assert from 'node:assert/strict';
-import { spawn } from 'node:child_process';
 import fs from 'node:fs';
-import net from 'node:net';
 import os from 'node:os';
 import path from 'node:path';
 import { parseArgs } from 'node:util';
 import { chromium } from 'playwright-core';
+import {
+  CHROMIUM_ARGS,
+  PHONE,
+  STEP_TIMEOUT_MS,
+  sleep,
+  freePort,
+  startServer,
+  stopServer,
+  waitUntilServing,
+} from './harness.mjs';
 
 const PREGNANCY_MENU = [
   'Сегодня',
@@ -25,71 +33,13 @@ const NOT_BUILT_ROW = 'menu:1';
 const SWITCH_ROW = 'menu:51';
 const SWITCH_TEXT = 'Не показывать в дневнике пустые дни';
 const SWITCH = `[data-id="${SWITCH_ROW}"] .switch`;
-const CHROMIUM_ARGS = [
-  '--headless',
-  '--no-sandbox',
-  '--disable-gpu',
-  '--disable-background-networking',
-  '--disable-component-update',
-  '--disable-sync',
-  '--no-first-run',
-  '--disable-quic',
-];
 // What the German installation shows (from the translation table).
 const GERMAN = { close: 'Loslegen', firstRow: 'Heute' };
-const START_TIMEOUT_MS = 20000;
-const STOP_TIMEOUT_MS = 10000;
-const STEP_TIMEOUT_MS = 10000;
 
-/** A running server process with its output kept for failure reports. */
-function startServer(executable, dataDir, port, lang = 'ru') {
-  const args = ['serve', '--data', dataDir, '--listen', `127.0.0.1:${port}`, '--lang', lang];
-  const child = spawn(executable, args, { stdio: ['ignore', 'pipe', 'pipe'] });
-  const server = { child, log: '', exit: null };
-  const keep = (chunk) => (server.log = (server.log + chunk).slice(-8000));
-  child.stdout.on('data', keep);
-  child.stderr.on('data', keep);
-  server.exited = new Promise((resolve) => {
-    child.on('error', (error) => {
-      server.exit = { error };
-      resolve(server.exit);
-    });
-    child.on('exit', (code, signal) => {
-      server.exit = { code, signal };
-      resolve(server.exit);
-    });
-  });
-  return server;
-}
 
-function freePort() {
-  return new Promise((resolve, reject) => {
-    const probe = net.createServer();
-    probe.on('error', reject);
-    probe.listen(0, '127.0.0.1', () => {
-      const { port } = probe.address();
-      probe.close(() => resolve(port));
-    });
-  });
-}
 
-const sleep = (ms) => new Promise((resolve) => setTimeout(resolve, ms));
 
-function describeExit(exit) {
-  return exit.error ? `failed to start: ${exit.error.message}` : `exited (code ${exit.code}, signal ${exit.signal})`;
-}
 
-// Probes with the manifest: the first view of a launch belongs to the browser, which is greeted.
-async function waitUntilServing(server, base) {
-  const deadline = Date.now() + START_TIMEOUT_MS;
-  while (Date.now() < deadline) {
-    if (server.exit) throw new Error(`server ${describeExit(server.exit)} before answering`);
-    const status = await fetch(`${base}/manifest.webmanifest`).then((r) => r.status, () => 0);
-    if (status === 200) return;
-    await sleep(100);
-  }
-  throw new Error(`the server did not answer within ${START_TIMEOUT_MS / 1000} s`);
-}
 
 async function checkManifest(base) {
   const response = await fetch(`${base}/manifest.webmanifest`);
@@ -232,7 +182,6 @@ async function checkServiceWorker(page) {
   assert.ok(active, 'the service worker /sw.js becomes active');
 }
 
-const PHONE = { viewport: { width: 390, height: 844 }, isMobile: true, hasTouch: true, deviceScaleFactor: 2 };
 
 /** The first page of a launch is greeted; closing the greeting shows the menu. */
 async function passWelcome(context, base, outDir, name) {
@@ -323,12 +272,6 @@ async function checkInBrowser(browser, base, outDir) {
   assert.deepEqual(errors, [], 'no uncaught errors in the page');
 }
 
-async function stopServer(server) {
-  server.child.kill('SIGTERM');
-  const exit = await Promise.race([server.exited, sleep(STOP_TIMEOUT_MS).then(() => null)]);
-  if (!exit) throw new Error(`server still running ${STOP_TIMEOUT_MS / 1000} s after SIGTERM`);
-  assert.deepEqual(exit, { code: 0, signal: null }, 'server exit after SIGTERM');
-}
 
 async function main() {
   const { values } = parseArgs({ options: { server: { type: 'string' }, out: { type: 'string' } } });
