@@ -134,6 +134,48 @@ TEST(Chart, SeriesOverlayInOrderAndLegendColours) {
   for (const auto& sq : squares) EXPECT_GE(sq.rect.y, 160);
 }
 
+TEST(Chart, PictureCallOutsAndBalloons) {
+  Map dic = sampleDic();
+  dic.erase("Graph1");
+  dic.set("mainImage", "icon-3d.png");  // 96 by 96
+  List hints;
+  for (double x : {0.0, 96.0}) {
+    Map h;
+    h.set("hint", x == 0 ? "12 недель\nголова" : "двенадцать недель беременности");
+    h.set("x", x);
+    h.set("y", 48);
+    hints.push_back(h);
+  }
+  dic.set("ImageHints", hints);
+  List marks;
+  addPoint(marks, 2, 50, "20");
+  dic.set("Points", marks);
+  const auto c = draw(dic);
+  const auto images = c.ofKind(Kind::Image);
+  ASSERT_EQ(images.size(), 2u);
+  // Natural proportions, centred in the plot {30, 36, 260, 124}.
+  EXPECT_EQ(images[0].rect, (draw::Rect{98, 36, 124, 124}));
+  EXPECT_EQ(std::filesystem::path(images[1].text).filename(), "baloon-uzi.png");
+  EXPECT_EQ(images[1].rect, (draw::Rect{160 - 20, 98 - 50, 40, 50}));
+
+  const auto callouts = c.ofKind(Kind::FillPath);
+  ASSERT_EQ(callouts.size(), 2u);
+  // Beside its point, and moved back inside the frame when it would leave it.
+  EXPECT_DOUBLE_EQ(callouts[0].path.ops()[0].to.x, 98 + 8 + 6);
+  const double right = callouts[1].path.ops()[2].to.x + 6;
+  EXPECT_LE(right, 320 + 1e-9);
+  EXPECT_LT(callouts[1].path.ops()[0].to.x - 6, 222 + 8);
+  const auto texts = c.ofKind(Kind::Text);
+  EXPECT_EQ(texts[1].text, "12 недель\nголова");
+  EXPECT_DOUBLE_EQ(texts[1].font.size, 14);
+  EXPECT_EQ(texts.back().text, "20");
+  EXPECT_NEAR(texts.back().rect.centre().y, 98 - 30, 1e-9);
+
+  // A picture that cannot be read is left out together with its call-outs.
+  dic.set("mainImage", "missing.png");
+  EXPECT_TRUE(draw(dic).ofKind(Kind::FillPath).empty());
+}
+
 TEST(Chart, CardsAndImages) {
   Chart chart(2, LADANEYA_IMAGES_DIR);
   chart.prepareRoundCard();
