@@ -134,6 +134,25 @@ TEST(Chart, SeriesOverlayInOrderAndLegendColours) {
   for (const auto& sq : squares) EXPECT_GE(sq.rect.y, 160);
 }
 
+TEST(Chart, TypeNineDrawsARingInThePlot) {
+  Map dic = sampleDic();
+  List values;
+  addPoint(values, 1, 0);
+  addPoint(values, 99, 0);
+  dic.set("Graph1", values);
+  dic.set("Graph1Type", "9");
+  const auto c = draw(dic);
+  EXPECT_TRUE(c.ofKind(Kind::StrokePath).empty());
+  const auto rings = c.ofKind(Kind::FillPath);
+  ASSERT_EQ(rings.size(), 3u);
+  // Centred in the plot {30, 36, 260, 124}; R = (124 - 20z) / 2 with z = s = 2.
+  EXPECT_EQ(rings[1].path.ops()[0].to, (draw::Point{160, 98}));
+  EXPECT_DOUBLE_EQ(rings[1].path.ops()[1].radius, 42);
+  int percentTexts = 0;
+  for (const auto& t : c.ofKind(Kind::Text)) percentTexts += t.text.ends_with("%");
+  EXPECT_EQ(percentTexts, 1);
+}
+
 TEST(Chart, PictureCallOutsAndBalloons) {
   Map dic = sampleDic();
   dic.erase("Graph1");
