@@ -43,7 +43,7 @@ void ContractionScreen::updateGraph() {
 
 Value ContractionScreen::chartView(const char* id, const List& points, const char* caption) const {
   const Context& context = app_.context();
-  charts::Chart chart(scale_, context.resourcesDir() / "images");
+  charts::Chart chart(scale_, {});  // the counter's charts use no pictures
   chart.prepare(health::contractionChart(points, context.translate(caption),
                                          context.values().themeDarkIcons));
   const draw::Size size{kChartWidth * scale_, kChartHeight * scale_};
