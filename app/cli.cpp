@@ -1,6 +1,7 @@
 #include "app/cli.h"
 
 #include <charconv>
+#include <cstdlib>
 
 #include "core/edition.h"
 
@@ -24,10 +25,24 @@ bool parseListen(const std::string& text, ServeOptions& o) {
   return true;
 }
 
+// Set by the test suite's browser tests; a product run never has it.
+bool testMode() {
+  const char* mode = std::getenv("LADANEYA_TEST_MODE");
+  return mode && std::string_view(mode) == "1";
+}
+
 std::optional<Command> parseServe(const std::vector<std::string>& args, std::string* error) {
   Command c{Command::kServe, {}};
   for (std::size_t i = 1; i < args.size(); ++i) {
     const std::string& flag = args[i];
+    if (flag == "--fake-clock") {
+      if (!testMode()) {
+        *error = "--fake-clock is only for the test suite";
+        return std::nullopt;
+      }
+      c.serve.fakeClock = true;
+      continue;
+    }
     if (flag != "--data" && flag != "--listen" && flag != "--lang" && flag != "--web") {
       *error = "unknown option " + flag;
       return std::nullopt;

@@ -16,6 +16,7 @@ struct ServeOptions {
   std::filesystem::path webDir;
   std::filesystem::path imagesDir;
   std::filesystem::path resourcesDir;  // database templates and the translation table
+  bool fakeClock = false;              // tests drive the clock over HTTP
 };
 
 struct Command {

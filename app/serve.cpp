@@ -52,9 +52,14 @@ int serve(int appid, const ServeOptions& o) {
   }
   const sigset_t stopSignals = blockStopSignals();
   std::unique_ptr<server::Installation> installation;
+  std::shared_ptr<ManualClock> testClock;
   try {
+    if (o.fakeClock)
+      testClock = std::make_shared<ManualClock>(
+          std::chrono::floor<std::chrono::milliseconds>(std::chrono::system_clock::now()),
+          Clock::hostZone());
     installation = std::make_unique<server::Installation>(
-        ContextOptions{appid, o.langid, o.dataDir, LADANEYA_VERSION, nullptr, o.resourcesDir});
+        ContextOptions{appid, o.langid, o.dataDir, LADANEYA_VERSION, testClock, o.resourcesDir});
   } catch (const std::exception& e) {
     std::fprintf(stderr, "cannot open the installation in %s: %s\n", o.dataDir.c_str(), e.what());
     return 1;
@@ -63,7 +68,9 @@ int serve(int appid, const ServeOptions& o) {
     std::fprintf(stderr, "%s\n", refusal.c_str());
     return 2;
   }
-  server::HttpServer http(*installation, {o.host, o.port, o.webDir, o.imagesDir});
+  server::HttpOptions httpOptions{o.host, o.port, o.webDir, o.imagesDir};
+  httpOptions.testClock = testClock;
+  server::HttpServer http(*installation, httpOptions);
   std::string error;
   const int port = http.bind(&error);
   if (port < 0) {

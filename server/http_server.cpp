@@ -136,6 +136,19 @@ struct HttpServer::Impl {
     });
     http.Get("/api/events",
              [this](const httplib::Request&, httplib::Response& res) { streamEvents(res); });
+    if (options.testClock) routeTestClock();
+  }
+
+  void routeTestClock() {
+    http.Post("/api/test/clock", [this](const httplib::Request& req, httplib::Response& res) {
+      const auto body = Value::fromJson(req.body);
+      const Value* advance = body && body->asMap() ? body->asMap()->find("advance") : nullptr;
+      if (!advance || advance->doubleValue() < 0)
+        return sendError(res, 400, "the test clock wants {\"advance\": seconds}");
+      options.testClock->advance(
+          std::chrono::milliseconds(static_cast<std::int64_t>(advance->doubleValue() * 1000)));
+      res.set_content(Value(Map()).toJson(), "application/json");
+    });
   }
 
   void streamEvents(httplib::Response& res) {

@@ -18,6 +18,8 @@ struct HttpOptions {
   std::filesystem::path imagesDir;
   std::size_t maxBodyBytes = 64 * 1024;
   bool logRequests = true;
+  // Set only in test runs: POST /api/test/clock {"advance": seconds} moves this clock.
+  std::shared_ptr<ManualClock> testClock{};
 };
 
 class HttpServer {

@@ -111,6 +111,11 @@ void Installation::afterEvent(const shell::EventResult& result) {
   if (result.installationChanged) hub_.publish(kRefresh);
   if (result.redrawAfter.count() > 0)
     loop_.addTimer(result.redrawAfter, [this] { hub_.publish(kRefresh); });
+  if (result.timer)
+    loop_.addTimer(result.timerDelay, [this, timer = result.timer] {
+      afterEvent(timer());
+      hub_.publish(kRefresh);
+    });
 }
 
 }  // namespace lad::server

@@ -15,7 +15,7 @@ class BackgroundList : public Screen {
   EventResult tap(std::string_view target) override;
 
   // A background was chosen.
-  bool closed() const { return closed_; }
+  bool closed() const override { return closed_; }
 
  private:
   Context& context_;

@@ -1,5 +1,6 @@
 #include "shell/pages.h"
 
+#include "shell/contraction_screen.h"
 #include "shell/title_page.h"
 
 namespace lad::shell {
@@ -7,18 +8,21 @@ namespace lad::shell {
 namespace {
 
 constexpr int kTitlePage = 3;
+constexpr int kContractionsPage = 6;
 
 }  // namespace
 
 const std::set<int>& builtPages() {
-  static const std::set<int> pages{kTitlePage};
+  static const std::set<int> pages{kTitlePage, kContractionsPage};
   return pages;
 }
 
-std::unique_ptr<Screen> makePage(int page, Application& app, const std::string& gid) {
+std::shared_ptr<Screen> makePage(int page, Application& app, const std::string& gid, double scale) {
   switch (page) {
     case kTitlePage:
-      return std::make_unique<TitlePage>(app, gid);
+      return std::make_shared<TitlePage>(app, gid);
+    case kContractionsPage:
+      return ContractionScreen::open(app, gid, scale);
     default:
       return nullptr;
   }

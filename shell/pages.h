@@ -13,7 +13,8 @@ namespace lad::shell {
 // Page ids (menu ids below 21) with a screen in this build.
 const std::set<int>& builtPages();
 
-// The screen of a built page for a profile; nullptr for a page without one.
-std::unique_ptr<Screen> makePage(int page, Application& app, const std::string& gid);
+// The screen of a built page for a profile, drawn at the browser's scale; nullptr for a page
+// without one.
+std::shared_ptr<Screen> makePage(int page, Application& app, const std::string& gid, double scale);
 
 }  // namespace lad::shell

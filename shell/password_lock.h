@@ -28,7 +28,7 @@ class PasswordLock : public Screen {
 
   LockMode mode() const { return mode_; }
   // The lock has gone: unlocked, a new code set or refused, or setting one cancelled.
-  bool closed() const { return closed_; }
+  bool closed() const override { return closed_; }
   // After setting a code: the message that the screen below shows.
   const std::optional<MessageBox>& outcome() const { return outcome_; }
 

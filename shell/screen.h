@@ -2,6 +2,7 @@
 #pragma once
 
 #include <chrono>
+#include <functional>
 #include <string>
 #include <string_view>
 
@@ -15,6 +16,10 @@ struct EventResult {
   bool installationChanged = false;
   // Every browser redraws once more after this delay (zero: no later redraw).
   std::chrono::milliseconds redrawAfter{0};
+  // Set: the host runs it on the main thread after timerDelay, treats its result as that of
+  // an event, and redraws every browser.
+  std::function<EventResult()> timer{};
+  std::chrono::milliseconds timerDelay{0};
 
   bool ok() const { return error.empty(); }
   static EventResult refused(std::string why) { return {std::move(why)}; }
@@ -25,6 +30,8 @@ class Screen {
   virtual ~Screen() = default;
   virtual Value view() = 0;
   virtual EventResult tap(std::string_view target) = 0;
+  // The screen asked to be closed by one of its own controls.
+  virtual bool closed() const { return false; }
 };
 
 }  // namespace lad::shell

@@ -106,12 +106,19 @@ EventResult Session::tap(std::string_view target, const Value& value) {
     if (backgrounds_->closed()) backgrounds_.reset();
     return result;
   }
-  if (page_) {
-    if (target != kToMenu) return page_->tap(target);
+  if (page_) return tapPage(target);
+  return tapMenu(target);
+}
+
+// The page's own controls, and the way back to the menu; a page may also close itself.
+EventResult Session::tapPage(std::string_view target) {
+  if (target == kToMenu) {
     gotoMenu();
     return {};
   }
-  return tapMenu(target);
+  EventResult result = page_->tap(target);
+  if (page_->closed()) gotoMenu();
+  return result;
 }
 
 // The password switch and the background row open their screens; the rest is the menu's.
@@ -140,14 +147,15 @@ Value Session::ringView() {
   ring.set("kind", "ring");
   ring.set("page", page_->view());
   if (auto back = ring_.back(); back && *back != *ring_.front())
-    if (auto next = makePage(*back, app_, menu_.activeId())) ring.set("next", next->view());
+    if (auto next = makePage(*back, app_, menu_.activeId(), metrics_.scaleX))
+      ring.set("next", next->view());
   ring.set("menu", menu_.view());
   ring.set("toMenu", std::string(kToMenu));
   return Value(std::move(ring));
 }
 
 EventResult Session::openTab(int page) {
-  auto screen = makePage(page, app_, menu_.activeId());
+  auto screen = makePage(page, app_, menu_.activeId(), metrics_.scaleX);
   if (!screen || !ring_.open(page)) return EventResult::refused("no page " + std::to_string(page));
   if (pageProfile_ != menu_.activeId()) {
     auto& dirty = app_.context().values().pageDirty;

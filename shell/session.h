@@ -64,6 +64,7 @@ class Session {
   EventResult tap(std::string_view target, const Value& value);
   EventResult tapLock(std::string_view target);
   EventResult tapMenu(std::string_view target);
+  EventResult tapPage(std::string_view target);
   void showLock(LockMode mode);
   Value withBackground(Value screen) const;
   EventResult answerPopup(std::string_view target, const Value& value);
@@ -82,7 +83,7 @@ class Session {
   Application& app_;
   MainMenu menu_;
   PageRing ring_;
-  std::unique_ptr<Screen> page_;  // the screen of the front page
+  std::shared_ptr<Screen> page_;  // the screen of the front page
   std::string pageProfile_;       // the profile the pages were last opened for
   TiltNavigator tilt_;
   std::optional<WelcomeScreen> welcome_;

@@ -15,7 +15,7 @@ class WelcomeScreen : public Screen {
   Value view() override;
   // "welcome:close" closes the greeting; its other buttons lead to screens of their own.
   EventResult tap(std::string_view target) override;
-  bool closed() const { return closed_; }
+  bool closed() const override { return closed_; }
 
  private:
   Context& context_;

@@ -1,4 +1,4 @@
-// What the browser tests share: starting and stopping the server, and the browser's set-up.
+// What the browser tests share: starting and stopping the server, and the browser's settings.
 import assert from 'node:assert/strict';
 import { spawn } from 'node:child_process';
 import net from 'node:net';
@@ -13,15 +13,14 @@ export const CHROMIUM_ARGS = [
   '--no-first-run',
   '--disable-quic',
 ];
-export const PHONE = { viewport: { width: 390, height: 844 }, isMobile: true, hasTouch: true, deviceScaleFactor: 2 };
-
-const START_TIMEOUT_MS = 20000;
-const STOP_TIMEOUT_MS = 10000;
+export const START_TIMEOUT_MS = 20000;
+export const STOP_TIMEOUT_MS = 10000;
+export const STEP_TIMEOUT_MS = 10000;
 
 /** A running server process with its output kept for failure reports. */
-export function startServer(executable, dataDir, port, lang = 'ru', host = '127.0.0.1') {
-  const args = ['serve', '--data', dataDir, '--listen', `${host}:${port}`, '--lang', lang];
-  const child = spawn(executable, args, { stdio: ['ignore', 'pipe', 'pipe'] });
+export function startServer(executable, dataDir, port, lang = 'ru', extraArgs = [], env = process.env, host = '127.0.0.1') {
+  const args = ['serve', '--data', dataDir, '--listen', `${host}:${port}`, '--lang', lang, ...extraArgs];
+  const child = spawn(executable, args, { stdio: ['ignore', 'pipe', 'pipe'], env });
   const server = { child, log: '', exit: null };
   const keep = (chunk) => (server.log = (server.log + chunk).slice(-8000));
   child.stdout.on('data', keep);
@@ -52,7 +51,7 @@ export function freePort() {
 
 export const sleep = (ms) => new Promise((resolve) => setTimeout(resolve, ms));
 
-function describeExit(exit) {
+export function describeExit(exit) {
   return exit.error ? `failed to start: ${exit.error.message}` : `exited (code ${exit.code}, signal ${exit.signal})`;
 }
 
@@ -67,6 +66,8 @@ export async function waitUntilServing(server, base) {
   }
   throw new Error(`the server did not answer within ${START_TIMEOUT_MS / 1000} s`);
 }
+
+export const PHONE = { viewport: { width: 390, height: 844 }, isMobile: true, hasTouch: true, deviceScaleFactor: 2 };
 
 export async function stopServer(server) {
   server.child.kill('SIGTERM');

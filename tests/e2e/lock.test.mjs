@@ -57,7 +57,7 @@ async function changeBackground(page, outDir) {
 async function refusedWithoutPassword(executable) {
   const dataDir = fs.mkdtempSync(path.join(os.tmpdir(), 'ladaneya-e2e-open-'));
   try {
-    const server = startServer(executable, dataDir, await freePort(), 'ru', '0.0.0.0');
+    const server = startServer(executable, dataDir, await freePort(), 'ru', [], process.env, '0.0.0.0');
     const exit = await server.exited;
     assert.equal(exit.code, 2, 'a listen beyond loopback without a password is refused');
     assert.match(server.log, /password/, 'the refusal says why');

@@ -179,6 +179,8 @@ class StreamReader {
 // An installation in a temporary data folder behind a server on a free loopback port.
 class ServerTest : public ::testing::Test {
  protected:
+  // Set before SetUp for a server whose clock the test drives over HTTP.
+  std::shared_ptr<ManualClock> testClock_;
   static constexpr std::string_view kIndexHtml =
       "<!doctype html>\n<title>Ладанея</title>\n<script src=\"app.js\"></script>\n";
   static constexpr std::string_view kAppJs = "document.title = 'app';\n";
@@ -193,6 +195,7 @@ class ServerTest : public ::testing::Test {
     options.port = 0;
     options.webDir = webDir();
     options.logRequests = false;
+    options.testClock = testClock_;
     server_ = std::make_unique<HttpServer>(*installation_, options);
     std::string error;
     port_ = server_->bind(&error);

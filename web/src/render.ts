@@ -10,6 +10,9 @@ import type {
   MessageNode,
   PageNode,
   RowNode,
+  SvgNode,
+  TextNode,
+  TimerNode,
   ViewNode,
   WelcomeNode,
 } from './view.js';
@@ -27,7 +30,11 @@ export function render(node: ViewNode): HTMLElement | null {
     case 'welcome':
       return renderWelcome(node);
     case 'text':
-      return element('p', 'welcome-text', node.text);
+      return renderText(node);
+    case 'svg':
+      return renderSvg(node);
+    case 'timer':
+      return renderTimer(node);
     case 'buttons':
       return renderButtons(node);
     case 'message':
@@ -78,6 +85,7 @@ function renderRow(node: RowNode): HTMLElement {
   row.append(text);
 
   if (node.badge) row.append(element('span', 'badge', node.badge));
+  if (node.deleteTarget) addSwipeToDelete(row, node.deleteTarget, node.deleteCaption ?? '');
 
   // The part a keyboard or screen reader operates: the toggle, or else the text.
   const toggle = typeof node.checked === 'boolean' ? renderSwitch(node.checked, caption) : null;
@@ -196,4 +204,47 @@ function renderPadKey(node: LockNode, key: string): HTMLElement {
   else button.setAttribute('aria-label', '⌫');
   button.disabled = node.wait > 0 && !erase;
   return button;
+}
+
+function renderText(node: TextNode): HTMLElement {
+  const text = element('p', node.regim === undefined ? 'welcome-text' : 'info', node.text);
+  if (node.id) text.dataset.info = node.id;
+  if (node.regim !== undefined) text.dataset.regim = String(node.regim);
+  return text;
+}
+
+/** Shown as an image, so that nothing in the drawing can run as part of the page. */
+function renderSvg(node: SvgNode): HTMLElement {
+  const img = element('img', 'chart');
+  img.dataset.chart = node.id;
+  img.alt = '';
+  img.width = Math.round(node.width);
+  img.height = Math.round(node.height);
+  img.src = `data:image/svg+xml;charset=utf-8,${encodeURIComponent(node.svg)}`;
+  return img;
+}
+
+function renderTimer(node: TimerNode): HTMLElement {
+  const timer = element('div', 'timer', node.text);
+  timer.setAttribute('role', 'timer');
+  timer.classList.toggle('running', node.running);
+  timer.hidden = !node.visible;
+  return timer;
+}
+
+const SWIPE_DISTANCE_PX = 40;
+
+/** A swipe to the left reveals the row's delete button; one to the right hides it again. */
+function addSwipeToDelete(row: HTMLElement, target: string, caption: string): void {
+  const remove = renderButton({ id: target, caption });
+  remove.classList.add('delete');
+  row.append(remove);
+  let startX: number | null = null;
+  row.addEventListener('pointerdown', (event) => (startX = event.clientX));
+  row.addEventListener('pointerup', (event) => {
+    if (startX === null) return;
+    const dx = event.clientX - startX;
+    startX = null;
+    if (Math.abs(dx) >= SWIPE_DISTANCE_PX) row.classList.toggle('swiped', dx < 0);
+  });
 }

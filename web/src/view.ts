@@ -10,6 +10,9 @@ export interface RowNode {
   badge?: string;
   /** Present only on switch rows. */
   checked?: boolean;
+  /** Present on rows that a swipe to the left offers to delete: the tap target and its caption. */
+  deleteTarget?: string;
+  deleteCaption?: string;
 }
 
 export interface ListNode {
@@ -37,6 +40,26 @@ export interface ButtonNode {
 export interface TextNode {
   kind: 'text';
   text: string;
+  id?: string;
+  /** 1 normal, 2 a hint (dimmed), 3 an alarm. */
+  regim?: number;
+}
+
+/** A picture the server drew (SVG), in CSS pixels. */
+export interface SvgNode {
+  kind: 'svg';
+  id: string;
+  svg: string;
+  width: number;
+  height: number;
+}
+
+/** The running time of something being timed; the server sends it at every tick. */
+export interface TimerNode {
+  kind: 'timer';
+  text: string;
+  running: boolean;
+  visible: boolean;
 }
 
 /** Buttons side by side, sharing the width. */
@@ -168,7 +191,9 @@ export type ViewNode =
   | MessageNode
   | CardNode
   | RingNode
-  | LockNode;
+  | LockNode
+  | SvgNode
+  | TimerNode;
 
 /**
  * What the server sends: the screen on top, with a popup and a message over it while open,

@@ -1,0 +1,15 @@
+// The small decorative cards: a rounded card and the cards of a chat thread.
+#pragma once
+
+#include "drawing/canvas.h"
+
+namespace lad::charts {
+
+// A rounded rectangle of radius 2s.
+void drawRoundCard(draw::Canvas& c, draw::Rect r, draw::Color color, double s);
+
+// A light rounded card of radius 4s; the corners of a side without its own edge (it joins the
+// next card) are squared off in white. A grey line ends the card.
+void drawChatCard(draw::Canvas& c, draw::Rect r, bool withTop, bool withBottom, double s);
+
+}  // namespace lad::charts

@@ -1,0 +1,29 @@
+#include "charts/palette.h"
+
+#include <array>
+
+namespace lad::charts {
+
+draw::Color nextColor(int n) {
+  static constexpr std::array<draw::Color, 7> kColors{{{0.898, 0.369, 0.337, 1},
+                                                       {0.443, 0.718, 0.847, 1},
+                                                       {0.902, 0.725, 0.286, 1},
+                                                       {0.529, 0.788, 0.396, 1},
+                                                       {0.933, 0.576, 0.259, 1},
+                                                       {0.322, 0.643, 0.314, 1},
+                                                       {0.639, 0.314, 0.643, 1}}};
+  return n >= 2 && n <= 7 ? kColors[n - 1] : kColors[0];
+}
+
+Value colorValue(draw::Color c) {
+  return List{c.r, c.g, c.b, c.a};
+}
+
+draw::Color colorFrom(const Value& v) {
+  const List* l = v.asList();
+  if (!l || l->size() != 4) return {0, 0, 0, 0};
+  return {(*l)[0].doubleValue(), (*l)[1].doubleValue(), (*l)[2].doubleValue(),
+          (*l)[3].doubleValue()};
+}
+
+}  // namespace lad::charts

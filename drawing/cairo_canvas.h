@@ -1,0 +1,36 @@
+// The canvas on a cairo context; text is laid out with pango in the drawing font.
+#pragma once
+
+#include <cairo.h>
+#include <pango/pango.h>
+
+#include "drawing/canvas.h"
+
+namespace lad::draw {
+
+class CairoCanvas : public Canvas {
+ public:
+  // Does not take ownership of the context.
+  explicit CairoCanvas(cairo_t* cr);
+  ~CairoCanvas() override;
+  CairoCanvas(const CairoCanvas&) = delete;
+  CairoCanvas& operator=(const CairoCanvas&) = delete;
+
+  void clear(Rect r) override;
+  void fillRect(Rect r, Color c) override;
+  void fillPath(const Path& p, Color c, FillRule rule) override;
+  void strokePath(const Path& p, Color c, double width, const std::vector<double>& dash) override;
+  void fillEllipse(Rect bounds, Color c) override;
+  void fillGradient(const Path& clip, Point from, Point to,
+                    const std::vector<GradientStop>& stops) override;
+  void drawText(std::string_view text, Rect r, Font f, Color c, Align a) override;
+  void drawImage(const std::string& file, Rect r) override;
+
+ private:
+  void setPath(const Path& p);
+  void setColor(Color c);
+  cairo_t* cr_;
+  PangoContext* text_;  // one context for all texts of the painting
+};
+
+}  // namespace lad::draw

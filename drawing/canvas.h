@@ -1,0 +1,38 @@
+// The one drawing surface of the system. Charts and pages paint through it; back ends render to
+// SVG, PNG and PDF (cairo) or keep every command for tests (recording).
+#pragma once
+
+#include <string>
+#include <string_view>
+#include <vector>
+
+#include "drawing/geometry.h"
+#include "drawing/path.h"
+
+namespace lad::draw {
+
+enum class FillRule { Winding, EvenOdd };
+
+class Canvas {
+ public:
+  virtual ~Canvas() = default;
+
+  // Clears the rectangle to transparent.
+  virtual void clear(Rect r) = 0;
+  virtual void fillRect(Rect r, Color c) = 0;
+  virtual void fillPath(const Path& p, Color c, FillRule rule = FillRule::Winding) = 0;
+  // An empty dash list strokes a solid line; otherwise on and off lengths in turn.
+  virtual void strokePath(const Path& p, Color c, double width,
+                          const std::vector<double>& dash = {}) = 0;
+  virtual void fillEllipse(Rect bounds, Color c) = 0;
+  // Paints a linear gradient from `from` to `to` inside the area of `clip` (winding rule).
+  virtual void fillGradient(const Path& clip, Point from, Point to,
+                            const std::vector<GradientStop>& stops) = 0;
+  // Lays the text out in the width of the rectangle from its top, breaking lines at "\n" and
+  // between words, and draws it with the alignment.
+  virtual void drawText(std::string_view text, Rect r, Font f, Color c, Align a) = 0;
+  // Draws a PNG file scaled into the rectangle; a file that cannot be read draws nothing.
+  virtual void drawImage(const std::string& file, Rect r) = 0;
+};
+
+}  // namespace lad::draw

@@ -1,0 +1,14 @@
+// The natural size of a PNG picture, for laying it out before it is drawn.
+#pragma once
+
+#include <optional>
+#include <string>
+
+#include "drawing/geometry.h"
+
+namespace lad::draw {
+
+// nullopt when the file cannot be read as PNG.
+std::optional<Size> pngSize(const std::string& file);
+
+}  // namespace lad::draw

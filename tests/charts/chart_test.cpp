@@ -1,0 +1,225 @@
+#include "charts/chart.h"
+
+#include <gtest/gtest.h>
+
+#include <filesystem>
+#include <fstream>
+
+#include "charts/chart_dictionary.h"
+#include "charts/palette.h"
+#include "charts/plot_scale.h"
+#include "drawing/recording_canvas.h"
+
+namespace lad::charts {
+namespace {
+
+using Kind = draw::Command::Kind;
+
+Map sampleDic() {
+  Map dic;
+  initGraphDic(dic);
+  dic.set("xAxisMax", 4);
+  dic.set("yAxisMax", 100);
+  dic.set("isBorders", true);
+  dic.set("mainColor", colorValue({0.7, 0, 0, 1}));
+  dic.set("backColor", colorValue({0.5, 0.5, 0.5, 1}));
+  dic.set("textColor", colorValue({0, 0, 0, 1}));
+  dic.set("bottomCaption", "График продолжительности схваток");
+  List series;
+  addPoint(series, 1, 40, "00:40");
+  addPoint(series, 2, 70, "01:10");
+  addPoint(series, 3, 55, "00:55");
+  dic.set("Graph1", series);
+  dic.set("Graph1Type", "5");
+  return dic;
+}
+
+draw::RecordingCanvas draw(const Map& dic, double s = 2) {
+  Chart chart(s, LADANEYA_IMAGES_DIR);
+  chart.prepare(dic);
+  draw::RecordingCanvas c;
+  chart.drawContext(c, {0, 0, 320, 200});
+  return c;
+}
+
+TEST(ChartDictionary, DefaultsAndBuilders) {
+  Map dic;
+  initGraphDic(dic);
+  EXPECT_EQ(dic["xAxisMax"], Value(0));
+  EXPECT_EQ(dic["setka"], Value(false));
+  EXPECT_EQ(dic["bottomLine"], Value(0));
+  List legend;
+  addToLegenda(legend, "Вес", 2, true);
+  EXPECT_EQ(legend[0]["pos"].intValue(), 2);
+  EXPECT_TRUE(legend[0]["checked"].boolValue());
+}
+
+TEST(Chart, BordersCaptionsAndSeriesPlacement) {
+  const auto c = draw(sampleDic());
+  EXPECT_EQ(c.commands().front().kind, Kind::Clear);
+  const auto stroke = c.ofKind(Kind::StrokePath).at(0);
+  // Plot inset 15s at the sides, 18s on top and 20s at the foot, with s = 2.
+  const draw::Point first = stroke.path.ops()[0].to;
+  EXPECT_DOUBLE_EQ(first.x, 30 + 260 / 4.0);
+  EXPECT_NEAR(first.y, 36 + 124 * 0.6, 1e-9);
+  EXPECT_EQ(getPoint(sampleDic(), {0, 0, 320, 200}, 2, 1, 40), stroke.path.ops()[0].to);
+  const auto caption = c.ofKind(Kind::Text).front();
+  EXPECT_EQ(caption.text, "График продолжительности схваток");
+  EXPECT_DOUBLE_EQ(caption.rect.y, 200 - 24);
+  EXPECT_DOUBLE_EQ(caption.font.size, 22);
+  EXPECT_NEAR(caption.rect.centre().x, 160, 1e-9);
+}
+
+TEST(Chart, ZoomScalesLinesAndFontsButNotMargins) {
+  Map dic = sampleDic();
+  dic.set("zoom", 5);
+  const auto c = draw(dic, 1);
+  EXPECT_DOUBLE_EQ(c.ofKind(Kind::StrokePath).at(0).width, 25);
+  EXPECT_DOUBLE_EQ(c.ofKind(Kind::Text).front().font.size, 55);
+  EXPECT_DOUBLE_EQ(c.ofKind(Kind::StrokePath).at(0).path.ops()[0].to.x, 15 + 290 / 4.0);
+}
+
+TEST(Chart, TicksGridBottomLineAndBackground) {
+  Map dic = sampleDic();
+  List ticks;
+  for (int i = 0; i <= 4; ++i) {
+    Map t;
+    t.set("pos", i);
+    t.set("label", i % 2 ? std::to_string(i) : "");
+    ticks.push_back(t);
+  }
+  dic.set("xAxisValue", ticks);
+  dic.set("bottomLine", 1);
+  dic.set("backgroundColor", colorValue({1, 1, 1, 1}));
+  auto c = draw(dic);
+  auto rects = c.ofKind(Kind::FillRect);
+  ASSERT_EQ(rects.size(), 2u);
+  EXPECT_EQ(rects[0].rect, (draw::Rect{0, 0, 320, 200}));
+  EXPECT_EQ(rects[1].rect, (draw::Rect{30, 160 - 2 + 0.5, 260, 2}));
+  EXPECT_EQ(rects[1].color, (draw::Color{0, 0, 0, 0.5}));
+  int tickLabels = 0;
+  for (const auto& t : c.ofKind(Kind::Text)) tickLabels += t.text == "1" || t.text == "3";
+  EXPECT_EQ(tickLabels, 2);
+  EXPECT_EQ(c.ofKind(Kind::StrokePath).size(), 1u);  // setka false: no grid
+
+  dic.set("setka", true);
+  c = draw(dic);
+  const auto lines = c.ofKind(Kind::StrokePath);
+  ASSERT_EQ(lines.size(), 6u);
+  EXPECT_EQ(lines[1].path.ops()[0].to, (draw::Point{95, 160}));
+  EXPECT_EQ(lines[1].path.ops()[1].to, (draw::Point{95, 36}));
+}
+
+TEST(Chart, SeriesOverlayInOrderAndLegendColours) {
+  Map dic = sampleDic();
+  dic.set("Graph2", dic["Graph1"]);
+  dic.set("Graph2Type", "3");
+  dic.set("Graph2Color", colorValue({0, 0.5, 0, 1}));
+  dic.set("Graph3", dic["Graph1"]);
+  dic.set("Graph3Type", "8");
+  dic.set("Graph3Color", colorValue({0, 0, 0.5, 1}));
+  List legend;
+  for (int pos = 1; pos <= 8; ++pos) addToLegenda(legend, "ряд " + std::to_string(pos), pos, false);
+  dic.set("Legenda", legend);
+  const auto c = draw(dic);
+  const auto strokes = c.ofKind(Kind::StrokePath);
+  ASSERT_EQ(strokes.size(), 3u);
+  EXPECT_DOUBLE_EQ(strokes[0].width, 10);
+  EXPECT_EQ(strokes[1].color, (draw::Color{0, 0.5, 0, 1}));
+  EXPECT_EQ(strokes[2].dash, (std::vector<double>{5, 5}));
+  const auto squares = c.ofKind(Kind::FillRect);
+  ASSERT_EQ(squares.size(), 8u);
+  EXPECT_EQ(squares[1].color, nextColor(2));
+  EXPECT_EQ(squares[7].color, nextColor(1));
+  for (const auto& sq : squares) EXPECT_GE(sq.rect.y, 160);
+}
+
+TEST(Chart, TypeNineDrawsARingInThePlot) {
+  Map dic = sampleDic();
+  List values;
+  addPoint(values, 1, 0);
+  addPoint(values, 99, 0);
+  dic.set("Graph1", values);
+  dic.set("Graph1Type", "9");
+  const auto c = draw(dic);
+  EXPECT_TRUE(c.ofKind(Kind::StrokePath).empty());
+  const auto rings = c.ofKind(Kind::FillPath);
+  ASSERT_EQ(rings.size(), 3u);
+  // Centred in the plot {30, 36, 260, 124}; R = (124 - 20z) / 2 with z = s = 2.
+  EXPECT_EQ(rings[1].path.ops()[0].to, (draw::Point{160, 98}));
+  EXPECT_DOUBLE_EQ(rings[1].path.ops()[1].radius, 42);
+  int percentTexts = 0;
+  for (const auto& t : c.ofKind(Kind::Text)) percentTexts += t.text.ends_with("%");
+  EXPECT_EQ(percentTexts, 1);
+}
+
+TEST(Chart, PictureCallOutsAndBalloons) {
+  Map dic = sampleDic();
+  dic.erase("Graph1");
+  dic.set("mainImage", "icon-3d.png");  // 96 by 96
+  List hints;
+  for (double x : {0.0, 96.0}) {
+    Map h;
+    h.set("hint", x == 0 ? "12 недель\nголова" : "двенадцать недель беременности");
+    h.set("x", x);
+    h.set("y", 48);
+    hints.push_back(h);
+  }
+  dic.set("ImageHints", hints);
+  List marks;
+  addPoint(marks, 2, 50, "20");
+  dic.set("Points", marks);
+  const auto c = draw(dic);
+  const auto images = c.ofKind(Kind::Image);
+  ASSERT_EQ(images.size(), 2u);
+  // Natural proportions, centred in the plot {30, 36, 260, 124}.
+  EXPECT_EQ(images[0].rect, (draw::Rect{98, 36, 124, 124}));
+  EXPECT_EQ(std::filesystem::path(images[1].text).filename(), "baloon-uzi.png");
+  EXPECT_EQ(images[1].rect, (draw::Rect{160 - 20, 98 - 50, 40, 50}));
+
+  const auto callouts = c.ofKind(Kind::FillPath);
+  ASSERT_EQ(callouts.size(), 2u);
+  // Beside its point, and moved back inside the frame when it would leave it.
+  EXPECT_DOUBLE_EQ(callouts[0].path.ops()[0].to.x, 98 + 8 + 6);
+  const double right = callouts[1].path.ops()[2].to.x + 6;
+  EXPECT_LE(right, 320 + 1e-9);
+  EXPECT_LT(callouts[1].path.ops()[0].to.x - 6, 222 + 8);
+  const auto texts = c.ofKind(Kind::Text);
+  EXPECT_EQ(texts[1].text, "12 недель\nголова");
+  EXPECT_DOUBLE_EQ(texts[1].font.size, 14);
+  EXPECT_EQ(texts.back().text, "20");
+  EXPECT_NEAR(texts.back().rect.centre().y, 98 - 30, 1e-9);
+
+  // A picture that cannot be read is left out together with its call-outs.
+  dic.set("mainImage", "missing.png");
+  EXPECT_TRUE(draw(dic).ofKind(Kind::FillPath).empty());
+}
+
+TEST(Chart, CardsAndImages) {
+  Chart chart(2, LADANEYA_IMAGES_DIR);
+  chart.prepareRoundCard();
+  draw::RecordingCanvas round;
+  chart.drawContext(round, {0, 0, 50, 30});
+  ASSERT_EQ(round.commands().size(), 1u);
+  EXPECT_EQ(round.commands()[0].color, (draw::Color{0, 0, 0, 0.4}));
+  EXPECT_DOUBLE_EQ(round.commands()[0].path.ops()[2].radius, 4);
+
+  chart.prepareChatCard(false, true);
+  EXPECT_EQ(chart.mode(), Chart::Mode::ChatCardNoTop);
+  draw::RecordingCanvas chat;
+  chart.drawContext(chat, {0, 0, 50, 30});
+  EXPECT_EQ(chat.ofKind(Kind::FillRect).size(), 2u);
+  EXPECT_EQ(chat.ofKind(Kind::FillRect)[0].rect, (draw::Rect{0, 0, 8, 8}));
+
+  chart.prepare(sampleDic());
+  const auto png = chart.getContextImage({320, 200}, 2);
+  ASSERT_TRUE(png);
+  const std::filesystem::path dir = LADANEYA_TEST_OUTPUT_DIR;
+  std::filesystem::create_directories(dir);
+  std::ofstream(dir / "contraction_chart.png", std::ios::binary) << *png;
+  EXPECT_GT(std::filesystem::file_size(dir / "contraction_chart.png"), 1000u);
+  EXPECT_NE(chart.svg({320, 200}).find("<svg"), std::string::npos);
+}
+
+}  // namespace
+}  // namespace lad::charts

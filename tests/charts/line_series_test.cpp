@@ -1,0 +1,109 @@
+#include "charts/line_series.h"
+
+#include <gtest/gtest.h>
+
+#include "charts/chart_dictionary.h"
+#include "drawing/recording_canvas.h"
+
+namespace lad::charts {
+namespace {
+
+using draw::Command;
+using Kind = draw::Command::Kind;
+
+const AxisRange kRange{0, 10, 0, 100};
+const draw::Rect kPlot{10, 20, 200, 100};
+const draw::Color kFore{1, 0, 0, 1}, kBack{0, 0, 1, 1}, kText{0, 0, 0, 1};
+
+draw::RecordingCanvas paint(const List& points, int type, double zoom = 1) {
+  draw::RecordingCanvas c;
+  drawNewLine(c, points, kRange, kPlot, {type, kFore, kBack, kText, zoom});
+  return c;
+}
+
+List twoPoints() {
+  List l;
+  addPoint(l, 0, 0);
+  addPoint(l, 10, 100, "01:40");
+  return l;
+}
+
+TEST(LineSeries, ValuesMapIntoThePlotAndTheCurveIsStroked) {
+  const auto c = paint(twoPoints(), 2);
+  const auto strokes = c.ofKind(Kind::StrokePath);
+  ASSERT_EQ(strokes.size(), 1u);
+  ASSERT_EQ(strokes[0].path.ops().size(), 2u);
+  EXPECT_EQ(strokes[0].path.ops()[0].to, (draw::Point{10, 120}));
+  EXPECT_EQ(strokes[0].path.ops()[1].to, (draw::Point{210, 20}));
+  EXPECT_DOUBLE_EQ(strokes[0].width, 2);
+  EXPECT_TRUE(strokes[0].dash.empty());
+  EXPECT_EQ(strokes[0].color, kFore);
+}
+
+TEST(LineSeries, EmptyAndOnePointSeries) {
+  EXPECT_TRUE(paint({}, 5).commands().empty());
+  List one;
+  addPoint(one, 5, 50, "00:50");
+  const auto c = paint(one, 5);
+  ASSERT_EQ(c.ofKind(Kind::StrokePath).size(), 1u);
+  EXPECT_EQ(c.ofKind(Kind::FillEllipse).size(), 2u);
+  ASSERT_EQ(c.ofKind(Kind::Text).size(), 1u);
+}
+
+TEST(LineSeries, MarksAndWidthsFollowTheType) {
+  // Type 5: unlabelled points go unmarked; a labelled one gets a ring of 6z and a dot of 2z.
+  const auto t5 = paint(twoPoints(), 5, 2);
+  EXPECT_DOUBLE_EQ(t5.ofKind(Kind::StrokePath)[0].width, 10);
+  auto marks = t5.ofKind(Kind::FillEllipse);
+  ASSERT_EQ(marks.size(), 2u);
+  EXPECT_EQ(marks[0].rect, (draw::Rect{198, 8, 24, 24}));
+  EXPECT_EQ(marks[0].color, kFore);
+  EXPECT_EQ(marks[1].rect, (draw::Rect{206, 16, 8, 8}));
+  EXPECT_EQ(marks[1].color, kBack);
+  const auto label = t5.ofKind(Kind::Text).at(0);
+  EXPECT_EQ(label.text, "01:40");
+  EXPECT_TRUE(label.font.bold);
+  EXPECT_DOUBLE_EQ(label.font.size, 16);
+  EXPECT_EQ(label.color, kText.withAlpha(0.7));
+  EXPECT_DOUBLE_EQ(label.rect.y, 20 - 12 - 20);
+  EXPECT_DOUBLE_EQ(label.rect.centre().x, 210);
+
+  // Type 1: every point marked; the unlabelled one with a dot of 2z.
+  const auto t1 = paint(twoPoints(), 1);
+  EXPECT_DOUBLE_EQ(t1.ofKind(Kind::StrokePath)[0].width, 4);
+  marks = t1.ofKind(Kind::FillEllipse);
+  ASSERT_EQ(marks.size(), 3u);
+  EXPECT_EQ(marks[0].rect, (draw::Rect{8, 118, 4, 4}));
+
+  // Type 8: dashed width z, labels without their marks.
+  const auto t8 = paint(twoPoints(), 8, 3);
+  EXPECT_DOUBLE_EQ(t8.ofKind(Kind::StrokePath)[0].width, 3);
+  EXPECT_EQ(t8.ofKind(Kind::StrokePath)[0].dash, (std::vector<double>{5, 5}));
+  EXPECT_EQ(t8.ofKind(Kind::FillEllipse).size(), 1u);
+  EXPECT_EQ(t8.ofKind(Kind::Text).size(), 1u);
+  EXPECT_DOUBLE_EQ(paint(twoPoints(), 6, 3).ofKind(Kind::StrokePath)[0].width, 1);
+}
+
+TEST(LineSeries, GradientFillsTowardsFootOrTop) {
+  EXPECT_TRUE(paint(twoPoints(), 2).ofKind(Kind::Gradient).empty());
+  const auto under = paint(twoPoints(), 3).ofKind(Kind::Gradient);
+  ASSERT_EQ(under.size(), 1u);
+  EXPECT_EQ(under[0].from, (draw::Point{10, 20}));
+  EXPECT_EQ(under[0].to, (draw::Point{10, 120}));
+  EXPECT_EQ(under[0].stops, (std::vector<draw::GradientStop>{{0.1, kFore.withAlpha(0.3)},
+                                                             {1, kFore.withAlpha(0)}}));
+  // Closed along the foot, two units beyond both ends.
+  const auto& ops = under[0].path.ops();
+  EXPECT_EQ(ops.front().to, (draw::Point{8, 120}));
+  EXPECT_EQ(ops[ops.size() - 2].to, (draw::Point{212, 120}));
+
+  const auto top = paint(twoPoints(), 4).ofKind(Kind::Gradient).at(0);
+  EXPECT_EQ(top.path.ops().front().to, (draw::Point{8, 20}));
+
+  const auto strong = paint(twoPoints(), 7).ofKind(Kind::Gradient).at(0);
+  EXPECT_EQ(strong.from, (draw::Point{10, 120}));
+  EXPECT_EQ(strong.stops.front(), (draw::GradientStop{0, kFore.withAlpha(0.5)}));
+}
+
+}  // namespace
+}  // namespace lad::charts

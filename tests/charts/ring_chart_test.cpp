@@ -1,0 +1,78 @@
+#include "charts/ring_chart.h"
+
+#include <gtest/gtest.h>
+
+#include <cmath>
+
+#include "charts/chart_dictionary.h"
+#include "charts/palette.h"
+#include "drawing/recording_canvas.h"
+
+namespace lad::charts {
+namespace {
+
+using draw::Command;
+
+List values(std::initializer_list<double> xs) {
+  List l;
+  for (double x : xs) addPoint(l, x, 0);
+  return l;
+}
+
+TEST(Palette, SequenceFallsBackOnTheFirstColour) {
+  EXPECT_EQ(nextColor(2), (draw::Color{0.443, 0.718, 0.847, 1}));
+  EXPECT_EQ(nextColor(7), (draw::Color{0.639, 0.314, 0.643, 1}));
+  for (int n : {0, 1, 8, -3}) EXPECT_EQ(nextColor(n), (draw::Color{0.898, 0.369, 0.337, 1}));
+  EXPECT_EQ(colorFrom(colorValue({0.1, 0.2, 0.3, 0.4})), (draw::Color{0.1, 0.2, 0.3, 0.4}));
+  EXPECT_EQ(colorFrom(Value("red")).a, 0);
+}
+
+TEST(RingChart, SlicesShadowAndShareLabels) {
+  draw::RecordingCanvas c;
+  // 1 and 99: the small slice stays without text.
+  drawNewChart(c, values({1, 99}), {0, 0, 220, 120}, 1);
+  const auto fills = c.ofKind(Command::Kind::FillPath);
+  ASSERT_EQ(fills.size(), 3u);
+  EXPECT_EQ(fills[0].color, (draw::Color{0, 0, 0, 0.2}));
+  EXPECT_EQ(fills[0].rule, draw::FillRule::EvenOdd);
+  // The shadow ring stands 2z right and down; radius (120 - 20) / 2, inner a third of it.
+  EXPECT_EQ(fills[0].path.ops()[1].to, (draw::Point{112, 62}));
+  EXPECT_DOUBLE_EQ(fills[0].path.ops()[1].radius, 50);
+  EXPECT_DOUBLE_EQ(fills[0].path.ops()[4].radius, 50.0 / 3);
+  EXPECT_EQ(fills[1].color, nextColor(1));
+  EXPECT_EQ(fills[2].color, nextColor(2));
+  EXPECT_NEAR(fills[1].path.ops()[1].end, 0.01 * 2 * M_PI, 1e-12);
+
+  const auto texts = c.ofKind(Command::Kind::Text);
+  ASSERT_EQ(texts.size(), 1u);
+  EXPECT_EQ(texts[0].text, "99%");
+  EXPECT_EQ(texts[0].color, (draw::Color{1, 1, 1, 1}));
+  EXPECT_DOUBLE_EQ(texts[0].font.size, 13);
+  // Centred at two thirds of R along the middle of its slice.
+  const double mid = (0.01 + 1) * M_PI;
+  EXPECT_NEAR(texts[0].rect.centre().x, 110 + 100.0 / 3 * std::cos(mid), 1e-9);
+  EXPECT_NEAR(texts[0].rect.centre().y, 60 + 100.0 / 3 * std::sin(mid), 1e-9);
+}
+
+TEST(RingChart, ThreePercentIsTheLabelThreshold) {
+  draw::RecordingCanvas at3, under3;
+  drawNewChart(at3, values({3, 97}), {0, 0, 100, 100}, 2);
+  drawNewChart(under3, values({2.9, 97.1}), {0, 0, 100, 100}, 2);
+  ASSERT_EQ(at3.ofKind(Command::Kind::Text).size(), 2u);
+  EXPECT_EQ(at3.ofKind(Command::Kind::Text)[0].text, "3%");
+  EXPECT_DOUBLE_EQ(at3.ofKind(Command::Kind::Text)[0].font.size, 26);
+  ASSERT_EQ(under3.ofKind(Command::Kind::Text).size(), 1u);
+  EXPECT_EQ(under3.ofKind(Command::Kind::Text)[0].text, "97%");
+}
+
+TEST(RingChart, NothingToShareDrawsOnlyTheShadow) {
+  draw::RecordingCanvas c;
+  drawNewChart(c, values({0, 0}), {0, 0, 100, 100}, 1);
+  EXPECT_EQ(c.commands().size(), 1u);
+  draw::RecordingCanvas tiny;
+  drawNewChart(tiny, values({1}), {0, 0, 10, 10}, 1);
+  EXPECT_TRUE(tiny.commands().empty());
+}
+
+}  // namespace
+}  // namespace lad::charts

@@ -1,0 +1,42 @@
+#include "drawing/render.h"
+
+#include <gtest/gtest.h>
+
+namespace lad::draw {
+namespace {
+
+void paintSample(Canvas& c) {
+  c.fillRect({0, 0, 40, 20}, {1, 0, 0, 1});
+  c.strokePath(Path().moveTo({0, 0}).lineTo({40, 20}), {0, 0, 1, 1}, 2, {5, 5});
+  c.fillGradient(Path().addRect({0, 0, 40, 20}), {0, 0}, {0, 20},
+                 {{0.1, {0, 1, 0, 0.3}}, {1, {0, 1, 0, 0}}});
+  c.drawText("22", {0, 0, 40, 20}, {9, false}, {0, 0, 0, 1}, Align::Center);
+  c.drawImage("/nonexistent/picture.png", {0, 0, 10, 10});
+}
+
+TEST(Render, EachDocumentKindCarriesThePainting) {
+  const std::string svg = renderSvg({40, 20}, paintSample);
+  EXPECT_NE(svg.find("<svg"), std::string::npos);
+  EXPECT_NE(svg.find("width=\"40\""), std::string::npos);
+  EXPECT_NE(svg.find("linearGradient"), std::string::npos);
+
+  const auto png = renderPng({40, 20}, 2, paintSample);
+  ASSERT_TRUE(png);
+  ASSERT_GT(png->size(), 24u);
+  EXPECT_EQ(png->substr(1, 3), "PNG");
+  // The IHDR chunk holds the width and height: the scale doubles both.
+  EXPECT_EQ(static_cast<unsigned char>((*png)[19]), 80);
+  EXPECT_EQ(static_cast<unsigned char>((*png)[23]), 40);
+
+  const auto pdf = renderPdf({40, 20}, "Схватки", paintSample);
+  ASSERT_TRUE(pdf);
+  EXPECT_EQ(pdf->substr(0, 5), "%PDF-");
+}
+
+TEST(Render, AnEmptyBitmapIsRefused) {
+  EXPECT_FALSE(renderPng({0, 20}, 1, paintSample));
+  EXPECT_FALSE(renderPng({40, 20}, 0, paintSample));
+}
+
+}  // namespace
+}  // namespace lad::draw

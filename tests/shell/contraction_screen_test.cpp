@@ -1,0 +1,118 @@
+#include "shell/contraction_screen.h"
+
+#include <gtest/gtest.h>
+
+#include "shell/session.h"
+#include "tests/shell/application_fixture.h"
+
+namespace lad::shell {
+namespace {
+
+using namespace std::chrono_literals;
+
+class ContractionScreenTest : public lad::testing::ApplicationTest {
+ protected:
+  ContractionScreenTest() { launchApp(); }
+
+  static Value event(const std::string& json) { return *Value::fromJson(json); }
+
+  // A session on the counter, opened by its shortcut.
+  std::unique_ptr<Session> counter() {
+    auto s = std::make_unique<Session>(*app);
+    if (s->view()["kind"].text() == "welcome") {
+      EXPECT_TRUE(s->handle(event(R"({"type":"tap","target":"welcome:close"})")).ok());
+    }
+    EXPECT_TRUE(s->handle(event(R"({"type":"shortcut","name":"SCHVATKI"})")).ok());
+    EXPECT_TRUE(s->handle(event(R"({"type":"visible"})")).ok());
+    return s;
+  }
+  EventResult tap(Session& s, std::string_view target) {
+    return s.handle(event(R"({"type":"tap","target":")" + std::string(target) + "\"}"));
+  }
+  // Times one contraction of len seconds after a pause.
+  void time(Session& s, std::chrono::seconds pause, std::chrono::seconds len) {
+    clock->advance(pause);
+    ASSERT_TRUE(tap(s, kContractionStart).ok());
+    clock->advance(len);
+    ASSERT_TRUE(tap(s, kContractionStop).ok());
+  }
+  static const Value* child(const Value& page, const std::string& kind, std::size_t nth = 0) {
+    for (const auto& c : *page["children"].asList())
+      if (c["kind"].text() == kind && nth-- == 0) return &c;
+    return nullptr;
+  }
+};
+
+TEST_F(ContractionScreenTest, StartStopAndTheTickChain) {
+  auto s = counter();
+  Value page = s->view()["page"];
+  EXPECT_EQ(child(page, "text")->operator[]("text").text(),
+            "Пока нет данных для отображения графиков. Нажмите на кнопку СТАРТ при начале "
+            "схватки.");
+  ASSERT_TRUE(child(page, "svg"));
+  EXPECT_NE((*child(page, "svg"))["svg"].text().find("<svg"), std::string::npos);
+  EXPECT_NE(child(page, "svg", 1), nullptr);
+
+  const EventResult started = tap(*s, kContractionStart);
+  ASSERT_TRUE(started.ok());
+  ASSERT_TRUE(started.timer);
+  EXPECT_EQ(started.timerDelay, 1s);
+  EXPECT_FALSE(tap(*s, kContractionStart).ok());
+  clock->advance(65s);
+  page = s->view()["page"];
+  EXPECT_EQ((*child(page, "timer"))["text"].text(), "01:05");
+  EXPECT_TRUE((*child(page, "timer"))["running"].boolValue());
+  EXPECT_EQ((*child(page, "buttons"))["buttons"].asList()->at(0)["id"].text(), kContractionStop);
+
+  EventResult tick = started.timer();
+  ASSERT_TRUE(tick.timer);
+  ASSERT_TRUE(tap(*s, kContractionStop).ok());
+  EXPECT_FALSE(tap(*s, kContractionStop).ok());
+  tick = tick.timer();  // the fade-out tick
+  ASSERT_TRUE(tick.timer);
+  EXPECT_TRUE((*child(s->view()["page"], "timer"))["visible"].boolValue());
+  EXPECT_FALSE(tick.timer().timer);
+  EXPECT_FALSE((*child(s->view()["page"], "timer"))["visible"].boolValue());
+  EXPECT_EQ(
+      (*child(s->view()["page"], "text"))["text"].text(),
+      "Данных мало. Нужно минимум 4 схватки (3 интервала между ними), чтобы начать определение "
+      "тенденции.");
+}
+
+TEST_F(ContractionScreenTest, TrendListAndSwipeToDelete) {
+  auto s = counter();
+  time(*s, 0s, 40s);
+  time(*s, 300s, 45s);
+  time(*s, 290s, 50s);
+  time(*s, 280s, 55s);
+  Value page = s->view()["page"];
+  EXPECT_EQ((*child(page, "text"))["regim"].intValue(), 3);
+  EXPECT_EQ((*child(page, "text"))["text"].text().rfind("Внимание! Частота схваток", 0), 0u);
+
+  // A pause of more than an hour opens a second group.
+  time(*s, 3601s, 30s);
+  page = s->view()["page"];
+  ASSERT_TRUE(child(page, "section", 1));
+  const Value& lastGroup = *child(page, "list", 1);
+  ASSERT_EQ(lastGroup["rows"].asList()->size(), 1u);
+  const Value& row = lastGroup["rows"].asList()->at(0);
+  EXPECT_EQ(row["caption"].text(), "00:30");
+  EXPECT_NE(row["comment"].text().find("первая схватка в группе"), std::string::npos);
+  const Value& second = (*child(page, "list"))["rows"].asList()->at(1);
+  EXPECT_NE(second["comment"].text().find("через 05:00"), std::string::npos);
+
+  // Deleting the only contraction of a group removes its section.
+  ASSERT_TRUE(tap(*s, row["deleteTarget"].text()).ok());
+  page = s->view()["page"];
+  EXPECT_FALSE(child(page, "section", 1));
+  EXPECT_EQ((*child(page, "list"))["rows"].asList()->size(), 4u);
+  EXPECT_FALSE(tap(*s, std::string(kContractionDelete) + "x1").ok());
+  EXPECT_FALSE(tap(*s, "contractions:nothing").ok());
+
+  ASSERT_TRUE(tap(*s, kContractionClose).ok());
+  EXPECT_EQ(s->frontPage(), std::nullopt);  // closing the page uncovers the menu
+  EXPECT_EQ(s->view()["kind"].text(), "page");
+}
+
+}  // namespace
+}  // namespace lad::shell
