@@ -16,7 +16,7 @@ const root = document.getElementById('app') ?? document.body;
 let newest = 0; // number of the newest request; answers to older ones are dropped
 let viewportSent = false;
 let activated = false;
-let tapping = false;
+let pendingTaps = 0; // taps sent or waiting: they go out one by one, in order
 let tiltOn = false;
 let listening = false;
 let retryDelay = RETRY_FIRST_MS;
@@ -82,18 +82,23 @@ function startListening(): void {
   listen({ refresh: () => void request(fetchView), notice: showNotice, reconnected: () => void sync() });
 }
 
-async function tap(control: HTMLElement): Promise<void> {
+let tapChain: Promise<unknown> = Promise.resolve();
+
+/** Queues the tap behind those still under way, so quick taps (a code typed fast) all arrive,
+ *  in order; a tap the new screen no longer has is refused by the server. */
+function tap(control: HTMLElement): void {
   const id = control.dataset.id;
-  if (tapping || id === undefined || control.classList.contains('disabled')) return;
-  tapping = true;
+  if (id === undefined || control.classList.contains('disabled')) return;
+  const value = popupValueOf(control);
+  const event: ClientEvent = value === undefined ? { type: 'tap', target: id } : { type: 'tap', target: id, value };
+  pendingTaps += 1;
   root.classList.add('busy');
-  try {
-    const value = popupValueOf(control);
-    await send(value === undefined ? { type: 'tap', target: id } : { type: 'tap', target: id, value });
-  } finally {
-    tapping = false;
-    root.classList.remove('busy');
-  }
+  tapChain = tapChain
+    .then(() => send(event))
+    .finally(() => {
+      pendingTaps -= 1;
+      if (pendingTaps === 0) root.classList.remove('busy');
+    });
 }
 
 /** The row or button that a click or key press is meant for. */
@@ -105,14 +110,14 @@ function controlOf(target: EventTarget | null): HTMLElement | null {
 
 root.addEventListener('click', (event) => {
   const control = controlOf(event.target);
-  if (control) void tap(control);
+  if (control) tap(control);
 });
 root.addEventListener('keydown', (event) => {
   const control = controlOf(event.target);
   // Buttons turn Enter and Space into clicks themselves.
   if (control && control.tagName !== 'BUTTON' && (event.key === 'Enter' || event.key === ' ')) {
     event.preventDefault();
-    void tap(control);
+    tap(control);
   }
 });
 // Showing and hiding the page is what activates and deactivates the program.
@@ -127,7 +132,7 @@ onViewportChange(() => {
 window.addEventListener('online', () => void sync());
 followDrags(root, (offset, width) => void send({ type: 'drag', offset, width }));
 followTilt(
-  () => tiltOn && !tapping,
+  () => tiltOn && pendingTaps === 0,
   (x, upsideDown) => void send({ type: 'tilt', x, upsideDown }),
 );
 if ('serviceWorker' in navigator) void navigator.serviceWorker.register('/sw.js');
