@@ -2,20 +2,8 @@
 // the server's test clock, the charts and the trend message drawn, a row swiped away.
 //   node tests/e2e/contractions.test.mjs --server PATH_TO_SERVER --out SCREENSHOT_DIR
 import assert from 'node:assert/strict';
-import fs from 'node:fs';
-import os from 'node:os';
 import path from 'node:path';
-import { parseArgs } from 'node:util';
-import { chromium } from 'playwright-core';
-import {
-  CHROMIUM_ARGS,
-  PHONE,
-  STEP_TIMEOUT_MS,
-  freePort,
-  startServer,
-  stopServer,
-  waitUntilServing,
-} from './harness.mjs';
+import { PHONE, STEP_TIMEOUT_MS, runBrowserTest } from './harness.mjs';
 
 const TOO_FEW = 'Данных мало. Нужно минимум 4 схватки (3 интервала между ними), чтобы начать определение тенденции.';
 const NO_DATA = 'Пока нет данных для отображения графиков. Нажмите на кнопку СТАРТ при начале схватки.';
@@ -112,36 +100,7 @@ async function checkCounter(browser, base, outDir) {
   await context.close();
 }
 
-async function main() {
-  const { values } = parseArgs({ options: { server: { type: 'string' }, out: { type: 'string' } } });
-  if (!values.server || !values.out) {
-    console.error('usage: node tests/e2e/contractions.test.mjs --server PATH --out DIR');
-    process.exit(2);
-  }
-  fs.mkdirSync(values.out, { recursive: true });
-  const dataDir = fs.mkdtempSync(path.join(os.tmpdir(), 'ladaneya-e2e-contractions-'));
-  let server = null;
-  let browser = null;
-  try {
-    const port = await freePort();
-    const base = `http://127.0.0.1:${port}`;
-    const env = { ...process.env, LADANEYA_TEST_MODE: '1' };
-    server = startServer(path.resolve(values.server), dataDir, port, 'ru', ['--fake-clock'], env);
-    await waitUntilServing(server, base);
-    browser = await chromium.launch({ executablePath: '/usr/bin/chromium', args: CHROMIUM_ARGS });
-    await checkCounter(browser, base, values.out);
-    await stopServer(server);
-    console.log('contractions: 1 passed, 0 failed');
-  } catch (error) {
-    console.error(`contractions: FAILED: ${error.message}`);
-    if (server?.log) console.error(`--- server output (last part) ---\n${server.log}`);
-    console.log('contractions: 0 passed, 1 failed');
-    process.exitCode = 1;
-  } finally {
-    await browser?.close().catch(() => {});
-    if (server && !server.exit) server.child.kill('SIGKILL');
-    fs.rmSync(dataDir, { recursive: true, force: true });
-  }
-}
-
-await main();
+await runBrowserTest('contractions', ({ browser, base, outDir }) => checkCounter(browser, base, outDir), {
+  extraArgs: ['--fake-clock'],
+  env: { ...process.env, LADANEYA_TEST_MODE: '1' },
+});

@@ -1,7 +1,12 @@
 // What the browser tests share: starting and stopping the server, and the browser's settings.
 import assert from 'node:assert/strict';
 import { spawn } from 'node:child_process';
+import fs from 'node:fs';
 import net from 'node:net';
+import os from 'node:os';
+import path from 'node:path';
+import { parseArgs } from 'node:util';
+import { chromium } from 'playwright-core';
 
 export const CHROMIUM_ARGS = [
   '--headless',
@@ -74,4 +79,49 @@ export async function stopServer(server) {
   const exit = await Promise.race([server.exited, sleep(STOP_TIMEOUT_MS).then(() => null)]);
   if (!exit) throw new Error(`server still running ${STOP_TIMEOUT_MS / 1000} s after SIGTERM`);
   assert.deepEqual(exit, { code: 0, signal: null }, 'server exit after SIGTERM');
+}
+
+/**
+ * Runs one browser test file: reads `--server PATH --out DIR`, starts the server on a fresh data
+ * folder and a free port, launches the browser, and calls `check({ browser, base, outDir,
+ * executable, server })`. Reports "<name>: 1 passed, 0 failed" or the failure with the server's
+ * last output, stops the server cleanly and removes the data folder.
+ */
+export async function runBrowserTest(name, check, { lang = 'ru', extraArgs = [], env = process.env } = {}) {
+  const { values } = parseArgs({ options: { server: { type: 'string' }, out: { type: 'string' } } });
+  if (!values.server || !values.out) {
+    console.error(`usage: node tests/e2e/${name}.test.mjs --server PATH --out DIR`);
+    process.exit(2);
+  }
+  fs.mkdirSync(values.out, { recursive: true });
+  const executable = path.resolve(values.server);
+  const dataDir = fs.mkdtempSync(path.join(os.tmpdir(), `ladaneya-e2e-${name}-`));
+  let server = null;
+  let browser = null;
+  const cleanup = () => {
+    if (server && !server.exit) server.child.kill('SIGKILL');
+    fs.rmSync(dataDir, { recursive: true, force: true });
+  };
+  process.once('SIGINT', () => {
+    cleanup();
+    process.exit(130);
+  });
+  try {
+    const port = await freePort();
+    const base = `http://127.0.0.1:${port}`;
+    server = startServer(executable, dataDir, port, lang, extraArgs, env);
+    await waitUntilServing(server, base);
+    browser = await chromium.launch({ executablePath: '/usr/bin/chromium', args: CHROMIUM_ARGS });
+    await check({ browser, base, outDir: values.out, executable, server });
+    if (!server.exit) await stopServer(server);
+    console.log(`${name}: 1 passed, 0 failed`);
+  } catch (error) {
+    console.error(`${name}: FAILED: ${error.message}`);
+    if (server?.log) console.error(`--- server output (last part) ---\n${server.log}`);
+    console.log(`${name}: 0 passed, 1 failed`);
+    process.exitCode = 1;
+  } finally {
+    await browser?.close().catch(() => {});
+    cleanup();
+  }
 }

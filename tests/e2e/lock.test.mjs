@@ -4,9 +4,7 @@ import assert from 'node:assert/strict';
 import fs from 'node:fs';
 import os from 'node:os';
 import path from 'node:path';
-import { parseArgs } from 'node:util';
-import { chromium } from 'playwright-core';
-import { CHROMIUM_ARGS, PHONE, freePort, startServer, stopServer, waitUntilServing } from './harness.mjs';
+import { PHONE, freePort, runBrowserTest, startServer } from './harness.mjs';
 
 const CODE = '1357';
 const PASSWORD_SWITCH = 'menu:52';
@@ -66,45 +64,20 @@ async function refusedWithoutPassword(executable) {
   }
 }
 
-async function main() {
-  const { values } = parseArgs({ options: { server: { type: 'string' }, out: { type: 'string' } } });
-  if (!values.server || !values.out) {
-    console.error('usage: node tests/e2e/lock.test.mjs --server PATH --out DIR');
-    process.exit(2);
-  }
-  fs.mkdirSync(values.out, { recursive: true });
-  await refusedWithoutPassword(values.server);
-  const dataDir = fs.mkdtempSync(path.join(os.tmpdir(), 'ladaneya-e2e-lock-'));
-  const port = await freePort();
-  const base = `http://127.0.0.1:${port}`;
-  const server = startServer(values.server, dataDir, port);
-  const browser = await chromium.launch({ executablePath: '/usr/bin/chromium', args: CHROMIUM_ARGS });
-  try {
-    await waitUntilServing(server, base);
-    const context = await browser.newContext(PHONE);
-    const page = await context.newPage();
-    page.setDefaultTimeout(10000);
-    const errors = [];
-    page.on('pageerror', (error) => errors.push(error.message));
-    await page.goto(`${base}/`);
-    await page.waitForSelector('.welcome');
-    await page.tap('.welcome-footer button');
-    await page.waitForSelector('.row[data-id]');
-    await turnLockOn(page, values.out);
-    await unlockAfterReload(page, values.out);
-    await changeBackground(page, values.out);
-    assert.deepEqual(errors, [], 'no uncaught errors in the page');
-    await context.close();
-    await stopServer(server);
-    console.log('lock and background: ok');
-  } catch (error) {
-    console.error(server.log);
-    throw error;
-  } finally {
-    await browser.close();
-    if (!server.exit) server.child.kill('SIGKILL');
-    fs.rmSync(dataDir, { recursive: true, force: true });
-  }
-}
-
-await main();
+await runBrowserTest('lock', async ({ browser, base, outDir, executable }) => {
+  await refusedWithoutPassword(executable);
+  const context = await browser.newContext(PHONE);
+  const page = await context.newPage();
+  page.setDefaultTimeout(10000);
+  const errors = [];
+  page.on('pageerror', (error) => errors.push(error.message));
+  await page.goto(`${base}/`);
+  await page.waitForSelector('.welcome');
+  await page.tap('.welcome-footer button');
+  await page.waitForSelector('.row[data-id]');
+  await turnLockOn(page, outDir);
+  await unlockAfterReload(page, outDir);
+  await changeBackground(page, outDir);
+  assert.deepEqual(errors, [], 'no uncaught errors in the page');
+  await context.close();
+});

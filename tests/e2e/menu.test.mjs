@@ -4,9 +4,7 @@ import assert from 'node:assert/strict';
 import fs from 'node:fs';
 import os from 'node:os';
 import path from 'node:path';
-import { parseArgs } from 'node:util';
-import { chromium } from 'playwright-core';
-import { CHROMIUM_ARGS, PHONE, freePort, sleep, startServer, stopServer, waitUntilServing } from './harness.mjs';
+import { PHONE, freePort, runBrowserTest, sleep, startServer, stopServer, waitUntilServing } from './harness.mjs';
 
 const PREGNANCY_MENU = [
   'Сегодня',
@@ -289,45 +287,10 @@ async function checkInBrowser(browser, base, outDir) {
   assert.deepEqual(errors, [], 'no uncaught errors in the page');
 }
 
-async function main() {
-  const { values } = parseArgs({ options: { server: { type: 'string' }, out: { type: 'string' } } });
-  if (!values.server || !values.out) {
-    console.error('usage: node tests/e2e/menu.test.mjs --server PATH --out DIR');
-    process.exit(2);
-  }
-  fs.mkdirSync(values.out, { recursive: true });
-  const dataDir = fs.mkdtempSync(path.join(os.tmpdir(), 'ladaneya-e2e-'));
-  let server = null;
-  let browser = null;
-  const cleanup = () => {
-    if (server && !server.exit) server.child.kill('SIGKILL');
-    fs.rmSync(dataDir, { recursive: true, force: true });
-  };
-  process.once('SIGINT', () => {
-    cleanup();
-    process.exit(130);
-  });
-  try {
-    const port = await freePort();
-    const base = `http://127.0.0.1:${port}`;
-    server = startServer(path.resolve(values.server), dataDir, port);
-    await waitUntilServing(server, base);
-    await checkManifest(base);
-    await checkMalformedEvent(base);
-    browser = await chromium.launch({ executablePath: '/usr/bin/chromium', args: CHROMIUM_ARGS });
-    await checkInBrowser(browser, base, values.out);
-    await stopServer(server);
-    await checkGerman(browser, path.resolve(values.server), values.out);
-    console.log('menu: 1 passed, 0 failed');
-  } catch (error) {
-    console.error(`menu: FAILED: ${error.message}`);
-    if (server?.log) console.error(`--- server output (last part) ---\n${server.log}`);
-    console.log('menu: 0 passed, 1 failed');
-    process.exitCode = 1;
-  } finally {
-    await browser?.close().catch(() => {});
-    cleanup();
-  }
-}
-
-await main();
+await runBrowserTest('menu', async ({ browser, base, outDir, executable, server }) => {
+  await checkManifest(base);
+  await checkMalformedEvent(base);
+  await checkInBrowser(browser, base, outDir);
+  await stopServer(server);
+  await checkGerman(browser, executable, outDir);
+});

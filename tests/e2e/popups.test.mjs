@@ -3,12 +3,8 @@
 // the form the session sends it, so the test needs no screen that opens one.
 //   node tests/e2e/popups.test.mjs --server PATH_TO_SERVER --out SCREENSHOT_DIR
 import assert from 'node:assert/strict';
-import fs from 'node:fs';
-import os from 'node:os';
 import path from 'node:path';
-import { parseArgs } from 'node:util';
-import { chromium } from 'playwright-core';
-import { CHROMIUM_ARGS, PHONE, freePort, startServer, stopServer, waitUntilServing } from './harness.mjs';
+import { PHONE, runBrowserTest } from './harness.mjs';
 
 const STEP_TIMEOUT_MS = 10000;
 
@@ -118,35 +114,4 @@ async function checkInBrowser(browser, base, outDir) {
   await context.close();
 }
 
-async function main() {
-  const { values } = parseArgs({ options: { server: { type: 'string' }, out: { type: 'string' } } });
-  if (!values.server || !values.out) {
-    console.error('usage: node tests/e2e/popups.test.mjs --server PATH --out DIR');
-    process.exit(2);
-  }
-  fs.mkdirSync(values.out, { recursive: true });
-  const dataDir = fs.mkdtempSync(path.join(os.tmpdir(), 'ladaneya-e2e-popups-'));
-  let server = null;
-  let browser = null;
-  try {
-    const port = await freePort();
-    const base = `http://127.0.0.1:${port}`;
-    server = startServer(path.resolve(values.server), dataDir, port);
-    await waitUntilServing(server, base);
-    browser = await chromium.launch({ executablePath: '/usr/bin/chromium', args: CHROMIUM_ARGS });
-    await checkInBrowser(browser, base, values.out);
-    await stopServer(server);
-    console.log('popups: 1 passed, 0 failed');
-  } catch (error) {
-    console.error(`popups: FAILED: ${error.message}`);
-    if (server?.log) console.error(`--- server output (last part) ---\n${server.log}`);
-    console.log('popups: 0 passed, 1 failed');
-    process.exitCode = 1;
-  } finally {
-    await browser?.close().catch(() => {});
-    if (server && !server.exit) server.child.kill('SIGKILL');
-    fs.rmSync(dataDir, { recursive: true, force: true });
-  }
-}
-
-await main();
+await runBrowserTest('popups', ({ browser, base, outDir }) => checkInBrowser(browser, base, outDir));
