@@ -1,11 +1,11 @@
 #include "drawing/render.h"
 
 #include <cairo-pdf.h>
-#include <cairo-svg.h>
 
 #include <cmath>
 
 #include "drawing/cairo_canvas.h"
+#include "drawing/svg_canvas.h"
 
 namespace lad::draw {
 
@@ -38,12 +38,9 @@ bool finish(cairo_surface_t* surface, bool ok) {
 }  // namespace
 
 std::string renderSvg(Size size, const Painter& paint) {
-  std::string out;
-  out.reserve(1 << 18);  // a chart of a few hundred points, without regrowing
-  cairo_surface_t* surface =
-      cairo_svg_surface_create_for_stream(appendToString, &out, size.w, size.h);
-  if (!finish(surface, paintOn(surface, 1, paint))) return {};
-  return out;
+  SvgCanvas canvas(size);
+  paint(canvas);
+  return canvas.document();
 }
 
 std::optional<std::string> renderPng(Size size, double scale, const Painter& paint) {

@@ -24,5 +24,31 @@ TEST(TextMeasure, SizeFollowsTextFontAndWidth) {
   EXPECT_GT(wrapped.h, two.h * 1.5);
 }
 
+TEST(TextMeasure, BreaksAtLineFeedsAndBetweenWordsInTheWidth) {
+  const Font f{9, false};
+  const auto one = breakText("двадцать два", f);
+  ASSERT_EQ(one.size(), 1u);
+  EXPECT_EQ(one[0].text, "двадцать два");
+  EXPECT_GT(one[0].baseline, 0);
+  EXPECT_LT(one[0].baseline, measureText("22", f).h);
+
+  const auto fed = breakText("22\n\n33", f);
+  ASSERT_EQ(fed.size(), 3u);
+  EXPECT_EQ(fed[0].text, "22");
+  EXPECT_EQ(fed[1].text, "");
+  EXPECT_EQ(fed[2].text, "33");
+  EXPECT_NEAR(fed[2].baseline - fed[0].baseline, 2 * measureText("22", f).h, 0.01);
+
+  // A width that holds two words: the four words go two to a line, as measured.
+  const std::string text = "двадцать два двадцать два";
+  const double width = measureText("двадцать два", f).w + 2;
+  const auto wrapped = breakText(text, f, width);
+  ASSERT_EQ(wrapped.size(), 2u);
+  EXPECT_EQ(wrapped[0].text, "двадцать два ");
+  EXPECT_EQ(wrapped[1].text, "двадцать два");
+  EXPECT_NEAR(wrapped[1].baseline + measureText("22", f).h - wrapped[0].baseline,
+              measureText(text, f, width).h, 0.01);
+}
+
 }  // namespace
 }  // namespace lad::draw
