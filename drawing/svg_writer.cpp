@@ -51,13 +51,15 @@ int channel(double v) {
 }  // namespace
 
 void appendNumber(std::string& out, double v) {
-  if (!std::isfinite(v)) v = 0;
-  if (std::fabs(v) < 0.0005) v = 0;  // no "-0"
+  // Far beyond any drawing, and within what fits the buffer.
+  constexpr double kLimit = 1e9;
+  v = std::isfinite(v) ? std::clamp(v, -kLimit, kLimit) : 0;
   char buf[32];
   char* end = std::to_chars(buf, buf + sizeof buf, v, std::chars_format::fixed, 3).ptr;
   while (end[-1] == '0') --end;
   if (end[-1] == '.') --end;
-  out.append(buf, end);
+  const std::string_view text(buf, static_cast<std::size_t>(end - buf));
+  out += text == "-0" ? "0" : text;
 }
 
 void appendAttribute(std::string& out, std::string_view name, double value) {
