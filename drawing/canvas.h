@@ -1,5 +1,5 @@
-// The one drawing surface of the system. Charts and pages paint through it; back ends render to
-// SVG, PNG and PDF (cairo) or keep every command for tests (recording).
+// The one drawing surface of the system. Charts and pages paint through it; back ends write SVG
+// directly, render PNG and PDF through cairo, or keep every command for tests (recording).
 #pragma once
 
 #include <string>
