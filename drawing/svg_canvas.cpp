@@ -1,5 +1,7 @@
 #include "drawing/svg_canvas.h"
 
+#include <atomic>
+#include <cstdint>
 #include <fstream>
 #include <iterator>
 
@@ -69,8 +71,10 @@ std::optional<Bytes> readFile(const std::string& file) {
 
 SvgCanvas::SvgCanvas(Size size) : size_(size) {}
 
+// Ids are unique in the whole process, so that several drawings can stand in one page.
 std::string SvgCanvas::nextId(char kind) {
-  return kind + std::to_string(ids_++);
+  static std::atomic<std::uint64_t> next{0};
+  return std::string("lad-") + kind + std::to_string(next++);
 }
 
 // SVG paints over what is there and cannot erase, so what was painted before goes under a mask

@@ -32,7 +32,6 @@ class SvgCanvas : public Canvas {
   Size size_;
   std::string defs_;
   std::string body_;
-  int ids_ = 0;
 };
 
 }  // namespace lad::draw

@@ -72,7 +72,9 @@ async function checkCounter(browser, base, outDir) {
   await page.goto(`${base}/?shortcut=SCHVATKI`);
   await page.waitForSelector('[data-info="trend"]');
   assert.equal(await trendText(page), NO_DATA, 'an empty counter asks for the first contraction');
-  const charts = await page.$$eval('.ring-page img.chart', (imgs) => imgs.map((img) => img.complete && img.naturalWidth > 0));
+  const charts = await page.$$eval('.ring-page .chart', (boxes) =>
+    boxes.map((box) => (box.querySelector('svg')?.getBoundingClientRect().width ?? 0) > 0),
+  );
   assert.deepEqual(charts, [true, true], 'both charts are drawn');
 
   await timeOne(page, 0, 40);

@@ -213,15 +213,23 @@ function renderText(node: TextNode): HTMLElement {
   return text;
 }
 
-/** Shown as an image, so that nothing in the drawing can run as part of the page. */
+/**
+ * The drawing goes into the page itself, so that its texts use the page's web font, which the
+ * server measured them with. The server writes only shapes, pictures as data and escaped text;
+ * a parser error or a foreign root leaves the slot empty.
+ */
 function renderSvg(node: SvgNode): HTMLElement {
-  const img = element('img', 'chart');
-  img.dataset.chart = node.id;
-  img.alt = '';
-  img.width = Math.round(node.width);
-  img.height = Math.round(node.height);
-  img.src = `data:image/svg+xml;charset=utf-8,${encodeURIComponent(node.svg)}`;
-  return img;
+  const box = element('div', 'chart');
+  box.dataset.chart = node.id;
+  box.style.width = `${Math.round(node.width)}px`;
+  box.style.height = `${Math.round(node.height)}px`;
+  const root = new DOMParser().parseFromString(node.svg, 'image/svg+xml').documentElement;
+  if (root.namespaceURI === 'http://www.w3.org/2000/svg' && root.localName === 'svg') {
+    root.setAttribute('width', '100%');
+    root.setAttribute('height', '100%');
+    box.append(document.importNode(root, true));
+  }
+  return box;
 }
 
 function renderTimer(node: TimerNode): HTMLElement {
