@@ -146,9 +146,7 @@ Value Session::ringView() {
   Map ring;
   ring.set("kind", "ring");
   ring.set("page", page_->view());
-  if (auto back = ring_.back(); back && *back != *ring_.front())
-    if (auto next = makePage(*back, app_, menu_.activeId(), metrics_.scaleX))
-      ring.set("next", next->view());
+  if (next_) ring.set("next", next_->view());
   ring.set("menu", menu_.view());
   ring.set("toMenu", std::string(kToMenu));
   return Value(std::move(ring));
@@ -163,6 +161,10 @@ EventResult Session::openTab(int page) {
     pageProfile_ = menu_.activeId();
   }
   page_ = std::move(screen);
+  // The page behind is prepared once, as the front one comes; it is rebuilt when it comes next.
+  const auto back = ring_.back();
+  next_ =
+      back && *back != page ? makePage(*back, app_, menu_.activeId(), metrics_.scaleX) : nullptr;
   return {};
 }
 
@@ -174,6 +176,7 @@ void Session::gotoNextPage() {
 void Session::gotoMenu() {
   ring_.gotoMenu();
   page_.reset();
+  next_.reset();
   menu_.updateMenu();
 }
 

@@ -84,6 +84,7 @@ class Session {
   MainMenu menu_;
   PageRing ring_;
   std::shared_ptr<Screen> page_;  // the screen of the front page
+  std::shared_ptr<Screen> next_;  // the page waiting behind it, when it is another one
   std::string pageProfile_;       // the profile the pages were last opened for
   TiltNavigator tilt_;
   std::optional<WelcomeScreen> welcome_;
