@@ -72,13 +72,9 @@ std::optional<int> parseTarget(std::string_view target) {
   return id;
 }
 
-bool isPage(int id) {
-  return id > 0 && id < kFirstNonPageId;
-}
-
 bool isBuilt(int id) {
   const SwitchSetting* sw = switchFor(id);
-  return (sw && sw->built) || (isPage(id) && builtPages().count(id));
+  return (sw && sw->built) || (isPageId(id) && builtPages().count(id));
 }
 
 // Rows that belong to an open profile, as opposed to the common ones.

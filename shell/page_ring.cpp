@@ -10,8 +10,7 @@ std::vector<int> PageRing::pagesOf(const List& menu, const std::set<int>& built)
   std::vector<int> pages;
   for (const Value& item : menu) {
     const int id = static_cast<int>(item["id"].intValue());
-    if (item["tp"].intValue() == kMenuPage && id > 0 && id < kFirstNonPageId && built.count(id))
-      pages.push_back(id);
+    if (item["tp"].intValue() == kMenuPage && isPageId(id) && built.count(id)) pages.push_back(id);
   }
   return pages;
 }

@@ -13,6 +13,10 @@ namespace lad::shell {
 // Menu ids below this are pages; the ones above are commands and switches.
 inline constexpr int kFirstNonPageId = 21;
 
+inline bool isPageId(int id) {
+  return id > 0 && id < kFirstNonPageId;
+}
+
 class PageRing {
  public:
   // The pages of the menu in its order, of those that this build has screens for.

@@ -5,13 +5,6 @@
 
 namespace lad::shell {
 
-namespace {
-
-constexpr int kTitlePage = 3;
-constexpr int kContractionsPage = 6;
-
-}  // namespace
-
 const std::set<int>& builtPages() {
   static const std::set<int> pages{kTitlePage, kContractionsPage};
   return pages;

@@ -10,6 +10,9 @@
 
 namespace lad::shell {
 
+inline constexpr int kTitlePage = 3;
+inline constexpr int kContractionsPage = 6;
+
 // Page ids (menu ids below 21) with a screen in this build.
 const std::set<int>& builtPages();
 

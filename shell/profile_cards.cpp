@@ -33,7 +33,6 @@ std::string sexIcon(const Value& sex) {
 Map stateSetup(const Map& profile) {
   Map setup;
   setup.set("dat1", profile["sdat1"]);
-  setup.set("dat2", Value());
   setup.set("birthdate", profile["sbirthdate"]);
   return setup;
 }

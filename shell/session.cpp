@@ -25,7 +25,6 @@ bool isShortcut(const std::string& name) {
 }
 
 constexpr std::string_view kToMenu = "ring:menu";
-constexpr int kContractionsPage = 6;
 // Pages that depend on the profile rebuild when another profile opens them.
 constexpr int kFirstProfilePage = 16, kLastProfilePage = 18;
 

@@ -2,14 +2,13 @@
 
 #include "core/menu_table.h"
 #include "health/pregnancy_calendar.h"
+#include "shell/pages.h"
 #include "shell/view.h"
 #include "store/setup_data.h"
 
 namespace lad::shell {
 
 namespace {
-
-constexpr int kTitlePage = 3;
 
 std::string pageCaption(const Context& context) {
   const Map* row = menuRow(context.values().tabMenu, kTitlePage);

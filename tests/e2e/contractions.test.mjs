@@ -3,7 +3,7 @@
 //   node tests/e2e/contractions.test.mjs --server PATH_TO_SERVER --out SCREENSHOT_DIR
 import assert from 'node:assert/strict';
 import path from 'node:path';
-import { PHONE, STEP_TIMEOUT_MS, runBrowserTest } from './harness.mjs';
+import { openPastGreeting, runBrowserTest } from './harness.mjs';
 
 const TOO_FEW = 'Данных мало. Нужно минимум 4 схватки (3 интервала между ними), чтобы начать определение тенденции.';
 const NO_DATA = 'Пока нет данных для отображения графиков. Нажмите на кнопку СТАРТ при начале схватки.';
@@ -59,15 +59,7 @@ async function timeOne(page, pause, length) {
 }
 
 async function checkCounter(browser, base, outDir) {
-  const context = await browser.newContext(PHONE);
-  const page = await context.newPage();
-  page.setDefaultTimeout(STEP_TIMEOUT_MS);
-  const errors = [];
-  page.on('pageerror', (error) => errors.push(error.message));
-  await page.goto(`${base}/`);
-  await page.waitForSelector('.welcome');
-  await page.tap('.welcome-footer button');
-  await page.waitForSelector('.row[data-id]');
+  const { context, page, errors } = await openPastGreeting(browser, base);
 
   await page.goto(`${base}/?shortcut=SCHVATKI`);
   await page.waitForSelector('[data-info="trend"]');

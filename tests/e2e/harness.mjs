@@ -81,6 +81,21 @@ export async function stopServer(server) {
   assert.deepEqual(exit, { code: 0, signal: null }, 'server exit after SIGTERM');
 }
 
+/** A phone-sized page of a new installation with its greeting closed, and the page errors it
+ *  collects. */
+export async function openPastGreeting(browser, base) {
+  const context = await browser.newContext(PHONE);
+  const page = await context.newPage();
+  page.setDefaultTimeout(STEP_TIMEOUT_MS);
+  const errors = [];
+  page.on('pageerror', (error) => errors.push(error.message));
+  await page.goto(`${base}/`);
+  await page.waitForSelector('.welcome');
+  await page.tap('.welcome-footer button');
+  await page.waitForSelector('.row[data-id]');
+  return { context, page, errors };
+}
+
 /**
  * Runs one browser test file: reads `--server PATH --out DIR`, starts the server on a fresh data
  * folder and a free port, launches the browser, and calls `check({ browser, base, outDir,

@@ -4,7 +4,7 @@ import assert from 'node:assert/strict';
 import fs from 'node:fs';
 import os from 'node:os';
 import path from 'node:path';
-import { PHONE, freePort, runBrowserTest, startServer } from './harness.mjs';
+import { freePort, openPastGreeting, runBrowserTest, startServer } from './harness.mjs';
 
 const CODE = '1357';
 const PASSWORD_SWITCH = 'menu:52';
@@ -66,15 +66,7 @@ async function refusedWithoutPassword(executable) {
 
 await runBrowserTest('lock', async ({ browser, base, outDir, executable }) => {
   await refusedWithoutPassword(executable);
-  const context = await browser.newContext(PHONE);
-  const page = await context.newPage();
-  page.setDefaultTimeout(10000);
-  const errors = [];
-  page.on('pageerror', (error) => errors.push(error.message));
-  await page.goto(`${base}/`);
-  await page.waitForSelector('.welcome');
-  await page.tap('.welcome-footer button');
-  await page.waitForSelector('.row[data-id]');
+  const { context, page, errors } = await openPastGreeting(browser, base);
   await turnLockOn(page, outDir);
   await unlockAfterReload(page, outDir);
   await changeBackground(page, outDir);

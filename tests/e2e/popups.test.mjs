@@ -4,9 +4,7 @@
 //   node tests/e2e/popups.test.mjs --server PATH_TO_SERVER --out SCREENSHOT_DIR
 import assert from 'node:assert/strict';
 import path from 'node:path';
-import { PHONE, runBrowserTest } from './harness.mjs';
-
-const STEP_TIMEOUT_MS = 10000;
+import { openPastGreeting, runBrowserTest } from './harness.mjs';
 
 const MENU = {
   kind: 'popupMenu',
@@ -97,14 +95,7 @@ async function checkWheels(page, state, outDir) {
 }
 
 async function checkInBrowser(browser, base, outDir) {
-  const context = await browser.newContext(PHONE);
-  const page = await context.newPage();
-  page.setDefaultTimeout(STEP_TIMEOUT_MS);
-  const errors = [];
-  page.on('pageerror', (error) => errors.push(error.message));
-  await page.goto(`${base}/`);
-  await page.tap('.welcome-footer button');
-  await page.waitForSelector('.row[data-id]');
+  const { context, page, errors } = await openPastGreeting(browser, base);
   const state = { popup: null, taps: [] };
   await overlayPopups(page, state);
   await checkMenu(page, state, outDir);
