@@ -15,6 +15,11 @@ struct Edition {
 // The edition of an appid; nullptr for a number that is no edition.
 const Edition* editionFor(int appid);
 
+// The two pregnancy editions (plain and 3D) share their profiles and dialogs.
+constexpr bool isPregnancyEdition(int appid) {
+  return appid == 1 || appid == 14;
+}
+
 // Language numbers of the interface: 1 Russian, 2 German, 3 French.
 int langidFromCode(const std::string& code);  // 0 for an unknown code
 

@@ -42,7 +42,7 @@ Value shortcut(const Context& context, const Shortcut& s) {
 }  // namespace
 
 Value webAppManifest(const Context& context) {
-  const bool pregnancy = context.values().appid == 1 || context.values().appid == 14;
+  const bool pregnancy = isPregnancyEdition(context.values().appid);
   const std::string name = context.translate(context.edition().caption);
   List shortcuts;
   for (const Shortcut& s : kShortcuts)

@@ -1,6 +1,7 @@
 #include "shell/field_editor.h"
 
 #include "shell/detail_rows.h"
+#include "shell/editor_view.h"
 #include "shell/field_check.h"
 #include "store/editor_value.h"
 
@@ -70,12 +71,9 @@ std::optional<MessageBox> FieldEditor::commitNested() {
 }
 
 Value FieldEditor::view() const {
-  Map m;
-  m.set("kind", "editor");
-  m.set("caption", caption_);
-  m.set("rows", Value(rows_));
-  if (nested_) m.set("nested", nested_->editor.view());
-  return Value(std::move(m));
+  Value v = editorView(context_, caption_, rows_, previews_);
+  if (nested_) v.asMap()->set("nested", nested_->editor.view());
+  return v;
 }
 
 }  // namespace lad::shell

@@ -8,6 +8,7 @@
 #include <string>
 
 #include "core/context.h"
+#include "shell/editor_view.h"
 #include "shell/message_box.h"
 
 namespace lad::shell {
@@ -47,6 +48,7 @@ class FieldEditor {
   std::string caption_;
   List rows_;
   std::unique_ptr<Nested> nested_;
+  mutable PhotoPreviews previews_;
 };
 
 struct FieldEditor::Nested {

@@ -41,13 +41,6 @@ const SwitchSetting kSwitches[] = {
     {56, "showRec", &ProcessValues::showRec, false, true, kNoPage, 0ms},
 };
 
-// Rows that the session answers with a screen of its own (the background list, the lock).
-constexpr int kScreenRows[] = {42, 52};
-
-bool opensScreen(int id) {
-  return std::find(std::begin(kScreenRows), std::end(kScreenRows), id) != std::end(kScreenRows);
-}
-
 const SwitchSetting* switchFor(int id) {
   for (const auto& s : kSwitches)
     if (s.id == id) return &s;
@@ -72,17 +65,19 @@ std::optional<int> parseTarget(std::string_view target) {
   return id;
 }
 
-bool isBuilt(int id) {
-  const SwitchSetting* sw = switchFor(id);
-  return (sw && sw->built) || (isPageId(id) && builtPages().count(id));
-}
-
 // Rows that belong to an open profile, as opposed to the common ones.
-bool isProfileItem(const Value& item) {
+bool isProfileItem(const Map& item) {
   return item["gid"].text() == "LOCAL";
 }
 
-RowView rowOf(const Value& item) {
+}  // namespace
+
+bool MainMenu::isBuilt(int id) const {
+  const SwitchSetting* sw = switchFor(id);
+  return (sw && sw->built) || commands_.contains(id) || (isPageId(id) && builtPages().count(id));
+}
+
+RowView MainMenu::rowOf(const Value& item) const {
   const int id = static_cast<int>(item["id"].intValue());
   RowView row;
   row.id = menuTarget(id);
@@ -90,12 +85,10 @@ RowView rowOf(const Value& item) {
   row.caption = item["name"].text();
   row.comment = item["comment"].text();
   if (item["hint"].intValue() > 0) row.badge = item["hint"].text();
-  row.enabled = isBuilt(id) || opensScreen(id);
+  row.enabled = isBuilt(id);
   if (item["tp"].intValue() == kMenuSwitch) row.checked = item["checked"].boolValue();
   return row;
 }
-
-}  // namespace
 
 std::string menuTarget(int id) {
   return std::string(kTargetPrefix) + std::to_string(id);
@@ -107,8 +100,7 @@ void MainMenu::updateMenu() {
 }
 
 bool MainMenu::hasCards() const {
-  const int appid = context_.values().appid;
-  return appid == 1 || appid == 14;
+  return isPregnancyEdition(context_.values().appid);
 }
 
 // The cards, each open one followed by the items of its profile.
@@ -122,7 +114,7 @@ List MainMenu::cardViews() {
     activeFound = true;
     List rows;
     for (const Value& item : context_.values().tabMenu)
-      if (isProfileItem(item)) rows.push_back(rowOf(item).toValue());
+      if (isProfileItem(*item.asMap())) rows.push_back(rowOf(item).toValue());
     views.push_back(listView(std::move(rows)));
   }
   if (!activeFound) activeId_.clear();  // the open profile was removed
@@ -135,7 +127,7 @@ Value MainMenu::view() {
   List children = cards ? cardViews() : List();
   List rows;
   for (const Value& item : context_.values().tabMenu)
-    if (!cards || !isProfileItem(item)) rows.push_back(rowOf(item).toValue());
+    if (!cards || !isProfileItem(*item.asMap())) rows.push_back(rowOf(item).toValue());
   children.push_back(listView(std::move(rows)));
   return pageView(context_.translate(context_.edition().caption), std::move(children));
 }
@@ -143,12 +135,12 @@ Value MainMenu::view() {
 EventResult MainMenu::tap(std::string_view target) {
   if (const std::string guid = cardGuid(target); !guid.empty()) return tapCard(guid);
   auto id = parseTarget(target);
-  if (!id || !menuRow(context_.values().tabMenu, *id))
-    return EventResult::refused("no menu item " + std::string(target));
+  const Map* item = id ? menuRow(context_.values().tabMenu, *id) : nullptr;
+  if (!item) return EventResult::refused("no menu item " + std::string(target));
   if (!isBuilt(*id))
     return EventResult::refused("menu item " + std::string(target) +
                                 " is not available in this version");
-  return tapItem(*id);
+  return tapItem(*id, isProfileItem(*item));
 }
 
 EventResult MainMenu::tapCard(const std::string& guid) {
@@ -160,10 +152,11 @@ EventResult MainMenu::tapCard(const std::string& guid) {
   return EventResult::refused("no profile " + guid);
 }
 
-EventResult MainMenu::tapItem(int id) {
-  if (const SwitchSetting* sw = switchFor(id)) return toggleSwitch(*sw);
-  if (hasCards() && activeId_.empty())
+EventResult MainMenu::tapItem(int id, bool profileItem) {
+  if (const SwitchSetting* sw = switchFor(id); sw && sw->built) return toggleSwitch(*sw);
+  if (profileItem && hasCards() && activeId_.empty())
     return EventResult::refused("open a profile before its pages");
+  if (auto command = commands_.find(id); command != commands_.end()) return command->second();
   if (!openPage_) return EventResult::refused("pages cannot be opened here");
   return openPage_(id);
 }

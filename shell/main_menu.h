@@ -2,10 +2,12 @@
 #pragma once
 
 #include <functional>
+#include <map>
 #include <string>
 
 #include "core/context.h"
 #include "shell/screen.h"
+#include "shell/view.h"
 #include "store/store.h"
 
 namespace lad::shell {
@@ -18,6 +20,8 @@ class MainMenu : public Screen {
  public:
   // Brings a page of the ring to the front for the open profile.
   using PageOpener = std::function<EventResult(int page)>;
+  // A command row's action, given by the screen that owns what it opens.
+  using Command = std::function<EventResult()>;
 
   MainMenu(Context& context, Store& store) : context_(context), store_(store) {}
 
@@ -28,6 +32,8 @@ class MainMenu : public Screen {
   void updateMenu();
 
   void onOpenPage(PageOpener opener) { openPage_ = std::move(opener); }
+  // Rows with an action are enabled; the others wait for their screens.
+  void onCommand(int id, Command action) { commands_[id] = std::move(action); }
   // The open profile, or "" while every card is closed.
   const std::string& activeId() const { return activeId_; }
   void setActiveId(std::string gid) { activeId_ = std::move(gid); }
@@ -36,12 +42,15 @@ class MainMenu : public Screen {
   bool hasCards() const;
   List cardViews();
   EventResult tapCard(const std::string& guid);
-  EventResult tapItem(int id);
+  bool isBuilt(int id) const;
+  RowView rowOf(const Value& item) const;
+  EventResult tapItem(int id, bool profileItem);
   EventResult toggleSwitch(const SwitchSetting& s);
 
   Context& context_;
   Store& store_;
   PageOpener openPage_;
+  std::map<int, Command> commands_;
   std::string activeId_;
 };
 

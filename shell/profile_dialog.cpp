@@ -82,16 +82,30 @@ const Map* ProfileDialog::row(std::string_view field) const {
   return nullptr;
 }
 
-Value* ProfileDialog::source(std::string_view field) {
+Map* ProfileDialog::rowOf(std::string_view field) {
   for (Value& r : rows_)
-    if (r["field"].text() == field) return r.asMap()->find("source");
+    if (r["field"].text() == field) return r.asMap();
   return nullptr;
+}
+
+Value* ProfileDialog::source(std::string_view field) {
+  Map* row = rowOf(field);
+  return row ? row->find("source") : nullptr;
+}
+
+// The portrait is written or removed when the dialog is finished.
+void ProfileDialog::changePhoto(const Value& picture) {
+  enum PhotoSave { kWritePhoto = 1, kRemovePhoto = 2 };
+  Map* row = rowOf("photo");
+  row->set("image", picture);
+  row->set("save", picture.asBytes() ? kWritePhoto : kRemovePhoto);
 }
 
 std::optional<MessageBox> ProfileDialog::change(std::string_view field, const Value& value) {
   Value* target = source(field);
   if (!target) return std::nullopt;
   *target = value;
+  if (field == "photo") changePhoto(value);
   std::optional<MessageBox> refusal;
   for (const auto& [name, date] : kDateFields)
     if (field == name) correctDates(date, refusal);
@@ -121,9 +135,9 @@ void ProfileDialog::correctBodyIndex() {
     }
 }
 
-MessageBox ProfileDialog::removalQuestion() const {
-  return MessageBox::make(app_.context(), "Вы действительно хотите удалить эту учетную запись?",
-                          "Удаление");
+Question ProfileDialog::removalQuestion() const {
+  return Question::ask(app_.context(), "Вы действительно хотите удалить эту учетную запись?",
+                       "Удаление");
 }
 
 void ProfileDialog::confirmRemoval() {

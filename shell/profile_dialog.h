@@ -9,6 +9,7 @@
 #include "health/pregnancy_dates.h"
 #include "shell/application.h"
 #include "shell/message_box.h"
+#include "shell/question.h"
 
 namespace lad::shell {
 
@@ -28,11 +29,12 @@ class ProfileDialog {
   const Map* row(std::string_view field) const;
 
   // The user changed a field. Dates keep each other consistent and height and weight recount
-  // the body index; a refused conception date comes back as a message.
+  // the body index; a refused conception date comes back as a message. A new portrait comes
+  // as its bytes, and null takes the portrait away.
   std::optional<MessageBox> change(std::string_view field, const Value& source);
 
   // The question asked before a removal, and the removal it leads to on consent.
-  MessageBox removalQuestion() const;
+  Question removalQuestion() const;
   void confirmRemoval();
 
   // Saves (or removes) the profile and returns its guid; a new pregnancy gets its guid here.
@@ -40,7 +42,9 @@ class ProfileDialog {
   std::string finish(std::string* photoError = nullptr);
 
  private:
+  Map* rowOf(std::string_view field);
   Value* source(std::string_view field);
+  void changePhoto(const Value& picture);
   void correctDates(PregnancyDateField changed, std::optional<MessageBox>& refusal);
   void correctBodyIndex();
 

@@ -30,6 +30,10 @@ class Screen {
   virtual ~Screen() = default;
   virtual Value view() = 0;
   virtual EventResult tap(std::string_view target) = 0;
+  // The user changed the value of one of the screen's inputs.
+  virtual EventResult change(std::string_view target, const Value&) {
+    return EventResult::refused("this screen has no input " + std::string(target));
+  }
   // The screen asked to be closed by one of its own controls.
   virtual bool closed() const { return false; }
 };

@@ -2,9 +2,12 @@
 
 #include <algorithm>
 
+#include "core/ids.h"
 #include "shell/pages.h"
+#include "shell/profile_editor.h"
 #include "shell/theme.h"
 #include "shell/view.h"
+#include "shell/welcome_screen.h"
 #include "store/profiles.h"
 
 namespace lad::shell {
@@ -13,8 +16,10 @@ namespace {
 
 constexpr double kTabletShortSide = 600;  // CSS pixels
 constexpr double kLargestViewport = 100000;
-constexpr int kPasswordSwitch = 52;
+constexpr int kProfileSettingsRow = 22;
+constexpr int kNewProfileRow = 31;
 constexpr int kBackgroundRow = 42;
+constexpr int kPasswordSwitch = 52;
 
 bool isNumber(const Value& v) {
   return v.type() == Value::Type::Integer || v.type() == Value::Type::Double;
@@ -35,7 +40,61 @@ Session::Session(Application& app)
       menu_(app.context(), app.store()),
       ring_(PageRing::pagesOf(app.context().values().tabMenu, builtPages())) {
   menu_.onOpenPage([this](int page) { return openTab(page); });
+  addMenuCommands();
   if (passwordOn(app.context().settings())) showLock(LockMode::Check);
+}
+
+// The menu rows whose screens the session shows. The child's and the woman's settings are
+// other dialogs, so only the pregnancy editions take these two rows.
+void Session::addMenuCommands() {
+  if (isPregnancyEdition(app_.context().values().appid)) {
+    menu_.onCommand(kProfileSettingsRow, [this] {
+      showProfile(menu_.activeId());
+      return EventResult();
+    });
+    menu_.onCommand(kNewProfileRow, [this] {
+      showProfile(std::nullopt);
+      return EventResult();
+    });
+  }
+  menu_.onCommand(kBackgroundRow, [this] {
+    showBackgrounds();
+    return EventResult();
+  });
+  menu_.onCommand(kPasswordSwitch, [this] { return togglePassword(); });
+}
+
+// The greeting's "Настройки" opens the first pregnancy's settings.
+void Session::showGreeting(Greeting greeting) {
+  WelcomeScreen::Commands commands;
+  if (isPregnancyEdition(app_.context().values().appid))
+    commands[kSetup] = [this] {
+      showProfile(newID2(1, 1));
+      return EventResult();
+    };
+  push(std::make_shared<WelcomeScreen>(app_.context(), greeting, std::move(commands)));
+}
+
+void Session::showBackgrounds() {
+  push(std::make_shared<BackgroundList>(app_.context()));
+}
+
+void Session::showProfile(std::optional<std::string> gid) {
+  push(std::make_shared<ProfileEditor>(app_, *this, std::move(gid)));
+}
+
+void Session::push(std::shared_ptr<Screen> screen) {
+  stack_.push_back(std::move(screen));
+}
+
+void Session::showMessage(MessageBox message) {
+  message_ = std::move(message);
+}
+
+// Screens that closed themselves go, from the top down.
+void Session::popClosed() {
+  while (!stack_.empty() && stack_.back()->closed()) stack_.pop_back();
+  menu_.updateMenu();
 }
 
 void Session::showLock(LockMode mode) {
@@ -50,13 +109,12 @@ Value Session::view() {
   if (locked()) return withBackground(lock_->view());
   if (!appeared_) {
     appeared_ = true;
-    if (auto greeting = app_.takeVersionRecord()) welcome_.emplace(app_.context(), *greeting);
+    if (auto greeting = app_.takeVersionRecord()) showGreeting(*greeting);
   }
-  Value screen = lock_          ? lock_->view()
-                 : welcome_     ? welcome_->view()
-                 : backgrounds_ ? backgrounds_->view()
-                 : page_        ? ringView()
-                                : menu_.view();
+  Value screen = lock_             ? lock_->view()
+                 : !stack_.empty() ? stack_.back()->view()
+                 : page_           ? ringView()
+                                   : menu_.view();
   if (popup_) screen.asMap()->set("popup", popup_->view());
   if (message_) screen.asMap()->set("message", message_->toValue());
   // The browser sends tilt samples only while they can move a page.
@@ -81,8 +139,11 @@ EventResult Session::handle(const Value& event) {
   if (*type == "tap") {
     const std::string* target = event["target"].asText();
     if (!target) return EventResult::refused("a tap needs a text \"target\"");
-    return tap(*target, event["value"]);
+    EventResult result = tap(*target, event["value"]);
+    popClosed();
+    return result;
   }
+  if (*type == "change") return change(event);
   return EventResult::refused("unknown event type \"" + *type + "\"");
 }
 
@@ -95,18 +156,20 @@ EventResult Session::tap(std::string_view target, const Value& value) {
     return {};
   }
   if (popup_) return answerPopup(target, value);
-  if (welcome_) {
-    EventResult result = welcome_->tap(target);
-    if (welcome_->closed()) welcome_.reset();
-    return result;
-  }
-  if (backgrounds_) {
-    EventResult result = backgrounds_->tap(target);
-    if (backgrounds_->closed()) backgrounds_.reset();
-    return result;
-  }
+  if (!stack_.empty()) return stack_.back()->tap(target);
   if (page_) return tapPage(target);
-  return tapMenu(target);
+  return menu_.tap(target);
+}
+
+// A changed input of the screen on top.
+EventResult Session::change(const Value& event) {
+  const std::string* target = event["target"].asText();
+  if (!target) return EventResult::refused("a change needs a text \"target\"");
+  if (lock_ || message_ || popup_)
+    return EventResult::refused("the screen with " + *target + " is covered");
+  if (!stack_.empty()) return stack_.back()->change(*target, event["value"]);
+  if (page_) return page_->change(*target, event["value"]);
+  return EventResult::refused("the menu has no input " + *target);
 }
 
 // The page's own controls, and the way back to the menu; a page may also close itself.
@@ -120,25 +183,18 @@ EventResult Session::tapPage(std::string_view target) {
   return result;
 }
 
-// The password switch and the background row open their screens; the rest is the menu's.
-EventResult Session::tapMenu(std::string_view target) {
-  if (target == menuTarget(kPasswordSwitch)) {
-    SettingsStore& settings = app_.context().settings();
-    if (!settings.boolForKey("pass")) {
-      askNewPassword();
-      return {};
-    }
-    turnPasswordOff(settings);
-    menu_.updateMenu();
-    EventResult result;
-    result.installationChanged = true;
-    return result;
-  }
-  if (target == menuTarget(kBackgroundRow)) {
-    showBackgrounds();
+// Turning the password on asks for the new code; turning it off is stored at once.
+EventResult Session::togglePassword() {
+  SettingsStore& settings = app_.context().settings();
+  if (!settings.boolForKey("pass")) {
+    askNewPassword();
     return {};
   }
-  return menu_.tap(target);
+  turnPasswordOff(settings);
+  menu_.updateMenu();
+  EventResult result;
+  result.installationChanged = true;
+  return result;
 }
 
 Value Session::ringView() {
@@ -233,7 +289,7 @@ Value Session::withBackground(Value screen) const {
 EventResult Session::tapLock(std::string_view target) {
   EventResult result = lock_->tap(target);
   if (lock_->closed()) {
-    if (lock_->outcome()) message_ = lock_->outcome();
+    if (lock_->outcome()) showMessage(*lock_->outcome());
     lock_.reset();
     menu_.updateMenu();
   }
@@ -252,8 +308,7 @@ EventResult Session::answerPopup(std::string_view target, const Value& value) {
   popup_.reset();
   const PopupAction action = std::move(popupAction_);
   popupAction_ = nullptr;
-  if (action) action(*answer);
-  return {};
+  return action ? action(*answer) : EventResult();
 }
 
 EventResult Session::setViewport(const Value& event) {
@@ -289,8 +344,7 @@ EventResult Session::becomeVisible() {
 }
 
 bool Session::atRoot() const {
-  return !lock_ && !welcome_ && !message_ && !popup_ && !backgrounds_ &&
-         app_.context().values().modalOpen == 0;
+  return !lock_ && stack_.empty() && !message_ && !popup_ && app_.context().values().modalOpen == 0;
 }
 
 // Both shortcuts act on the active pregnancy. The contractions page opens when this build has
@@ -299,8 +353,8 @@ void Session::quickStart() {
   Context& context = app_.context();
   auto active = getActivePregnancy(app_.store(), context.clock().now());
   if (!active) {
-    message_ =
-        MessageBox::make(context, "Активная беременность не найдена", "Активная беременность");
+    showMessage(
+        MessageBox::make(context, "Активная беременность не найдена", "Активная беременность"));
     return;
   }
   menu_.setActiveId(*active);

@@ -3,10 +3,10 @@
 // sessions.
 #pragma once
 
-#include <functional>
 #include <memory>
 #include <optional>
 #include <string>
+#include <vector>
 
 #include "shell/application.h"
 #include "shell/background_list.h"
@@ -14,8 +14,7 @@
 #include "shell/message_box.h"
 #include "shell/page_ring.h"
 #include "shell/password_lock.h"
-#include "shell/popup.h"
-#include "shell/welcome_screen.h"
+#include "shell/screen_host.h"
 
 namespace lad::shell {
 
@@ -25,7 +24,7 @@ struct ScreenMetrics {
   double scaleY = 1.0;  // portrait height / 480
 };
 
-class Session {
+class Session : public ScreenHost {
  public:
   // With the lock on, a new session starts behind it.
   explicit Session(Application& app);
@@ -35,7 +34,8 @@ class Session {
   // "ring": the page, the page waiting behind it and the menu under both.
   Value view();
   // Takes one event from the browser:
-  //   {"type": "tap", "target": id}, {"type": "viewport", "width": w, "height": h},
+  //   {"type": "tap", "target": id}, {"type": "change", "target": id, "value": v} for an input,
+  //   {"type": "viewport", "width": w, "height": h},
   //   {"type": "visible"}, {"type": "hidden"}, {"type": "shortcut", "name": "SCHVATKI"},
   //   {"type": "drag", "offset": px, "width": px} when the finger lifts off a dragged page,
   //   {"type": "tilt", "x": g, "upsideDown": bool} every 0.3 s while the page is shown.
@@ -49,22 +49,29 @@ class Session {
   // The menu's password switch turned on: the lock takes a new code.
   void askNewPassword();
   // The menu's background row: the list of backgrounds.
-  void showBackgrounds() { backgrounds_.emplace(app_.context()); }
+  void showBackgrounds();
+  // The settings of a pregnancy, or a new one without a guid.
+  void showProfile(std::optional<std::string> gid);
   // The profile this browser works on.
   const std::string& activeId() const { return menu_.activeId(); }
   // The page in front, or nothing while the menu is.
   std::optional<int> frontPage() const { return ring_.front(); }
 
-  // Puts a popup over the current screen; its answer goes to the action once, and closes it.
+  void push(std::shared_ptr<Screen> screen) override;
   // A tap may carry the popup's input in "value".
-  using PopupAction = std::function<void(const PopupAnswer&)>;
-  void openPopup(std::unique_ptr<Popup> popup, PopupAction action);
+  void openPopup(std::unique_ptr<Popup> popup, PopupAction action) override;
+  void showMessage(MessageBox message) override;
 
  private:
   EventResult tap(std::string_view target, const Value& value);
+  EventResult change(const Value& event);
   EventResult tapLock(std::string_view target);
-  EventResult tapMenu(std::string_view target);
+  EventResult tapTop(std::string_view target);
   EventResult tapPage(std::string_view target);
+  EventResult togglePassword();
+  void addMenuCommands();
+  void showGreeting(Greeting greeting);
+  void popClosed();
   void showLock(LockMode mode);
   Value withBackground(Value screen) const;
   EventResult answerPopup(std::string_view target, const Value& value);
@@ -87,10 +94,9 @@ class Session {
   std::shared_ptr<Screen> next_;  // the page waiting behind it, when it is another one
   std::string pageProfile_;       // the profile the pages were last opened for
   TiltNavigator tilt_;
-  std::optional<WelcomeScreen> welcome_;
+  std::vector<std::shared_ptr<Screen>> stack_;  // screens over the menu and pages, top last
   std::optional<MessageBox> message_;
   std::optional<PasswordLock> lock_;
-  std::optional<BackgroundList> backgrounds_;
   std::unique_ptr<Popup> popup_;
   PopupAction popupAction_;
   std::string pendingShortcut_;

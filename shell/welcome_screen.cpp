@@ -8,9 +8,6 @@ namespace {
 
 constexpr std::string_view kClose = "welcome:close";
 
-// The commands of the greeting's buttons, by the button's number.
-enum WelcomeCommand { kWhatIsNew = 1, kAbout = 2, kSetup = 3, kCloud = 4 };
-
 const char* accentOf(int appid) {
   switch (appid) {
     case 2:
@@ -45,18 +42,19 @@ const char* firstStepText(int appid) {
 
 class WelcomeBuilder {
  public:
-  explicit WelcomeBuilder(const Context& context) : context_(context) {}
+  WelcomeBuilder(const Context& context, const WelcomeScreen::Commands& commands)
+      : context_(context), commands_(commands) {}
 
   void text(std::string_view text) { blocks_.push_back(textView(context_.translate(text))); }
 
-  // One row of buttons; two in a row share its width. None of their screens exists yet.
+  // One row of buttons; two in a row share its width.
   void buttons(std::initializer_list<std::pair<WelcomeCommand, std::string_view>> buttons) {
     List row;
     for (const auto& [command, caption] : buttons) {
       Map b;
       b.set("id", "welcome:" + std::to_string(command));
       b.set("caption", context_.translate(caption));
-      b.set("enabled", false);
+      b.set("enabled", commands_.contains(command));
       row.push_back(Value(std::move(b)));
     }
     Map m;
@@ -69,11 +67,13 @@ class WelcomeBuilder {
 
  private:
   const Context& context_;
+  const WelcomeScreen::Commands& commands_;
   List blocks_;
 };
 
-List greetingBlocks(const Context& context, Greeting greeting) {
-  WelcomeBuilder b(context);
+List greetingBlocks(const Context& context, Greeting greeting,
+                    const WelcomeScreen::Commands& commands) {
+  WelcomeBuilder b(context, commands);
   if (greeting == Greeting::Update) {
     b.text("Добро пожаловать в новую версию программы");
     b.text("Более подробно о новшествах в программе Вы можете ознакомиться здесь");
@@ -106,7 +106,7 @@ Value WelcomeScreen::view() {
   m.set("icon", "start-icon.png");
   m.set("caption", context_.translate(context_.edition().caption));
   m.set("accent", accentOf(context_.values().appid));
-  m.set("children", greetingBlocks(context_, greeting_));
+  m.set("children", greetingBlocks(context_, greeting_, commands_));
   m.set("close", std::move(close));
   return Value(std::move(m));
 }
@@ -116,6 +116,8 @@ EventResult WelcomeScreen::tap(std::string_view target) {
     closed_ = true;
     return {};
   }
+  for (const auto& [command, action] : commands_)
+    if (target == "welcome:" + std::to_string(command)) return action();
   if (target.starts_with("welcome:"))
     return EventResult::refused(std::string(target) + " is not available in this version");
   return EventResult::refused("no welcome button " + std::string(target));

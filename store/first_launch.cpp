@@ -88,7 +88,7 @@ void fromOldVersion(Store& store) {
   const int appid = store.context().values().appid;
   const bool isNew = fromOldVersionNewRestore(store);
   if (appid == 2 && isNew) fromOldVersionChild1(store);
-  if (appid == 1 || appid == 14) fromOldVersionPregFirstStart(store);
+  if (isPregnancyEdition(appid)) fromOldVersionPregFirstStart(store);
   fromOldVersionStartUse(store);
   store.context().settings().synchronize();
 }

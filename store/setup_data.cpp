@@ -15,10 +15,6 @@ namespace {
 constexpr int kPregnancyDays = 280;
 constexpr int kConceptionDays = 14;
 
-bool isPregnancy(int appid) {
-  return appid == 1 || appid == 14;
-}
-
 // A text column kept in the dictionary only when it holds a value.
 void setText(Map& setup, std::string_view key, const std::optional<std::string>& text) {
   if (text) setup.set(key, *text);
@@ -161,7 +157,7 @@ void writeChild(const Context& context, const SqliteConnection& db, const Map& s
 void keepHiddenKeys(int appid, const Map& stored, Map& setup) {
   const std::initializer_list<const char*> pregnancy = {"birthresult", "sbirthdate2"};
   const std::initializer_list<const char*> child = {"allerg"};
-  for (const char* key : isPregnancy(appid) ? pregnancy : child) {
+  for (const char* key : isPregnancyEdition(appid) ? pregnancy : child) {
     if (const Value* v = stored.find(key))
       setup.set(key, *v);
     else
@@ -171,7 +167,7 @@ void keepHiddenKeys(int appid, const Map& stored, Map& setup) {
 
 void removeProfile(Store& store, const std::string& gid) {
   const Context& context = store.context();
-  const bool pregnancy = isPregnancy(context.values().appid);
+  const bool pregnancy = isPregnancyEdition(context.values().appid);
   {
     StoreBracket bracket = store.connectToBase();
     if (!bracket.db()) return;
@@ -192,7 +188,7 @@ void initSetupStruct(const Context& context, Map& setup) {
   const int appid = context.values().appid;
   const DateCodec& dates = context.dates();
   const Date today = dates.noTime(context.clock().now());
-  if (isPregnancy(appid)) {
+  if (isPregnancyEdition(appid)) {
     setup.set("bodytype", 2);
     setup.set("idx3", 1);
     setup.set("sex", 0);
@@ -234,15 +230,15 @@ Map loadSetupData(Store& store, const std::optional<std::string>& gid) {
 void saveSetupData(Store& store, SetupRegime regime, Map setup, const std::string& gid) {
   const Context& context = store.context();
   const int appid = context.values().appid;
-  if (!isPregnancy(appid) && appid != 2) return;
+  if (!isPregnancyEdition(appid) && appid != 2) return;
   const Map stored = loadSetupData(store, gid);
-  const bool exists = stored.contains(isPregnancy(appid) ? "sdat1" : "sbirthdate");
+  const bool exists = stored.contains(isPregnancyEdition(appid) ? "sdat1" : "sbirthdate");
   if (regime == kSetupFromEditor) keepHiddenKeys(appid, stored, setup);
   const Value* active = setup.find("active");
   if (active && active->boolValue()) {
     StoreBracket bracket = store.connectToBase();
     if (!bracket.db()) return;
-    if (isPregnancy(appid))
+    if (isPregnancyEdition(appid))
       writePregnancy(context, *bracket.db(), setup, gid, exists);
     else
       writeChild(context, *bracket.db(), setup, gid, exists);

@@ -9,7 +9,7 @@ import { fileURLToPath } from 'node:url';
 import { chromium } from 'playwright-core';
 
 const SIZE = 96;
-const LARGE = { 'start-icon': 256 };
+const LARGE = { 'start-icon': 256, 'clear-photo2': 240 };
 const here = dirname(fileURLToPath(import.meta.url));
 const srcDir = join(here, 'src');
 

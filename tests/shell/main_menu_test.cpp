@@ -88,7 +88,15 @@ TEST_F(MainMenuTest, CardsComeFirstAndAnOpenCardShowsItsProfileItems) {
   Value& v = view;
   EXPECT_EQ((*row(v, "menu:51"))["enabled"], Value(true));
   EXPECT_EQ((*row(v, "menu:51"))["checked"], Value(false));
-  EXPECT_EQ((*row(v, "menu:52"))["enabled"], Value(true));   // the session opens the lock
+  EXPECT_EQ((*row(v, "menu:52"))["enabled"], Value(false)) << "nothing here opens the lock";
+  int asked = 0;
+  m.onCommand(52, [&] {
+    ++asked;
+    return EventResult();
+  });
+  EXPECT_EQ((*row(v = m.view(), "menu:52"))["enabled"], Value(true)) << "a row with an action";
+  EXPECT_TRUE(m.tap("menu:52").ok());
+  EXPECT_EQ(asked, 1);
   EXPECT_EQ((*row(v, "menu:53"))["checked"], Value(false));  // tilt is off at first
   EXPECT_EQ((*row(v, "menu:55"))["checked"], Value(true));
   EXPECT_EQ((*row(v, "menu:0"))["comment"].text(), "Версия 1.0");

@@ -123,7 +123,10 @@ TEST_F(ApplicationTest, ASessionShowsAPopupOverItsScreenUntilItIsAnswered) {
   }
   std::vector<PopupAnswer> answers;
   s.openPopup(std::make_unique<WheelPicker>(app->context(), kTimePicker, "Время", "08:00"),
-              [&](const PopupAnswer& a) { answers.push_back(a); });
+              [&](const PopupAnswer& a) {
+                answers.push_back(a);
+                return EventResult();
+              });
   EXPECT_EQ(s.view()["popup"]["value"].text(), "08:00");
   EXPECT_EQ(s.view()["kind"].text(), "page") << "the screen stays below the popup";
   EXPECT_FALSE(s.handle(*Value::fromJson(R"({"type":"tap","target":"menu:0"})")).ok());

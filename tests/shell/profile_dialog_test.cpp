@@ -70,9 +70,9 @@ TEST_F(ApplicationTest, AnExistingPregnancyIsEditedOrRemovedAfterTheQuestion) {
   EXPECT_EQ(loadSetupData(app->store(), gid)["name"].text(), "Лев");
 
   ProfileDialog removal(*app, gid);
-  const MessageBox question = removal.removalQuestion();
-  EXPECT_EQ(question.text, "Вы действительно хотите удалить эту учетную запись?");
-  EXPECT_EQ(question.caption, "Удаление");
+  const Question question = removal.removalQuestion();
+  EXPECT_EQ(question.text(), "Вы действительно хотите удалить эту учетную запись?");
+  EXPECT_EQ(question.caption(), "Удаление");
   removal.confirmRemoval();
   EXPECT_TRUE(removal.rows().empty());
   removal.finish();

@@ -4,6 +4,7 @@ import { fetchView, RefusedError, sendEvent } from './api.js';
 import { listen } from './events.js';
 import { showNotice } from './notice.js';
 import { followDrags, followTilt } from './gestures.js';
+import { editorValueOf } from './editor.js';
 import { popupValueOf } from './popup.js';
 import { show } from './screen.js';
 import type { ClientEvent, Screen } from './view.js';
@@ -84,21 +85,33 @@ function startListening(): void {
 
 let tapChain: Promise<unknown> = Promise.resolve();
 
-/** Queues the tap behind those still under way, so quick taps (a code typed fast) all arrive,
- *  in order; a tap the new screen no longer has is refused by the server. */
-function tap(control: HTMLElement): void {
-  const id = control.dataset.id;
-  if (id === undefined || control.classList.contains('disabled')) return;
-  const value = popupValueOf(control);
-  const event: ClientEvent = value === undefined ? { type: 'tap', target: id } : { type: 'tap', target: id, value };
+/** Queues the user's event behind those still under way, so quick taps (a code typed fast)
+ *  and changed inputs all arrive, in order; one the new screen no longer has is refused by
+ *  the server. */
+function queue(event: () => Promise<ClientEvent>): void {
   pendingTaps += 1;
   root.classList.add('busy');
   tapChain = tapChain
-    .then(() => send(event))
+    .then(async () => send(await event()))
     .finally(() => {
       pendingTaps -= 1;
       if (pendingTaps === 0) root.classList.remove('busy');
     });
+}
+
+function tap(control: HTMLElement): void {
+  const id = control.dataset.id;
+  if (id === undefined || control.classList.contains('disabled')) return;
+  const value = popupValueOf(control);
+  queue(async () => (value === undefined ? { type: 'tap', target: id } : { type: 'tap', target: id, value }));
+}
+
+/** An editor's input that the user changed sends its field's new value. */
+function changed(input: HTMLElement): void {
+  const target = input.dataset.field;
+  const value = editorValueOf(input);
+  if (target === undefined || value === undefined) return;
+  queue(async () => ({ type: 'change', target, value: await value }));
 }
 
 /** The row or button that a click or key press is meant for. */
@@ -111,6 +124,9 @@ function controlOf(target: EventTarget | null): HTMLElement | null {
 root.addEventListener('click', (event) => {
   const control = controlOf(event.target);
   if (control) tap(control);
+});
+root.addEventListener('change', (event) => {
+  if (event.target instanceof HTMLElement) changed(event.target);
 });
 root.addEventListener('keydown', (event) => {
   const control = controlOf(event.target);

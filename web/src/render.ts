@@ -1,5 +1,6 @@
 // Turns a view description into DOM. All text shown comes from the description itself.
 import { element } from './dom.js';
+import { renderEditor } from './editor.js';
 import { renderRing } from './ring.js';
 import type {
   ButtonNode,
@@ -45,6 +46,8 @@ export function render(node: ViewNode): HTMLElement | null {
       return renderRing(node, renderPage);
     case 'lock':
       return renderLock(node);
+    case 'editor':
+      return renderEditor(node);
     default:
       return null; // kinds this build does not know are skipped
   }

@@ -178,6 +178,44 @@ export interface PickerNode {
   buttons: PopupButton[];
 }
 
+export interface EditorButton {
+  id: string;
+  caption: string;
+}
+
+export interface EditorEntry {
+  id: string;
+  caption: string;
+  checked?: boolean;
+}
+
+/** One input row of the field editor; tp is the row kind, source its present value. */
+export interface EditorRow {
+  tp: number;
+  id?: string;
+  caption: string;
+  field?: string;
+  source?: unknown;
+  required?: boolean;
+  editcap?: string;
+  pic?: string;
+  preview?: string;
+  scalemin?: string;
+  scalemax?: string;
+  scaletype?: number;
+  listtype?: number;
+  listdata?: EditorEntry[];
+}
+
+export interface EditorNode {
+  kind: 'editor';
+  caption: string;
+  rows: EditorRow[];
+  ok: EditorButton;
+  cancel: EditorButton;
+  nested?: EditorNode;
+}
+
 export type PopupNode = QuestionNode | PopupMenuNode | ListChoiceNode | PickerNode;
 
 export type ViewNode =
@@ -193,7 +231,8 @@ export type ViewNode =
   | RingNode
   | LockNode
   | SvgNode
-  | TimerNode;
+  | TimerNode
+  | EditorNode;
 
 /**
  * What the server sends: the screen on top, with a popup and a message over it while open,
@@ -208,6 +247,7 @@ export type Screen = ViewNode & {
 
 export type ClientEvent =
   | { type: 'tap'; target: string; value?: unknown }
+  | { type: 'change'; target: string; value: unknown }
   | { type: 'viewport'; width: number; height: number }
   | { type: 'visible' }
   | { type: 'hidden' }

@@ -1,0 +1,79 @@
+#include "shell/profile_editor.h"
+
+#include "shell/field_check.h"
+
+namespace lad::shell {
+
+namespace {
+
+constexpr int kConsent = 1;  // "Да" of the removal question
+constexpr std::string_view kRemoveField = "remove";
+
+}  // namespace
+
+ProfileEditor::ProfileEditor(Application& app, ScreenHost& host, std::optional<std::string> gid)
+    : app_(app), host_(host), dialog_(app, std::move(gid)) {}
+
+Value ProfileEditor::view() {
+  return editorView(app_.context(), dialog_.caption(), dialog_.rows(), previews_);
+}
+
+EventResult ProfileEditor::tap(std::string_view target) {
+  if (target == kEditorCancel) {
+    closed_ = true;
+    return {};
+  }
+  if (target == kEditorOk) return save();
+  if (targetField(target) == kRemoveField && dialog_.row(kRemoveField)) {
+    askRemoval();
+    return {};
+  }
+  return EventResult::refused("the settings have no button " + std::string(target));
+}
+
+EventResult ProfileEditor::change(std::string_view target, const Value& value) {
+  const std::string_view field = targetField(target);
+  const Map* row = dialog_.row(field);
+  if (!row || field == kRemoveField)
+    return EventResult::refused("the settings have no field " + std::string(target));
+  Value source = value;
+  if (field == "photo" && !value.isNull()) {
+    std::string why;
+    auto picture = pictureFromDataUrl(value.text(), &why);
+    if (!picture) return EventResult::refused("the photograph cannot be read: " + why);
+    source = Value(std::move(*picture));
+  }
+  if (auto refusal = dialog_.change(field, source)) host_.showMessage(std::move(*refusal));
+  return {};
+}
+
+// Checks the required rows first; a missing one keeps the screen open with its message.
+EventResult ProfileEditor::save() {
+  if (auto missing = checkField(app_.context(), dialog_.rows())) {
+    host_.showMessage(std::move(*missing));
+    return {};
+  }
+  return finish();
+}
+
+void ProfileEditor::askRemoval() {
+  host_.openPopup(std::make_unique<Question>(dialog_.removalQuestion()),
+                  [this](const PopupAnswer& answer) {
+                    if (answer.button != kConsent) return EventResult();
+                    dialog_.confirmRemoval();
+                    return finish();
+                  });
+}
+
+EventResult ProfileEditor::finish() {
+  std::string photoError;
+  saved_ = dialog_.finish(&photoError);
+  closed_ = true;
+  if (!photoError.empty())
+    host_.showMessage(MessageBox::make(app_.context(), photoError, "Ошибка"));
+  EventResult result;
+  result.installationChanged = true;
+  return result;
+}
+
+}  // namespace lad::shell

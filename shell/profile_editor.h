@@ -1,0 +1,42 @@
+// The screen of a pregnancy's settings: the profile dialog's rows in the field editor, saved
+// with "Готово", left with "Отменить", and the profile removed after a question.
+#pragma once
+
+#include <optional>
+#include <string>
+
+#include "shell/editor_view.h"
+#include "shell/profile_dialog.h"
+#include "shell/screen.h"
+#include "shell/screen_host.h"
+
+namespace lad::shell {
+
+class ProfileEditor : public Screen {
+ public:
+  // With a guid the settings of that pregnancy; without one a new pregnancy.
+  ProfileEditor(Application& app, ScreenHost& host, std::optional<std::string> gid);
+
+  Value view() override;
+  EventResult tap(std::string_view target) override;
+  // "field:<name>" with the field's new value; the photograph comes as a data URL, or null.
+  EventResult change(std::string_view target, const Value& value) override;
+  bool closed() const override { return closed_; }
+
+  // The profile saved or removed, once the screen has closed that way.
+  const std::string& savedGuid() const { return saved_; }
+
+ private:
+  EventResult save();
+  void askRemoval();
+  EventResult finish();
+
+  Application& app_;
+  ScreenHost& host_;
+  ProfileDialog dialog_;
+  PhotoPreviews previews_;
+  std::string saved_;
+  bool closed_ = false;
+};
+
+}  // namespace lad::shell

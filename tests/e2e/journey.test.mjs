@@ -1,0 +1,167 @@
+// The first steps of a new user, at phone and at tablet size, each on a new installation:
+// create a pregnancy, see its card and state line, swipe to the next page and back to the
+// menu, turn the lock on, reload and unlock, change the background.
+//   node tests/e2e/journey.test.mjs --server PATH_TO_SERVER --out SCREENSHOT_DIR
+import assert from 'node:assert/strict';
+import fs from 'node:fs';
+import os from 'node:os';
+import path from 'node:path';
+import {
+  PHONE,
+  STEP_TIMEOUT_MS,
+  freePort,
+  runBrowserTest,
+  startServer,
+  stopServer,
+  waitUntilServing,
+} from './harness.mjs';
+
+const TABLET = { viewport: { width: 820, height: 1180 }, isMobile: true, hasTouch: true, deviceScaleFactor: 2 };
+const CODE = '2468';
+const NAME = 'Мира';
+
+async function shot(page, outDir, device, step) {
+  await page.screenshot({ path: path.join(outDir, `journey-${device}-${step}.png`) });
+}
+
+async function openApp(browser, base, device) {
+  const context = await browser.newContext(device);
+  const page = await context.newPage();
+  page.setDefaultTimeout(STEP_TIMEOUT_MS);
+  const errors = [];
+  page.on('pageerror', (error) => errors.push(error.message));
+  await page.goto(`${base}/`);
+  await page.waitForSelector('.welcome');
+  await page.tap('.welcome-footer button');
+  await page.waitForSelector('.card[data-id]');
+  return { context, page, errors };
+}
+
+/** "Новая беременность", its dates, name and sex, saved: the menu shows its card. */
+async function createPregnancy(page, outDir, device) {
+  await page.tap('[data-id="menu:31"]');
+  await page.waitForSelector('.editor');
+  assert.equal(await page.textContent('.editor .page-title'), 'Новая беременность');
+  const due = page.locator('input[data-field="field:sbirthdate"]');
+  const dueBefore = await due.inputValue();
+  await page.fill('input[data-field="field:sdat1"]', '2026-05-01');
+  // The server keeps the dates consistent: the due date follows the last period.
+  await page.waitForFunction(
+    (before) => document.querySelector('input[data-field="field:sbirthdate"]')?.value !== before,
+    dueBefore,
+  );
+  assert.equal(await due.inputValue(), '2027-02-05', 'the due date 280 days after the last period');
+  await page.fill('input[data-field="field:name"]', NAME);
+  await page.locator('input[data-field="field:name"]').blur();
+  await page.tap('.segment:nth-child(3)');
+  await page.waitForSelector('.segment:nth-child(3) input:checked');
+  await shot(page, outDir, device, 'editor');
+  await page.tap('button[data-id="editor:ok"]');
+  await page.waitForSelector('.editor', { state: 'detached' });
+}
+
+/** The card of the new pregnancy: its name, sex, dates and where the pregnancy stands. */
+async function checkCard(page, outDir, device) {
+  const card = page.locator('.card', { hasText: NAME });
+  await card.waitFor();
+  const lines = await card.locator('.card-line').allTextContents();
+  assert.equal(lines[0], '01.05.2026 - 05.02.2027', 'the dates line');
+  assert.ok(lines.length >= 2 && lines[1].length > 0, 'a state line under the dates');
+  assert.notEqual(lines[1], 'Срок указан неправильно', 'the dates are sound');
+  assert.match(await card.locator('.card-sex').getAttribute('src'), /w-pic\.png/, 'a girl');
+  const overflow = await page.evaluate(() => document.documentElement.scrollWidth - window.innerWidth);
+  assert.ok(overflow <= 0, `nothing wider than the screen (${overflow}px over)`);
+  await shot(page, outDir, device, 'card');
+  await card.tap();
+  await page.waitForSelector('.card.open');
+}
+
+async function drag(page, from, to) {
+  const y = await page.$eval('.ring-page', (node) => node.getBoundingClientRect().top + 300);
+  await page.mouse.move(from, y);
+  await page.mouse.down();
+  const steps = 6;
+  for (let i = 1; i <= steps; i += 1) await page.mouse.move(from + ((to - from) * i) / steps, y);
+  await page.mouse.up();
+}
+
+/** A page of the ring in front, a swipe to the left brings the next one, to the right the menu. */
+async function swipeThroughPages(page, outDir, device) {
+  await page.tap('[data-id="menu:3"]');
+  await page.waitForSelector('.ring-page .page-title');
+  const first = await page.textContent('.ring-page .page-title');
+  const width = await page.evaluate(() => window.innerWidth);
+  await drag(page, width - 20, 20);
+  await page.waitForFunction(
+    (title) => document.querySelector('.ring-page .page-title')?.textContent !== title,
+    first,
+  );
+  await shot(page, outDir, device, 'next-page');
+  await drag(page, 20, width - 20);
+  await page.waitForSelector('.ring', { state: 'detached' });
+  await page.waitForSelector('.card.open');
+}
+
+async function typeCode(page, code) {
+  for (const digit of code) await page.tap(`button[data-id="lock:${digit}"]`);
+}
+
+async function captionIs(page, text) {
+  await page.waitForFunction((t) => document.querySelector('.lock-caption')?.textContent === t, text);
+}
+
+async function lockAndUnlock(page, outDir, device) {
+  await page.tap('[data-id="menu:52"]');
+  await captionIs(page, 'Введите новый пароль');
+  await typeCode(page, CODE);
+  await captionIs(page, 'Введите пароль еще раз');
+  await typeCode(page, CODE);
+  await page.waitForSelector('.message');
+  await page.tap('.message button');
+  await page.context().clearCookies();
+  await page.reload();
+  await captionIs(page, 'Введите пароль');
+  assert.equal(await page.$('.card'), null, 'nothing of the diary behind the lock');
+  await shot(page, outDir, device, 'lock');
+  await typeCode(page, CODE);
+  await page.locator('.card', { hasText: NAME }).waitFor();
+}
+
+async function changeBackground(page, outDir, device) {
+  await page.tap('[data-id="menu:42"]');
+  await page.tap('.row[data-id="background:6"]');
+  await page.waitForFunction(() => document.body.dataset.background === 'bg640-6.png');
+  await shot(page, outDir, device, 'background');
+}
+
+async function journey(browser, base, outDir, device, name) {
+  const { context, page, errors } = await openApp(browser, base, device);
+  await createPregnancy(page, outDir, name);
+  await checkCard(page, outDir, name);
+  await swipeThroughPages(page, outDir, name);
+  await lockAndUnlock(page, outDir, name);
+  await changeBackground(page, outDir, name);
+  assert.deepEqual(errors, [], `no uncaught errors in the page (${name})`);
+  await context.close();
+}
+
+/** The tablet gets an installation of its own, so that it starts at the greeting too. */
+async function onNewInstallation(executable, run) {
+  const dataDir = fs.mkdtempSync(path.join(os.tmpdir(), 'ladaneya-e2e-journey-'));
+  const port = await freePort();
+  const server = startServer(executable, dataDir, port);
+  try {
+    const base = `http://127.0.0.1:${port}`;
+    await waitUntilServing(server, base);
+    await run(base);
+    await stopServer(server);
+  } finally {
+    if (!server.exit) server.child.kill('SIGKILL');
+    fs.rmSync(dataDir, { recursive: true, force: true });
+  }
+}
+
+await runBrowserTest('journey', async ({ browser, base, outDir, executable }) => {
+  await journey(browser, base, outDir, PHONE, 'phone');
+  await onNewInstallation(executable, (tabletBase) => journey(browser, tabletBase, outDir, TABLET, 'tablet'));
+});

@@ -1,0 +1,157 @@
+#include "shell/profile_editor.h"
+
+#include <gtest/gtest.h>
+
+#include <filesystem>
+
+#include "core/base64.h"
+#include "platform/images.h"
+#include "shell/session.h"
+#include "store/folders.h"
+#include "store/profiles.h"
+#include "tests/shell/application_fixture.h"
+
+namespace lad::shell {
+namespace {
+
+const std::string kFirstProfile = "00000000-0000-0000-0001-000000000001";
+
+class ProfileEditorTest : public lad::testing::ApplicationTest {
+ protected:
+  ProfileEditorTest() {
+    launchApp();
+    session = std::make_unique<Session>(*app);
+    if (session->view()["kind"].text() == "welcome") tap("welcome:close");
+  }
+
+  EventResult send(const std::string& json) { return session->handle(*Value::fromJson(json)); }
+  void tap(const std::string& target) {
+    ASSERT_TRUE(send(R"({"type":"tap","target":")" + target + R"("})").ok()) << target;
+  }
+  EventResult change(const std::string& field, const Value& value) {
+    Map e;
+    e.set("type", "change");
+    e.set("target", "field:" + field);
+    e.set("value", value);
+    return session->handle(Value(std::move(e)));
+  }
+  // The source of a field's row in the editor on screen.
+  std::string shown(const std::string& field) {
+    const Value view = session->view();
+    for (const Value& row : *view["rows"].asList())
+      if (row["field"].text() == field) return row["source"].text();
+    ADD_FAILURE() << "no row " << field;
+    return "";
+  }
+  static std::string jpegDataUrl() {
+    const Image image{8, 4, std::vector<std::uint8_t>(8 * 4 * 3, 200)};
+    const auto jpeg = encodeJpeg(image, 90);
+    return "data:image/jpeg;base64," + base64Encode(Bytes(jpeg.begin(), jpeg.end()));
+  }
+
+  std::unique_ptr<Session> session;
+};
+
+TEST_F(ProfileEditorTest, ANewPregnancyIsSavedWithItsDatesKeptConsistent) {
+  tap("menu:31");
+  Value view = session->view();
+  ASSERT_EQ(view["kind"].text(), "editor");
+  EXPECT_EQ(view["caption"].text(), "Новая беременность");
+  EXPECT_EQ(view["ok"]["id"].text(), "editor:ok");
+  ASSERT_TRUE(change("sdat1", "01.05.2026").ok());
+  EXPECT_EQ(shown("sbirthdate"), "05.02.2027") << "the due date follows the last period";
+  ASSERT_TRUE(change("name", "Мира").ok());
+  ASSERT_TRUE(change("sex", 2).ok());
+  EXPECT_FALSE(change("nosuchfield", "x").ok());
+  EXPECT_FALSE(change("remove", "x").ok()) << "a new pregnancy has no removal";
+
+  tap("editor:ok");
+  const Value menu = session->view();
+  EXPECT_EQ(menu["kind"].text(), "page") << "saving goes back to the menu";
+  ASSERT_EQ(loadProfils(app->store()).size(), 2u);
+  bool found = false;
+  for (const Value& card : *menu["children"].asList())
+    if (card["name"].text() == "Мира") {
+      found = true;
+      EXPECT_EQ((*card["lines"].asList())[0].text(), "01.05.2026 - 05.02.2027");
+    }
+  EXPECT_TRUE(found) << "the new pregnancy has its card";
+}
+
+TEST_F(ProfileEditorTest, AnEmptiedRequiredDateKeepsTheEditorOpenAndCancelKeepsTheData) {
+  tap("menu:31");
+  ASSERT_TRUE(change("sdat1", "").ok());
+  ASSERT_TRUE(change("sbirthdate", "").ok());
+  ASSERT_TRUE(change("sdat2", "").ok());
+  tap("editor:ok");
+  Value view = session->view();
+  EXPECT_EQ(view["kind"].text(), "editor");
+  EXPECT_EQ(view["message"]["caption"].text(), "Ошибка");
+  tap("message:ok");
+  tap("editor:cancel");
+  EXPECT_EQ(session->view()["kind"].text(), "page");
+  EXPECT_EQ(loadProfils(app->store()).size(), 1u) << "cancel saves nothing";
+}
+
+TEST_F(ProfileEditorTest, APortraitIsCheckedWhenChosenAndWrittenWhenSaved) {
+  tap("card:" + kFirstProfile);
+  tap("menu:22");
+  EXPECT_EQ(session->view()["caption"].text(), "Настройки");
+  EXPECT_FALSE(change("photo", "data:image/png;base64,AAAA").ok()) << "not a picture";
+  EXPECT_FALSE(change("photo", "http://elsewhere/x.jpg").ok());
+  ASSERT_TRUE(change("photo", jpegDataUrl()).ok());
+  const Value editor = session->view();
+  for (const Value& row : *editor["rows"].asList())
+    if (row["field"].text() == "photo") {
+      EXPECT_TRUE(row["preview"].text().starts_with("data:image/jpeg;base64,"));
+      EXPECT_TRUE(row["source"].isNull()) << "the picture's bytes stay on the server";
+    }
+  const auto portrait = portraitFile(app->context(), kFirstProfile);
+  EXPECT_FALSE(std::filesystem::exists(portrait)) << "nothing is written before saving";
+  tap("editor:ok");
+  EXPECT_TRUE(std::filesystem::exists(portrait));
+
+  tap("menu:22");
+  ASSERT_TRUE(change("photo", Value()).ok());
+  tap("editor:ok");
+  EXPECT_FALSE(std::filesystem::exists(portrait)) << "a taken-away portrait is removed";
+}
+
+TEST_F(ProfileEditorTest, RemovalAsksFirstAndOnlyConsentRemoves) {
+  EXPECT_FALSE(send(R"({"type":"tap","target":"menu:22"})").ok()) << "no profile is open";
+  tap("card:" + kFirstProfile);
+  tap("menu:22");
+  tap("field:remove");
+  Value view = session->view();
+  ASSERT_EQ(view["popup"]["text"].text(), "Вы действительно хотите удалить эту учетную запись?");
+  EXPECT_FALSE(change("name", "x").ok()) << "the question covers the editor";
+  tap("popup:0");  // "Нет"
+  EXPECT_EQ(session->view()["kind"].text(), "editor");
+  EXPECT_EQ(loadProfils(app->store()).size(), 1u);
+
+  tap("field:remove");
+  tap("popup:1");  // "Да"
+  view = session->view();
+  EXPECT_EQ(view["kind"].text(), "page");
+  EXPECT_TRUE(loadProfils(app->store()).empty());
+  const Value& card = view["children"].asList()->front();
+  EXPECT_EQ(card["name"].text(), "Вы не беременны") << "the inviting card is left";
+}
+
+using GreetingTest = lad::testing::ApplicationTest;
+
+TEST_F(GreetingTest, TheGreetingsSettingsButtonOpensTheFirstPregnancy) {
+  launchApp();
+  Session fresh(*app);
+  Value view = fresh.view();
+  ASSERT_EQ(view["kind"].text(), "welcome");
+  ASSERT_TRUE(fresh.handle(*Value::fromJson(R"({"type":"tap","target":"welcome:3"})")).ok());
+  view = fresh.view();
+  EXPECT_EQ(view["kind"].text(), "editor");
+  EXPECT_EQ(view["caption"].text(), "Настройки");
+  ASSERT_TRUE(fresh.handle(*Value::fromJson(R"({"type":"tap","target":"editor:cancel"})")).ok());
+  EXPECT_EQ(fresh.view()["kind"].text(), "welcome") << "the greeting stays under the settings";
+}
+
+}  // namespace
+}  // namespace lad::shell

@@ -1,0 +1,273 @@
+// The field editor: a caption with its two buttons over rows of inputs. A changed input sends
+// its field's new value; app.ts reads it through editorValueOf. Rows that open a picker or a
+// chooser on the server are plain tap targets.
+import { element } from './dom.js';
+import { renderIcon } from './render.js';
+import type { EditorNode, EditorRow } from './view.js';
+
+/** Reads an input's value in the form its row keeps ("dd.MM.yyyy", "HH:mm", a number…). */
+const readers = new WeakMap<HTMLElement, () => Promise<unknown>>();
+
+export function editorValueOf(input: HTMLElement): Promise<unknown> | undefined {
+  return readers.get(input)?.();
+}
+
+export function renderEditor(node: EditorNode): HTMLElement {
+  if (node.nested) return renderEditor(node.nested);
+  const editor = element('div', 'page editor');
+  const header = element('header', 'page-header editor-header');
+  header.append(
+    actionButton(node.cancel.id, node.cancel.caption, 'editor-cancel'),
+    element('h1', 'page-title', node.caption),
+    actionButton(node.ok.id, node.ok.caption, 'editor-ok'),
+  );
+  const body = element('main', 'page-body editor-body');
+  body.append(...node.rows.map(renderEditorRow).filter((row): row is HTMLElement => row !== null));
+  editor.append(header, body);
+  return editor;
+}
+
+function actionButton(id: string, caption: string, className: string): HTMLButtonElement {
+  const b = element('button', className, caption);
+  b.type = 'button';
+  b.dataset.id = id;
+  return b;
+}
+
+function renderEditorRow(row: EditorRow): HTMLElement | null {
+  switch (row.tp) {
+    case 1001:
+      return element('hr', 'editor-line');
+    case 1002:
+      return element('p', 'editor-text', row.caption);
+    case 1008:
+      return element('p', 'editor-index', row.caption.trim());
+    case 1003:
+      return labelled(row, dateInput(row));
+    case 1004:
+    case 1005:
+    case 17:
+      return labelled(row, timeInput(row));
+    case 1006:
+    case 103:
+      return labelled(row, textInput(row, 'text'));
+    case 1007:
+    case 1011:
+    case 105:
+      return labelled(row, textInput(row, 'decimal'));
+    case 1013:
+      return labelled(row, longText(row));
+    case 1009:
+      return segments(row);
+    case 1010:
+      return photo(row);
+    case 1015:
+      return labelled(row, scaleRuler(row));
+    case 1016:
+      return choiceList(row);
+    case 1025:
+      return switchRow(row);
+    case 1026:
+      return row.pic ? renderIcon(row.pic, 'editor-picture') : null;
+    case 1023:
+      return row.id ? actionButton(row.id, row.caption, 'editor-button') : null;
+    default:
+      return row.id ? pickerRow(row) : null;
+  }
+}
+
+/** A caption over the input, tied to it for screen readers. */
+function labelled(row: EditorRow, input: HTMLElement): HTMLElement {
+  const label = element('label', 'editor-field');
+  if (row.pic) label.append(renderIcon(row.pic, 'editor-field-pic'));
+  label.append(element('span', 'editor-caption', row.caption), input);
+  if (row.required) label.classList.add('required');
+  return label;
+}
+
+function bind(input: HTMLElement, row: EditorRow, read: () => unknown): void {
+  if (row.id) input.dataset.field = row.id;
+  readers.set(input, async () => read());
+}
+
+function sourceText(row: EditorRow): string {
+  return typeof row.source === 'string' ? row.source : row.source == null ? '' : String(row.source);
+}
+
+function dateInput(row: EditorRow): HTMLInputElement {
+  const input = element('input', 'editor-input');
+  input.type = 'date';
+  const [d, m, y] = sourceText(row).split('.');
+  if (y && m && d) input.value = `${y}-${m}-${d}`;
+  bind(input, row, () => {
+    const [yy, mm, dd] = input.value.split('-');
+    return input.value ? `${dd}.${mm}.${yy}` : '';
+  });
+  return input;
+}
+
+function timeInput(row: EditorRow): HTMLInputElement {
+  const input = element('input', 'editor-input');
+  input.type = 'time';
+  input.value = sourceText(row);
+  bind(input, row, () => input.value);
+  return input;
+}
+
+function textInput(row: EditorRow, mode: 'text' | 'decimal'): HTMLInputElement {
+  const input = element('input', 'editor-input');
+  input.type = 'text';
+  input.inputMode = mode;
+  input.value = sourceText(row);
+  if (row.editcap) input.placeholder = row.editcap;
+  bind(input, row, () => input.value);
+  return input;
+}
+
+function longText(row: EditorRow): HTMLTextAreaElement {
+  const area = element('textarea', 'editor-input editor-long');
+  area.value = sourceText(row);
+  if (row.editcap) area.placeholder = row.editcap;
+  bind(area, row, () => area.value);
+  return area;
+}
+
+/** One choice among the captions joined by "|", kept as the chosen one's number. */
+function segments(row: EditorRow): HTMLElement {
+  const group = element('div', 'editor-segments');
+  group.setAttribute('role', 'radiogroup');
+  const chosen = Number(row.source ?? 0);
+  row.caption.split('|').forEach((caption, n) => {
+    const label = element('label', 'segment');
+    const radio = element('input', 'segment-input');
+    radio.type = 'radio';
+    radio.name = row.id ?? 'segments';
+    radio.checked = n === chosen;
+    bind(radio, row, () => n);
+    label.append(radio, element('span', 'segment-caption', caption));
+    group.append(label);
+  });
+  return group;
+}
+
+const PHOTO_MAX_SIDE = 2048;
+const PHOTO_QUALITY = 0.92;
+
+/** The portrait: a picture to touch, which opens the phone's camera or album. */
+function photo(row: EditorRow): HTMLElement {
+  const label = element('label', 'editor-photo');
+  label.append(renderIcon(row.preview || 'clear-photo2.png', 'editor-photo-picture'));
+  const input = element('input', 'editor-photo-input');
+  input.type = 'file';
+  input.accept = 'image/*';
+  bind(input, row, () => {
+    const file = input.files?.[0];
+    return file ? photoDataUrl(file) : null;
+  });
+  label.append(input);
+  return label;
+}
+
+/** The picture upright and no larger than the server needs, as a JPEG data URL. */
+async function photoDataUrl(file: Blob): Promise<string> {
+  const bitmap = await createImageBitmap(file);
+  const scale = Math.min(1, PHOTO_MAX_SIDE / Math.max(bitmap.width, bitmap.height));
+  const canvas = document.createElement('canvas');
+  canvas.width = Math.round(bitmap.width * scale);
+  canvas.height = Math.round(bitmap.height * scale);
+  canvas.getContext('2d')?.drawImage(bitmap, 0, 0, canvas.width, canvas.height);
+  return canvas.toDataURL('image/jpeg', PHOTO_QUALITY);
+}
+
+/** Entries to tick: one (radio) or many (check boxes); the row keeps the ticked ids. */
+function choiceList(row: EditorRow): HTMLElement {
+  const list = element('div', 'editor-list');
+  if (row.caption) list.append(element('span', 'editor-caption', row.caption));
+  const many = row.listtype === 2;
+  const boxes: Array<[HTMLInputElement, string]> = [];
+  for (const entry of row.listdata ?? []) {
+    const label = element('label', 'editor-entry');
+    const box = element('input', 'editor-entry-input');
+    box.type = many ? 'checkbox' : 'radio';
+    box.name = row.id ?? 'list';
+    box.checked = entry.checked === true;
+    boxes.push([box, entry.id]);
+    label.append(box, element('span', 'editor-entry-caption', entry.caption));
+    list.append(label);
+  }
+  for (const [box] of boxes) {
+    bind(box, row, () => {
+      const ticked = boxes.filter(([b]) => b.checked).map(([, id]) => id);
+      return many ? ticked : ticked[0] ?? '';
+    });
+  }
+  return list;
+}
+
+function switchRow(row: EditorRow): HTMLElement {
+  const label = element('label', 'editor-switch');
+  const box = element('input', 'editor-switch-input');
+  box.type = 'checkbox';
+  box.setAttribute('role', 'switch');
+  box.checked = row.source === '1';
+  bind(box, row, () => (box.checked ? '1' : ''));
+  label.append(element('span', 'editor-caption', row.caption), box);
+  return label;
+}
+
+/** A row whose value is picked on the server (wheels, dictionaries): shows it, opens on touch. */
+function pickerRow(row: EditorRow): HTMLElement {
+  const b = actionButton(row.id ?? '', row.caption, 'editor-picker');
+  b.append(element('span', 'editor-picker-value', sourceText(row).split('<td>').join(' ')));
+  return b;
+}
+
+/**
+ * The scale: a ruler that slides under a fixed needle, in steps of the scale's kind. Its
+ * value goes out when the ruler comes to rest; a place at or below 0 means nothing measured.
+ */
+function scaleRuler(row: EditorRow): HTMLElement {
+  const min = Number(row.scalemin ?? 0);
+  const max = Number(row.scalemax ?? 100);
+  const step = row.scaletype === 3 ? 0.01 : 0.1;
+  const digits = row.scaletype === 3 ? 3 : 1;
+  const tick = 8; // pixels between two steps
+  const scale = element('div', 'scale');
+  const shown = element('output', 'scale-value');
+  const ruler = element('div', 'scale-ruler');
+  ruler.tabIndex = 0;
+  ruler.setAttribute('role', 'slider');
+  ruler.setAttribute('aria-valuemin', String(min));
+  ruler.setAttribute('aria-valuemax', String(max));
+  const track = element('div', 'scale-track');
+  track.style.width = `${Math.round((max - min) / step) * tick}px`;
+  track.style.setProperty('--tick', `${tick}px`);
+  ruler.append(track);
+  const valueAt = (): number => min + Math.round(ruler.scrollLeft / tick) * step;
+  const showValue = (): void => {
+    const v = valueAt();
+    shown.textContent = v > 0 ? v.toFixed(digits) : '—';
+    ruler.setAttribute('aria-valuenow', v.toFixed(digits));
+  };
+  const start = Number(sourceText(row)) > 0 ? Number(sourceText(row)) : min;
+  requestAnimationFrame(() => {
+    ruler.scrollLeft = ((start - min) / step) * tick;
+    showValue();
+  });
+  ruler.addEventListener('scroll', showValue);
+  let rest: number | undefined;
+  ruler.addEventListener('scroll', () => {
+    window.clearTimeout(rest);
+    rest = window.setTimeout(() => ruler.dispatchEvent(new Event('change', { bubbles: true })), 250);
+  });
+  ruler.addEventListener('keydown', (event) => {
+    const by = event.key === 'ArrowRight' ? tick : event.key === 'ArrowLeft' ? -tick : 0;
+    if (by !== 0) ruler.scrollLeft += by;
+  });
+  bind(ruler, row, () => {
+    const v = valueAt();
+    return v > 0 ? v.toFixed(digits) : '';
+  });
+  scale.append(shown, ruler, element('div', 'scale-needle'));
+  return scale;
+}
