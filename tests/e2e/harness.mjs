@@ -131,7 +131,7 @@ export async function runBrowserTest(name, check, { lang = 'ru', extraArgs = [],
     if (!server.exit) await stopServer(server);
     console.log(`${name}: 1 passed, 0 failed`);
   } catch (error) {
-    console.error(`${name}: FAILED: ${error.message}`);
+    console.error(`${name}: FAILED: ${error.stack}`);
     if (server?.log) console.error(`--- server output (last part) ---\n${server.log}`);
     console.log(`${name}: 0 passed, 1 failed`);
     process.exitCode = 1;

@@ -12,6 +12,21 @@ export function editorValueOf(input: HTMLElement): Promise<unknown> | undefined 
   return readers.get(input)?.();
 }
 
+/**
+ * Inputs that the user is still typing in keep what was typed when the server's answer to an
+ * earlier change redraws the editor, and the one in use keeps the focus.
+ */
+export function carryUnsentInputs(shown: ParentNode, next: ParentNode): void {
+  const typed = shown.querySelectorAll<HTMLInputElement | HTMLTextAreaElement>('input[data-rendered], textarea[data-rendered]');
+  for (const input of typed) {
+    const field = input.dataset.field;
+    const redrawn = field ? next.querySelector<HTMLInputElement | HTMLTextAreaElement>(`[data-field="${CSS.escape(field)}"]`) : null;
+    if (!redrawn || input.value === input.dataset.rendered) continue;
+    redrawn.value = input.value;
+    if (document.activeElement === input) queueMicrotask(() => redrawn.focus());
+  }
+}
+
 export function renderEditor(node: EditorNode): HTMLElement {
   if (node.nested) return renderEditor(node.nested);
   const editor = element('div', 'page editor');
@@ -82,12 +97,19 @@ function labelled(row: EditorRow, input: HTMLElement): HTMLElement {
   if (row.pic) label.append(renderIcon(row.pic, 'editor-field-pic'));
   label.append(element('span', 'editor-caption', row.caption), input);
   if (row.required) label.classList.add('required');
+  if (input.classList.contains('scale')) label.classList.add('stacked');
   return label;
 }
 
 function bind(input: HTMLElement, row: EditorRow, read: () => unknown): void {
   if (row.id) input.dataset.field = row.id;
   readers.set(input, async () => read());
+}
+
+/** A typed input remembers the value it was drawn with, so that a redraw can tell it was changed. */
+function bindTyped(input: HTMLInputElement | HTMLTextAreaElement, row: EditorRow, read: () => unknown): void {
+  bind(input, row, read);
+  input.dataset.rendered = input.value;
 }
 
 function sourceText(row: EditorRow): string {
@@ -99,7 +121,7 @@ function dateInput(row: EditorRow): HTMLInputElement {
   input.type = 'date';
   const [d, m, y] = sourceText(row).split('.');
   if (y && m && d) input.value = `${y}-${m}-${d}`;
-  bind(input, row, () => {
+  bindTyped(input, row, () => {
     const [yy, mm, dd] = input.value.split('-');
     return input.value ? `${dd}.${mm}.${yy}` : '';
   });
@@ -110,7 +132,7 @@ function timeInput(row: EditorRow): HTMLInputElement {
   const input = element('input', 'editor-input');
   input.type = 'time';
   input.value = sourceText(row);
-  bind(input, row, () => input.value);
+  bindTyped(input, row, () => input.value);
   return input;
 }
 
@@ -120,7 +142,7 @@ function textInput(row: EditorRow, mode: 'text' | 'decimal'): HTMLInputElement {
   input.inputMode = mode;
   input.value = sourceText(row);
   if (row.editcap) input.placeholder = row.editcap;
-  bind(input, row, () => input.value);
+  bindTyped(input, row, () => input.value);
   return input;
 }
 
@@ -128,7 +150,7 @@ function longText(row: EditorRow): HTMLTextAreaElement {
   const area = element('textarea', 'editor-input editor-long');
   area.value = sourceText(row);
   if (row.editcap) area.placeholder = row.editcap;
-  bind(area, row, () => area.value);
+  bindTyped(area, row, () => area.value);
   return area;
 }
 
@@ -156,7 +178,9 @@ const PHOTO_QUALITY = 0.92;
 /** The portrait: a picture to touch, which opens the phone's camera or album. */
 function photo(row: EditorRow): HTMLElement {
   const label = element('label', 'editor-photo');
-  label.append(renderIcon(row.preview || 'clear-photo2.png', 'editor-photo-picture'));
+  const picture = renderIcon('clear-photo2.png', 'editor-photo-picture');
+  if (row.preview) (picture as HTMLImageElement).src = row.preview;
+  label.append(picture);
   const input = element('input', 'editor-photo-input');
   input.type = 'file';
   input.accept = 'image/*';
@@ -255,10 +279,18 @@ function scaleRuler(row: EditorRow): HTMLElement {
     showValue();
   });
   ruler.addEventListener('scroll', showValue);
+  // Only a value other than the one drawn goes out: placing the ruler at the start sends none.
   let rest: number | undefined;
+  let settled = sourceText(row);
   ruler.addEventListener('scroll', () => {
     window.clearTimeout(rest);
-    rest = window.setTimeout(() => ruler.dispatchEvent(new Event('change', { bubbles: true })), 250);
+    rest = window.setTimeout(() => {
+      const v = valueAt();
+      const now = v > 0 ? v.toFixed(digits) : '';
+      if (now === settled) return;
+      settled = now;
+      ruler.dispatchEvent(new Event('change', { bubbles: true }));
+    }, 250);
   });
   ruler.addEventListener('keydown', (event) => {
     const by = event.key === 'ArrowRight' ? tick : event.key === 'ArrowLeft' ? -tick : 0;

@@ -1,4 +1,5 @@
 // Puts a view on screen. Redrawing the same screen (same rows) keeps the scroll position.
+import { carryUnsentInputs } from './editor.js';
 import { renderPopup } from './popup.js';
 import { render } from './render.js';
 import type { PopupNode, Screen } from './view.js';
@@ -10,6 +11,7 @@ export function show(root: HTMLElement, view: Screen): void {
   const message = view.message ? render(view.message) : null;
   // Taking a kept popup out of the page loses its wheels' places: they are put back.
   const wheels = Array.from(popup?.querySelectorAll<HTMLElement>('.wheel') ?? [], (w) => [w, w.scrollTop] as const);
+  if (next) carryUnsentInputs(root, next);
   root.replaceChildren(...[next, popup, message].filter((node): node is HTMLElement => node !== null));
   for (const [wheel, top] of wheels) wheel.scrollTop = top;
   window.scrollTo(0, scroll);

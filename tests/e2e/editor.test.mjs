@@ -1,0 +1,111 @@
+// Browser test of the field editor: a pregnancy's settings with a portrait chosen from the
+// phone, kept over a reload, its removal asked first; and the scale ruler, drawn from a view
+// in the form the server sends it, sending the value it comes to rest on.
+//   node tests/e2e/editor.test.mjs --server PATH_TO_SERVER --out SCREENSHOT_DIR
+import assert from 'node:assert/strict';
+import path from 'node:path';
+import { openPastGreeting, runBrowserTest } from './harness.mjs';
+
+const PORTRAIT = path.resolve('resources/images/ti-preg2.png');
+const SCALE_EDITOR = {
+  kind: 'editor',
+  caption: 'Температура',
+  ok: { id: 'editor:ok', caption: 'Готово' },
+  cancel: { id: 'editor:cancel', caption: 'Отменить' },
+  rows: [
+    { tp: 1002, caption: 'Укажите температуру' },
+    { tp: 1015, id: 'field:temp', field: 'temp', caption: 'Температура', source: '36.6', scalemin: '30', scalemax: '45', scaletype: 2 },
+  ],
+};
+
+/** The settings row of the open card. */
+async function openSettings(page) {
+  await page.tap('[data-id="menu:22"]');
+  await page.waitForSelector('.editor');
+  assert.equal(await page.textContent('.editor .page-title'), 'Настройки');
+}
+
+/** A picture from the album shows as a preview, survives a reload of the page, and is saved. */
+async function choosePortrait(page, outDir) {
+  const before = await page.getAttribute('.editor-photo-picture', 'src');
+  await page.setInputFiles('.editor-photo-input', PORTRAIT);
+  await page.waitForFunction((src) => document.querySelector('.editor-photo-picture')?.getAttribute('src') !== src, before);
+  assert.match(await page.getAttribute('.editor-photo-picture', 'src'), /^data:image\/jpeg;base64,/, 'a preview');
+  await page.fill('input[data-field="field:rost"]', '168');
+  await page.locator('input[data-field="field:rost"]').blur();
+  await page.fill('input[data-field="field:ves"]', '60');
+  await page.locator('input[data-field="field:ves"]').blur();
+  await page
+    .waitForFunction(() => !document.querySelector('.editor-index')?.textContent?.includes('не определен'))
+    .catch(async () => {
+      const rost = await page.inputValue('input[data-field="field:rost"]');
+      const ves = await page.inputValue('input[data-field="field:ves"]');
+      throw new Error(`no body index for ${rost} cm, ${ves} kg: ${await page.textContent('.editor-index')}`);
+    });
+  await page.reload();
+  await page.waitForSelector('.editor');
+  assert.equal(await page.inputValue('input[data-field="field:rost"]'), '168', 'a sent field survives a reload');
+  assert.match(await page.getAttribute('.editor-photo-picture', 'src'), /^data:image\/jpeg;base64,/, 'and the portrait');
+  await page.screenshot({ path: path.join(outDir, 'editor-settings.png'), fullPage: true });
+  await page.tap('button[data-id="editor:ok"]');
+  await page.waitForSelector('.editor', { state: 'detached' });
+}
+
+/** The removal button asks first: "Нет" keeps the pregnancy, "Да" removes it. */
+async function removeAfterQuestion(page, outDir) {
+  await page.tap('button[data-id="field:remove"]');
+  await page.waitForSelector('.popup-cover');
+  assert.equal(await page.textContent('.popup-cover .message-text'), 'Вы действительно хотите удалить эту учетную запись?');
+  await page.screenshot({ path: path.join(outDir, 'editor-removal.png') });
+  await page.tap('.popup-cover button[data-id="popup:0"]');
+  await page.waitForSelector('.popup-cover', { state: 'detached' });
+  assert.ok(await page.$('.editor'), 'the settings stay after "Нет"');
+  await page.tap('button[data-id="field:remove"]');
+  await page.tap('.popup-cover button[data-id="popup:1"]');
+  await page.waitForSelector('.editor', { state: 'detached' });
+  await page.waitForFunction(() => document.querySelector('.card-name')?.textContent === 'Вы не беременны');
+}
+
+/** The ruler starts at the row's value, and moved by hand sends the value under the needle. */
+async function slideScale(page, outDir) {
+  const sent = [];
+  // Every answer, to a view request or to an event, shows the editor; changes are kept.
+  const asEditor = async (route) => {
+    const response = await route.fetch();
+    const body = await response.json().catch(() => ({}));
+    await route.fulfill({ response, json: { ...body, view: { ...SCALE_EDITOR, theme: body.view?.theme } } });
+  };
+  await page.route('**/api/view', asEditor);
+  await page.route('**/api/event', async (route) => {
+    const event = JSON.parse(route.request().postData() ?? '{}');
+    if (event.type === 'change') sent.push(event);
+    await asEditor(route);
+  });
+  // The ruler is moved once the page's activation has been answered and drawn.
+  const activated = page.waitForResponse((r) => r.url().endsWith('/api/event') && r.request().postData()?.includes('"visible"'));
+  await page.reload();
+  await activated;
+  await page.waitForSelector('.scale');
+  await page.waitForFunction(() => document.querySelector('.scale-value')?.textContent === '36.6');
+  // Ten steps of 0.1 to the right.
+  await page.$eval('.scale-ruler', (ruler) => (ruler.scrollLeft += 80));
+  await page.waitForFunction(() => document.querySelector('.scale-value')?.textContent === '37.6');
+  await page.screenshot({ path: path.join(outDir, 'editor-scale.png') });
+  const deadline = Date.now() + 5000;
+  while (sent.length === 0 && Date.now() < deadline) await new Promise((r) => setTimeout(r, 50));
+  assert.deepEqual(sent, [{ type: 'change', target: 'field:temp', value: '37.6' }], 'only the value at rest');
+  await page.unrouteAll({ behavior: 'ignoreErrors' });
+}
+
+await runBrowserTest('editor', async ({ browser, base, outDir }) => {
+  const { context, page, errors } = await openPastGreeting(browser, base);
+  await page.tap('.card[data-id]');
+  await openSettings(page);
+  await choosePortrait(page, outDir);
+  await openSettings(page);
+  assert.match(await page.getAttribute('.editor-photo-picture', 'src'), /^data:image\/jpeg;base64,/, 'the saved portrait');
+  await removeAfterQuestion(page, outDir);
+  await slideScale(page, outDir);
+  assert.deepEqual(errors, [], 'no uncaught errors in the page');
+  await context.close();
+});
