@@ -38,8 +38,11 @@ class Session {
   //   {"type": "tap", "target": id}, {"type": "viewport", "width": w, "height": h},
   //   {"type": "visible"}, {"type": "hidden"}, {"type": "shortcut", "name": "SCHVATKI"},
   //   {"type": "drag", "offset": px, "width": px} when the finger lifts off a dragged page,
-  //   {"type": "tilt", "x": g, "upsideDown": bool} every 0.3 s while the page is shown.
+  //   {"type": "tilt", "x": g, "upsideDown": bool} every 0.3 s while the page is shown,
+  //   {"type": "authenticator" | "fingerprint" | "fingerprintRegister", ...} (FingerprintReader).
   EventResult handle(const Value& event);
+  // This browser's fingerprint reader; the host sets the host name the browser uses.
+  FingerprintReader& fingerprint() { return fingerprint_; }
 
   const ScreenMetrics& metrics() const { return metrics_; }
   // The last activation asked for the password lock.
@@ -63,6 +66,8 @@ class Session {
  private:
   EventResult tap(std::string_view target, const Value& value);
   EventResult tapLock(std::string_view target);
+  EventResult fingerprintEvent(const Value& event);
+  EventResult afterLock(EventResult result);
   EventResult tapMenu(std::string_view target);
   EventResult tapPage(std::string_view target);
   void showLock(LockMode mode);
@@ -89,6 +94,7 @@ class Session {
   TiltNavigator tilt_;
   std::optional<WelcomeScreen> welcome_;
   std::optional<MessageBox> message_;
+  FingerprintReader fingerprint_;
   std::optional<PasswordLock> lock_;
   std::optional<BackgroundList> backgrounds_;
   std::unique_ptr<Popup> popup_;
