@@ -72,4 +72,14 @@ std::optional<Bytes> base64UrlDecode(std::string_view text) {
   return base64Decode(standard);
 }
 
+std::string base64UrlEncode(std::string_view raw) {
+  return base64UrlEncode(Bytes(raw.begin(), raw.end()));
+}
+
+std::optional<std::string> base64UrlDecodeString(std::string_view text) {
+  const auto bytes = base64UrlDecode(text);
+  if (!bytes) return std::nullopt;
+  return std::string(bytes->begin(), bytes->end());
+}
+
 }  // namespace lad

@@ -17,5 +17,8 @@ std::optional<Bytes> base64Decode(std::string_view text);
 std::string base64UrlEncode(const Bytes& bytes);
 // Nullopt for padding, the standard alphabet's "+" and "/", or a length no encoding has.
 std::optional<Bytes> base64UrlDecode(std::string_view text);
+// The same for raw bytes held in a string.
+std::string base64UrlEncode(std::string_view raw);
+std::optional<std::string> base64UrlDecodeString(std::string_view text);
 
 }  // namespace lad

@@ -21,10 +21,6 @@ std::uint32_t bigEndian(std::string_view bytes, std::size_t at, std::size_t size
   return n;
 }
 
-std::string base64Url(std::string_view raw) {
-  return base64UrlEncode(Bytes(raw.begin(), raw.end()));
-}
-
 // Empty when the client data is of `type`, answers our challenge and comes from our host.
 std::string clientDataProblem(std::string_view clientDataJSON, std::string_view type,
                               const WebAuthnExpected& expected) {
@@ -34,9 +30,10 @@ std::string clientDataProblem(std::string_view clientDataJSON, std::string_view 
   const std::string* challenge = (*data)["challenge"].asText();
   const std::string* origin = (*data)["origin"].asText();
   if (!gotType || *gotType != type) return "the client data is of another ceremony";
-  if (!challenge || *challenge != base64Url(expected.challenge))
+  if (!challenge || *challenge != base64UrlEncode(expected.challenge))
     return "the client data answers another challenge";
-  if (!origin || (*origin != "http://" + expected.host && *origin != "https://" + expected.host))
+  if (!origin || (*origin != "http://" + expected.host && *origin != "https://" + expected.host) ||
+      (*data)["crossOrigin"].boolValue())
     return "the client data comes from another origin";
   return {};
 }

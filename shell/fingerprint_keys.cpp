@@ -10,30 +10,19 @@ namespace {
 
 constexpr std::string_view kSettingsKey = "fingerprintKeys";
 
-std::string encoded(const std::string& raw) {
-  return base64UrlEncode(Bytes(raw.begin(), raw.end()));
-}
-
-std::optional<std::string> decoded(const Value& v) {
-  const std::string* text = v.asText();
-  const auto bytes = text ? base64UrlDecode(*text) : std::nullopt;
-  if (!bytes || bytes->empty()) return std::nullopt;
-  return std::string(bytes->begin(), bytes->end());
-}
-
 std::optional<FingerprintKeyRecord> fromValue(const Value& v) {
-  const auto id = decoded(v["id"]);
-  const auto key = decoded(v["key"]);
+  const auto id = base64UrlDecodeString(v["id"].text());
+  const auto key = base64UrlDecodeString(v["key"].text());
   const std::string* rpId = v["rpId"].asText();
   const std::int64_t count = v["count"].intValue();
-  if (!id || !key || !rpId || count < 0 || count > UINT32_MAX) return std::nullopt;
+  if (!id || id->empty() || !key || !rpId || count < 0 || count > UINT32_MAX) return std::nullopt;
   return FingerprintKeyRecord{{*id, *key, static_cast<std::uint32_t>(count)}, *rpId};
 }
 
 Value toValue(const FingerprintKeyRecord& k) {
   Map m;
-  m.set("id", encoded(k.credential.id));
-  m.set("key", encoded(k.credential.publicKey));
+  m.set("id", base64UrlEncode(k.credential.id));
+  m.set("key", base64UrlEncode(k.credential.publicKey));
   m.set("count", static_cast<std::int64_t>(k.credential.signCount));
   m.set("rpId", k.rpId);
   return Value(std::move(m));

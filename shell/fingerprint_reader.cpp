@@ -17,17 +17,6 @@ using namespace std::chrono_literals;
 constexpr std::size_t kChallengeBytes = 32;
 constexpr auto kChallengeLife = 2min;
 
-std::string encoded(std::string_view raw) {
-  return base64UrlEncode(Bytes(raw.begin(), raw.end()));
-}
-
-std::optional<std::string> decoded(const Value& v) {
-  const std::string* text = v.asText();
-  const auto bytes = text ? base64UrlDecode(*text) : std::nullopt;
-  if (!bytes) return std::nullopt;
-  return std::string(bytes->begin(), bytes->end());
-}
-
 // The log's words for what the browser reported instead of an answer.
 std::string browserFailure(std::string_view name) {
   if (name == "NotAllowedError" || name == "AbortError") return "User pressed Cancel button";
@@ -65,9 +54,9 @@ Value FingerprintReader::request() const {
   if (!live(check_)) return {};
   List allow;
   for (const auto& key : fingerprintKeysFor(context_.settings(), rpId()))
-    allow.push_back(encoded(key.credential.id));
+    allow.push_back(base64UrlEncode(key.credential.id));
   Map m;
-  m.set("challenge", encoded(check_->bytes));
+  m.set("challenge", base64UrlEncode(check_->bytes));
   m.set("rpId", rpId());
   m.set("allow", Value(std::move(allow)));
   m.set("timeout", milliseconds(kChallengeLife));
@@ -79,10 +68,10 @@ FingerprintAnswer FingerprintReader::answer(const Value& event) {
   const auto challenge = take(check_);
   if (const std::string* error = event["error"].asText())
     return failed(Outcome::Cancelled, browserFailure(*error));
-  const auto id = decoded(event["id"]);
-  const auto clientData = decoded(event["clientDataJSON"]);
-  const auto authenticatorData = decoded(event["authenticatorData"]);
-  const auto signature = decoded(event["signature"]);
+  const auto id = base64UrlDecodeString(event["id"].text());
+  const auto clientData = base64UrlDecodeString(event["clientDataJSON"].text());
+  const auto authenticatorData = base64UrlDecodeString(event["authenticatorData"].text());
+  const auto signature = base64UrlDecodeString(event["signature"].text());
   if (!challenge || !id || !clientData || !authenticatorData || !signature)
     return failed(Outcome::Failed, "Authentication Failed");
   for (auto key : fingerprintKeysFor(context_.settings(), rpId())) {
@@ -105,10 +94,10 @@ Value FingerprintReader::registration() const {
   if (!live(registration_)) return {};
   const std::string name = context_.translate(context_.edition().caption);
   Map m;
-  m.set("challenge", encoded(registration_->bytes));
+  m.set("challenge", base64UrlEncode(registration_->bytes));
   m.set("rpId", rpId());
   m.set("rpName", name);
-  m.set("userId", encoded(context_.values().appGuid));
+  m.set("userId", base64UrlEncode(context_.values().appGuid));
   m.set("userName", name);
   m.set("timeout", milliseconds(kChallengeLife));
   return Value(std::move(m));
@@ -120,8 +109,8 @@ EventResult FingerprintReader::enrol(const Value& event) {
   if (!challenge) return EventResult::refused("no fingerprint registration is pending");
   if (!passwordOn(context_.settings()))
     return EventResult::refused("a fingerprint key needs the password lock on");
-  const auto attestation = decoded(event["attestationObject"]);
-  const auto clientData = decoded(event["clientDataJSON"]);
+  const auto attestation = base64UrlDecodeString(event["attestationObject"].text());
+  const auto clientData = base64UrlDecodeString(event["clientDataJSON"].text());
   if (!attestation || !clientData)
     return EventResult::refused(
         "a registration needs base64url \"attestationObject\" and "

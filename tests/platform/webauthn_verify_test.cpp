@@ -3,6 +3,7 @@
 #include <gtest/gtest.h>
 
 #include "core/base64.h"
+#include "platform/cose_key.h"
 #include "tests/support/test_authenticator.h"
 
 namespace lad::platform {
@@ -112,6 +113,10 @@ TEST(WebAuthnTest, AssertionIsRefusedWhenAnyPartIsTampered) {
   changed = made;
   changed.authenticatorData.back() ^= 1;  // the counter, outside the signature's knowledge
   EXPECT_EQ(verify(c, changed).error, "the signature does not match the key");
+  changed = made;  // a frame of another site, signed as it came
+  changed.clientDataJSON.replace(changed.clientDataJSON.find("false"), 5, "true");
+  changed.signature = a.sign(changed.authenticatorData + sha256(changed.clientDataJSON));
+  EXPECT_EQ(verify(c, changed).error, "the client data comes from another origin");
   changed = made;
   changed.authenticatorData.resize(36);
   EXPECT_EQ(verify(c, changed).error, "the authenticator data is cut short");

@@ -12,13 +12,8 @@ using namespace std::chrono_literals;
 using lad::testing::Ceremony;
 using lad::testing::TestAuthenticator;
 
-std::string encoded(std::string_view raw) {
-  return base64UrlEncode(Bytes(raw.begin(), raw.end()));
-}
-
 std::string decoded(const Value& v) {
-  const auto bytes = base64UrlDecode(v.text());
-  return bytes ? std::string(bytes->begin(), bytes->end()) : std::string();
+  return base64UrlDecodeString(v.text()).value_or("");
 }
 
 // A browser on http://localhost:8080 whose platform authenticator is `key`.
@@ -60,8 +55,8 @@ class FingerprintLockTest : public lad::testing::ApplicationTest {
   static EventResult sendRegistration(Session& s, const lad::testing::MadeRegistration& made) {
     Map m;
     m.set("type", "fingerprintRegister");
-    m.set("attestationObject", encoded(made.attestationObject));
-    m.set("clientDataJSON", encoded(made.clientDataJSON));
+    m.set("attestationObject", base64UrlEncode(made.attestationObject));
+    m.set("clientDataJSON", base64UrlEncode(made.clientDataJSON));
     return s.handle(Value(std::move(m)));
   }
   EventResult answer(Session& s, const std::string& challenge, std::uint32_t count = 1) {
@@ -73,10 +68,10 @@ class FingerprintLockTest : public lad::testing::ApplicationTest {
   EventResult send(Session& s, const lad::testing::MadeAssertion& a) {
     Map m;
     m.set("type", "fingerprint");
-    m.set("id", encoded(key.credentialId()));
-    m.set("authenticatorData", encoded(a.authenticatorData));
-    m.set("clientDataJSON", encoded(a.clientDataJSON));
-    m.set("signature", encoded(a.signature));
+    m.set("id", base64UrlEncode(key.credentialId()));
+    m.set("authenticatorData", base64UrlEncode(a.authenticatorData));
+    m.set("clientDataJSON", base64UrlEncode(a.clientDataJSON));
+    m.set("signature", base64UrlEncode(a.signature));
     return s.handle(Value(std::move(m)));
   }
 

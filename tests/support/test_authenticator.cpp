@@ -88,7 +88,7 @@ std::string TestAuthenticator::coseKey() const {
 }
 
 std::string TestAuthenticator::clientData(std::string_view type, const Ceremony& c) {
-  const std::string challenge = base64UrlEncode(Bytes(c.challenge.begin(), c.challenge.end()));
+  const std::string challenge = base64UrlEncode(c.challenge);
   return R"({"type":")" + std::string(type) + R"(","challenge":")" + challenge + R"(","origin":")" +
          c.origin + R"(","crossOrigin":false})";
 }
