@@ -112,9 +112,7 @@ EventResult FingerprintReader::enrol(const Value& event) {
   const auto attestation = base64UrlDecodeString(event["attestationObject"].text());
   const auto clientData = base64UrlDecodeString(event["clientDataJSON"].text());
   if (!attestation || !clientData)
-    return EventResult::refused(
-        "a registration needs base64url \"attestationObject\" and "
-        "\"clientDataJSON\"");
+    return EventResult::refused("a registration needs its fields in base64url");
   const auto made =
       platform::readRegistration(*attestation, *clientData, {challenge->bytes, rpId(), host_});
   if (!made.credential)

@@ -1,6 +1,7 @@
 #include <gtest/gtest.h>
 
 #include "core/base64.h"
+#include "shell/fingerprint_keys.h"
 #include "shell/session.h"
 #include "tests/shell/application_fixture.h"
 #include "tests/support/test_authenticator.h"
@@ -146,6 +147,7 @@ TEST_F(FingerprintLockTest, TheKeyUnlocksOnceWithAFreshChallenge) {
   EXPECT_FALSE(s->locked());
   EXPECT_EQ(settings().dateForKey("deactive"), clock->now());
   EXPECT_EQ(settings().get("fingerprintKeys").asList()->at(0)["count"].intValue(), 7);
+  EXPECT_FALSE(answer(*s, challenge, 8).ok());  // no lock is waiting any more
 
   // The same answer again, in another locked browser: its challenge is another.
   auto again = browser();
@@ -231,6 +233,31 @@ TEST_F(FingerprintLockTest, TurningThePasswordOffForgetsTheKeys) {
   ASSERT_TRUE(locked->locked());
   EXPECT_TRUE(keyOf(*locked).isNull());
   EXPECT_FALSE(locked->handle(*Value::fromJson(R"({"type":"authenticator"})")).ok());
+}
+
+TEST_F(FingerprintLockTest, DamagedStoredKeysAreSkippedAndARegisteredKeyIsReplaced) {
+  settings().set("fingerprintKeys", *Value::fromJson(R"([
+    {"id": "", "key": "AA", "count": 0, "rpId": "localhost"},
+    {"id": "a+b/", "key": "AA", "count": 0, "rpId": "localhost"},
+    {"id": "AA", "key": "AA", "count": -1, "rpId": "localhost"},
+    {"id": "AA", "key": "AA", "count": 0},
+    "text",
+    {"id": "AQ", "key": "Ag", "count": 3, "rpId": "localhost"}])"));
+  auto keys = fingerprintKeysFor(settings(), "localhost");
+  ASSERT_EQ(keys.size(), 1u);
+  EXPECT_EQ(keys[0].credential.id, "\x01");
+  EXPECT_EQ(keys[0].credential.signCount, 3u);
+  EXPECT_TRUE(fingerprintKeysFor(settings(), "example.org").empty());
+
+  keys[0].credential.signCount = 4;
+  keepFingerprintKey(settings(), keys[0]);
+  keepFingerprintKey(settings(), {{"\x01", "\x02", 0}, "example.org"});
+  EXPECT_EQ(settings().get("fingerprintKeys").asList()->size(), 7u);
+  EXPECT_EQ(fingerprintKeysFor(settings(), "localhost").at(0).credential.signCount, 4u);
+  EXPECT_EQ(fingerprintKeysFor(settings(), "example.org").size(), 1u);
+
+  settings().set("fingerprintKeys", "not a list");
+  EXPECT_TRUE(fingerprintKeysFor(settings(), "localhost").empty());
 }
 
 }  // namespace
