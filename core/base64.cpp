@@ -56,4 +56,30 @@ std::optional<Bytes> base64Decode(std::string_view text) {
   return out;
 }
 
+std::string base64UrlEncode(const Bytes& bytes) {
+  std::string out = base64Encode(bytes);
+  while (!out.empty() && out.back() == '=') out.pop_back();
+  for (char& c : out) c = c == '+' ? '-' : c == '/' ? '_' : c;
+  return out;
+}
+
+std::optional<Bytes> base64UrlDecode(std::string_view text) {
+  if (text.find_first_of("+/=") != std::string_view::npos || text.size() % 4 == 1)
+    return std::nullopt;
+  std::string standard(text);
+  for (char& c : standard) c = c == '-' ? '+' : c == '_' ? '/' : c;
+  standard.append((4 - standard.size() % 4) % 4, '=');
+  return base64Decode(standard);
+}
+
+std::string base64UrlEncode(std::string_view raw) {
+  return base64UrlEncode(Bytes(raw.begin(), raw.end()));
+}
+
+std::optional<std::string> base64UrlDecodeString(std::string_view text) {
+  const auto bytes = base64UrlDecode(text);
+  if (!bytes) return std::nullopt;
+  return std::string(bytes->begin(), bytes->end());
+}
+
 }  // namespace lad

@@ -122,14 +122,16 @@ struct HttpServer::Impl {
 
   void routeApi() {
     http.Get("/api/view", [this](const httplib::Request& req, httplib::Response& res) {
-      sendJson(res, installation.view(cookieValue(req, kSessionCookie)));
+      sendJson(res,
+               installation.view(cookieValue(req, kSessionCookie), req.get_header_value("Host")));
     });
     http.Post("/api/event", [this](const httplib::Request& req, httplib::Response& res) {
       if (auto problem = crossOriginProblem(req); !problem.empty())
         return sendError(res, 403, problem);
       if (!isJsonContent(req.get_header_value("Content-Type")))
         return sendError(res, 415, "an event must be sent as application/json");
-      sendJson(res, installation.event(cookieValue(req, kSessionCookie), req.body));
+      sendJson(res, installation.event(cookieValue(req, kSessionCookie), req.body,
+                                       req.get_header_value("Host")));
     });
     http.Get("/manifest.webmanifest", [this](const httplib::Request&, httplib::Response& res) {
       res.set_content(installation.manifest(), "application/manifest+json");

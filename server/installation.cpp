@@ -53,7 +53,8 @@ void Installation::shutdown() {
   loop_.stop();
 }
 
-shell::Session& Installation::sessionFor(const std::string& id, Reply& reply) {
+shell::Session& Installation::sessionFor(const std::string& id, const std::string& host,
+                                         Reply& reply) {
   auto it = sessions_.find(id);
   if (it == sessions_.end()) {
     if (sessions_.size() >= kMaxSessions) evictOldestSession();
@@ -62,6 +63,7 @@ shell::Session& Installation::sessionFor(const std::string& id, Reply& reply) {
   }
   it->second.lastUse = ++useCounter_;
   reply.session = it->first;
+  it->second.session->fingerprint().setHost(host);
   return *it->second.session;
 }
 
@@ -72,20 +74,21 @@ void Installation::evictOldestSession() {
   sessions_.erase(oldest);
 }
 
-Reply Installation::view(const std::string& session) {
+Reply Installation::view(const std::string& session, const std::string& host) {
   return loop_.call([&] {
     Reply reply;
-    reply.body = viewBody(sessionFor(session, reply));
+    reply.body = viewBody(sessionFor(session, host, reply));
     return reply;
   });
 }
 
-Reply Installation::event(const std::string& session, std::string_view body) {
+Reply Installation::event(const std::string& session, std::string_view body,
+                          const std::string& host) {
   std::string parseError;
   auto parsed = Value::fromJson(body, &parseError);
   return loop_.call([&] {
     Reply reply;
-    shell::Session& s = sessionFor(session, reply);
+    shell::Session& s = sessionFor(session, host, reply);
     const shell::EventResult result =
         parsed ? s.handle(*parsed)
                : shell::EventResult::refused("the event is not valid JSON: " + parseError);

@@ -31,8 +31,9 @@ class Installation {
   explicit Installation(ContextOptions options);
   ~Installation();
 
-  Reply view(const std::string& session);
-  Reply event(const std::string& session, std::string_view body);
+  // `host` is the host (and port) the browser named: the fingerprint keys are bound to it.
+  Reply view(const std::string& session, const std::string& host = "");
+  Reply event(const std::string& session, std::string_view body, const std::string& host = "");
   // The lock is on with a code: only then may other machines be served.
   bool passwordSet();
   // The edition's web app manifest (JSON).
@@ -54,7 +55,7 @@ class Installation {
     std::uint64_t lastUse = 0;
   };
   // Main loop only.
-  shell::Session& sessionFor(const std::string& id, Reply& reply);
+  shell::Session& sessionFor(const std::string& id, const std::string& host, Reply& reply);
   void evictOldestSession();
   void afterEvent(const shell::EventResult& result);
 

@@ -1,5 +1,6 @@
 #include "shell/password_lock.h"
 
+#include "shell/fingerprint_keys.h"
 #include "shell/password_hash.h"
 
 namespace lad::shell {
@@ -53,8 +54,9 @@ bool keepHashed(SettingsStore& settings, const std::string& code) {
 
 }  // namespace
 
-PasswordLock::PasswordLock(Context& context, LockThrottle& throttle, LockMode mode)
-    : context_(context), throttle_(throttle) {
+PasswordLock::PasswordLock(Context& context, LockThrottle& throttle, FingerprintReader& reader,
+                           LockMode mode)
+    : context_(context), throttle_(throttle), reader_(reader) {
   start(mode);
 }
 
@@ -79,12 +81,29 @@ Value PasswordLock::view() {
   m.set("deleteId", std::string(kLockDelete));
   m.set("digitPrefix", std::string(kLockDigitPrefix));
   m.set("wait", static_cast<std::int64_t>(throttle_.waitAt(context_.clock().now()).count()));
+  if (mode_ == LockMode::Check && reader_.usable()) m.set("fingerprint", fingerprintKey(prefix));
   return Value(std::move(m));
+}
+
+// The key, and the pending check that the browser runs; showing the key the first time starts
+// one unless wrong codes still make the pad wait.
+Value PasswordLock::fingerprintKey(const std::string& iconPrefix) {
+  if (!askedAtOnce_ && throttle_.waitAt(context_.clock().now()).count() == 0) {
+    askedAtOnce_ = true;
+    reader_.ask();
+  }
+  Map key;
+  key.set("id", std::string(kLockFingerprint));
+  key.set("key", iconPrefix + "pass-id.png");
+  key.set("hint", context_.translate("Для авторизации приложите палец к сканеру"));
+  key.set("request", reader_.request());
+  return Value(std::move(key));
 }
 
 EventResult PasswordLock::tap(std::string_view target) {
   if (closed_) return EventResult::refused("the lock is closed");
   if (target == kLockDelete) return pressDelete();
+  if (target == kLockFingerprint) return pressFingerprint();
   if (target.size() == kLockDigitPrefix.size() + 1 && target.starts_with(kLockDigitPrefix)) {
     const char digit = target.back();
     if (digit >= '0' && digit <= '9') return pressDigit(digit);
@@ -113,6 +132,44 @@ EventResult PasswordLock::pressDigit(char digit) {
   return entry_.size() == kCodeLength ? decide() : EventResult{};
 }
 
+// The fingerprint key leaves the caption as it is.
+EventResult PasswordLock::pressFingerprint() {
+  if (mode_ != LockMode::Check)
+    return EventResult::refused("the fingerprint key only opens the lock");
+  const auto wait = throttle_.waitAt(context_.clock().now());
+  if (wait.count() > 0) return redrawIn(wait);
+  reader_.ask();
+  return {};
+}
+
+EventResult PasswordLock::fingerprint(const Value& event) {
+  if (closed_ || mode_ != LockMode::Check)
+    return EventResult::refused("no lock is waiting for the fingerprint");
+  const Date now = context_.clock().now();
+  const auto wait = throttle_.waitAt(now);
+  if (wait.count() > 0) return redrawIn(wait);
+  // The browser's dialog may have hidden the page: its return must not bring the lock back.
+  SettingsStore& settings = context_.settings();
+  settings.set("deactive", now);
+  settings.synchronize();
+  switch (reader_.answer(event).outcome) {
+    case FingerprintAnswer::Outcome::Unlocked:
+      unlock();
+      return {};
+    case FingerprintAnswer::Outcome::Failed:
+      throttle_.failed(now);
+      return redrawIn(throttle_.waitAt(now));
+    case FingerprintAnswer::Outcome::Cancelled:
+      break;
+  }
+  return {};
+}
+
+void PasswordLock::unlock() {
+  throttle_.succeeded();
+  closed_ = true;
+}
+
 EventResult PasswordLock::decide() {
   switch (mode_) {
     case LockMode::New:
@@ -134,8 +191,7 @@ EventResult PasswordLock::check() {
   const std::string stored = settings.stringForKey("password");
   if (passwordMatches(stored, entry_)) {
     if (!isPasswordHash(stored) && keepHashed(settings, entry_)) settings.synchronize();
-    throttle_.succeeded();
-    closed_ = true;
+    unlock();
     return {};
   }
   entry_.clear();
@@ -155,6 +211,7 @@ void PasswordLock::confirm() {
       "Пароль");
   firstEntry_.clear();
   closed_ = true;
+  if (set) reader_.offerRegistration();
 }
 
 void PasswordLock::cancel() {
@@ -167,6 +224,7 @@ bool passwordOn(const SettingsStore& settings) {
 }
 
 void turnPasswordOff(SettingsStore& settings) {
+  forgetFingerprintKeys(settings);
   storeSwitch(settings, false);
 }
 

@@ -38,7 +38,8 @@ constexpr int kFirstProfilePage = 16, kLastProfilePage = 18;
 Session::Session(Application& app)
     : app_(app),
       menu_(app.context(), app.store()),
-      ring_(PageRing::pagesOf(app.context().values().tabMenu, builtPages())) {
+      ring_(PageRing::pagesOf(app.context().values().tabMenu, builtPages())),
+      fingerprint_(app.context()) {
   menu_.onOpenPage([this](int page) { return openTab(page); });
   addMenuCommands();
   if (passwordOn(app.context().settings())) showLock(LockMode::Check);
@@ -98,7 +99,7 @@ void Session::popClosed() {
 }
 
 void Session::showLock(LockMode mode) {
-  lock_.emplace(app_.context(), app_.lockThrottle(), mode);
+  lock_.emplace(app_.context(), app_.lockThrottle(), fingerprint_, mode);
 }
 
 void Session::askNewPassword() {
@@ -117,6 +118,8 @@ Value Session::view() {
                                    : menu_.view();
   if (popup_) screen.asMap()->set("popup", popup_->view());
   if (message_) screen.asMap()->set("message", message_->toValue());
+  if (Value enrol = fingerprint_.registration(); !enrol.isNull())
+    screen.asMap()->set("fingerprintRegister", std::move(enrol));
   // The browser sends tilt samples only while they can move a page.
   screen.asMap()->set("tilt",
                       atRoot() && !app_.context().values().accStop && !menu_.activeId().empty());
@@ -136,6 +139,8 @@ EventResult Session::handle(const Value& event) {
   if (*type == "shortcut") return setShortcut(event);
   if (*type == "drag") return drag(event);
   if (*type == "tilt") return tilt(event);
+  if (*type == "authenticator" || *type == "fingerprint" || *type == "fingerprintRegister")
+    return fingerprintEvent(event);
   if (*type == "tap") {
     const std::string* target = event["target"].asText();
     if (!target) return EventResult::refused("a tap needs a text \"target\"");
@@ -287,7 +292,17 @@ Value Session::withBackground(Value screen) const {
 }
 
 EventResult Session::tapLock(std::string_view target) {
-  EventResult result = lock_->tap(target);
+  return afterLock(lock_->tap(target));
+}
+
+// The lock's own answer goes to it; the reader takes the rest.
+EventResult Session::fingerprintEvent(const Value& event) {
+  if (event["type"].text() != "fingerprint") return fingerprint_.handle(event);
+  if (!locked()) return EventResult::refused("no lock is waiting for the fingerprint");
+  return afterLock(lock_->fingerprint(event));
+}
+
+EventResult Session::afterLock(EventResult result) {
   if (lock_->closed()) {
     if (lock_->outcome()) showMessage(*lock_->outcome());
     lock_.reset();

@@ -38,8 +38,11 @@ class Session : public ScreenHost {
   //   {"type": "viewport", "width": w, "height": h},
   //   {"type": "visible"}, {"type": "hidden"}, {"type": "shortcut", "name": "SCHVATKI"},
   //   {"type": "drag", "offset": px, "width": px} when the finger lifts off a dragged page,
-  //   {"type": "tilt", "x": g, "upsideDown": bool} every 0.3 s while the page is shown.
+  //   {"type": "tilt", "x": g, "upsideDown": bool} every 0.3 s while the page is shown,
+  //   {"type": "authenticator" | "fingerprint" | "fingerprintRegister", ...} (FingerprintReader).
   EventResult handle(const Value& event);
+  // This browser's fingerprint reader; the host sets the host name the browser uses.
+  FingerprintReader& fingerprint() { return fingerprint_; }
 
   const ScreenMetrics& metrics() const { return metrics_; }
   // The last activation asked for the password lock.
@@ -66,7 +69,8 @@ class Session : public ScreenHost {
   EventResult tap(std::string_view target, const Value& value);
   EventResult change(const Value& event);
   EventResult tapLock(std::string_view target);
-  EventResult tapTop(std::string_view target);
+  EventResult fingerprintEvent(const Value& event);
+  EventResult afterLock(EventResult result);
   EventResult tapPage(std::string_view target);
   EventResult togglePassword();
   void addMenuCommands();
@@ -96,6 +100,7 @@ class Session : public ScreenHost {
   TiltNavigator tilt_;
   std::vector<std::shared_ptr<Screen>> stack_;  // screens over the menu and pages, top last
   std::optional<MessageBox> message_;
+  FingerprintReader fingerprint_;
   std::optional<PasswordLock> lock_;
   std::unique_ptr<Popup> popup_;
   PopupAction popupAction_;

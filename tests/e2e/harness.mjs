@@ -83,12 +83,14 @@ export async function stopServer(server) {
 
 /** A phone-sized page of a new installation with its greeting closed, and the page errors it
  *  collects. */
-export async function openPastGreeting(browser, base) {
+/** Opens the app past the greeting; `prepare(page)` runs before the first load. */
+export async function openPastGreeting(browser, base, prepare = async () => {}) {
   const context = await browser.newContext(PHONE);
   const page = await context.newPage();
   page.setDefaultTimeout(STEP_TIMEOUT_MS);
   const errors = [];
   page.on('pageerror', (error) => errors.push(error.message));
+  await prepare(page);
   await page.goto(`${base}/`);
   await page.waitForSelector('.welcome');
   await page.tap('.welcome-footer button');

@@ -71,5 +71,30 @@ TEST_F(LockAccessTest, OtherMachinesAreServedOnlyWithAPasswordSet) {
   EXPECT_TRUE(installation_->passwordSet());
 }
 
+// The fingerprint key is bound to the host name the browser used, with the port left off.
+TEST_F(LockAccessTest, AFingerprintRegistrationNamesTheHostOfTheRequest) {
+  const std::string session = openSession();
+  const httplib::Headers host{{"Host", "localhost:" + std::to_string(port_)}};
+  ASSERT_EQ(postEvent(R"({"type":"authenticator","available":true})", session, host)->status, 200);
+  tap(session, "menu:52");
+  for (char d : std::string("24682468")) tap(session, std::string("lock:") + d);
+  httplib::Headers viewHeaders = sessionHeaders(session);
+  viewHeaders.insert(host.begin(), host.end());
+  auto res = client()->Get("/api/view", viewHeaders);
+  ASSERT_TRUE(res);
+  ASSERT_EQ(res->status, 200) << res->body;
+  const Json offer = Json::parse(res->body)["view"]["fingerprintRegister"];
+  EXPECT_EQ(offer["rpId"], "localhost") << res->body;
+  EXPECT_EQ(offer["challenge"].get<std::string>().size(), 43u);  // 32 bytes in base64url
+  // A registration that does not parse is refused with a reason, and nothing is kept.
+  res =
+      postEvent(R"({"type":"fingerprintRegister","attestationObject":"AA","clientDataJSON":"e30"})",
+                session, host);
+  ASSERT_TRUE(res);
+  EXPECT_EQ(res->status, 400);
+  EXPECT_NE(res->body.find("not registered"), std::string::npos) << res->body;
+  EXPECT_EQ(settingsNow().find("fingerprintKeys"), std::string::npos);
+}
+
 }  // namespace
 }  // namespace lad::server::test

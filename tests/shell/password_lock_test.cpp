@@ -13,9 +13,12 @@ using namespace std::chrono_literals;
 
 class PasswordLockTest : public lad::testing::ApplicationTest {
  protected:
-  PasswordLockTest() { launchApp(); }
+  PasswordLockTest() {
+    launchApp();
+    reader.emplace(app->context());
+  }
 
-  PasswordLock lock(LockMode mode) { return PasswordLock(app->context(), throttle, mode); }
+  PasswordLock lock(LockMode mode) { return PasswordLock(app->context(), throttle, *reader, mode); }
   static EventResult type(Screen& screen, std::string_view digits) {
     EventResult last;
     for (char d : digits) last = screen.tap("lock:" + std::string(1, d));
@@ -34,6 +37,7 @@ class PasswordLockTest : public lad::testing::ApplicationTest {
   }
 
   LockThrottle throttle;
+  std::optional<FingerprintReader> reader;
 };
 
 TEST_F(PasswordLockTest, NewCodeIsRepeatedAndKeptOnlyAsAHash) {

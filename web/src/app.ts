@@ -2,6 +2,7 @@
 // When the server cannot be reached the last view stays up and loading is retried quietly.
 import { fetchView, RefusedError, sendEvent } from './api.js';
 import { listen } from './events.js';
+import { authenticatorEvent, runCeremonies } from './fingerprint.js';
 import { showNotice } from './notice.js';
 import { followDrags, followTilt } from './gestures.js';
 import { editorValueOf } from './editor.js';
@@ -31,6 +32,7 @@ async function request(load: () => Promise<Screen>): Promise<boolean> {
     if (ticket === newest) {
       show(root, view);
       tiltOn = view.tilt === true;
+      runCeremonies(view, send);
     }
     retryDelay = RETRY_FIRST_MS;
     startListening();
@@ -59,6 +61,7 @@ async function activate(): Promise<boolean> {
     window.history.replaceState(null, '', url);
     await send({ type: 'shortcut', name: shortcut });
   }
+  await send(await authenticatorEvent());
   return send({ type: 'visible' });
 }
 

@@ -6,6 +6,7 @@ import type {
   ButtonNode,
   ButtonsNode,
   CardNode,
+  FingerprintKeyNode,
   ListNode,
   LockNode,
   MessageNode,
@@ -195,9 +196,9 @@ function renderLock(node: LockNode): HTMLElement {
   return lock;
 }
 
-/** A key of the pad; the gap left of zero is an empty slot. */
+/** A key of the pad; left of zero stands the fingerprint key when it is offered. */
 function renderPadKey(node: LockNode, key: string): HTMLElement {
-  if (key === '') return element('span', 'lock-gap');
+  if (key === '') return node.fingerprint ? renderFingerprintKey(node.fingerprint, node.wait) : element('span', 'lock-gap');
   const button = element('button', 'lock-key');
   button.type = 'button';
   const erase = key === 'delete';
@@ -206,6 +207,16 @@ function renderPadKey(node: LockNode, key: string): HTMLElement {
   if (!erase) button.textContent = key;
   else button.setAttribute('aria-label', '⌫');
   button.disabled = node.wait > 0 && !erase;
+  return button;
+}
+
+function renderFingerprintKey(key: FingerprintKeyNode, wait: number): HTMLElement {
+  const button = element('button', 'lock-key lock-fingerprint');
+  button.type = 'button';
+  button.dataset.id = key.id;
+  button.style.backgroundImage = `url(/img/${encodeURIComponent(key.key)})`;
+  button.setAttribute('aria-label', key.hint);
+  button.disabled = wait > 0;
   return button;
 }
 

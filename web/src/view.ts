@@ -125,6 +125,34 @@ export interface LockNode {
   digitPrefix: string;
   /** Seconds before the pad takes keys again after wrong codes. */
   wait: number;
+  /** Present when the key of the fingerprint reader is offered. */
+  fingerprint?: FingerprintKeyNode;
+}
+
+/** The fingerprint key of the lock: its tap id, picture, spoken label and pending check. */
+export interface FingerprintKeyNode {
+  id: string;
+  key: string;
+  hint: string;
+  request?: AssertionRequest;
+}
+
+/** A one-time check by the platform authenticator; binary fields are base64url. */
+export interface AssertionRequest {
+  challenge: string;
+  rpId: string;
+  allow: string[];
+  timeout: number;
+}
+
+/** A one-time registration of a key with the platform authenticator. */
+export interface RegistrationRequest {
+  challenge: string;
+  rpId: string;
+  rpName: string;
+  userId: string;
+  userName: string;
+  timeout: number;
 }
 
 /** The chosen background and the colours of its theme. */
@@ -243,6 +271,7 @@ export type Screen = ViewNode & {
   message?: MessageNode;
   theme?: Theme;
   tilt?: boolean;
+  fingerprintRegister?: RegistrationRequest;
 };
 
 export type ClientEvent =
@@ -253,4 +282,9 @@ export type ClientEvent =
   | { type: 'hidden' }
   | { type: 'shortcut'; name: string }
   | { type: 'drag'; offset: number; width: number }
-  | { type: 'tilt'; x: number; upsideDown: boolean };
+  | { type: 'tilt'; x: number; upsideDown: boolean }
+  | { type: 'authenticator'; available: boolean }
+  | { type: 'fingerprint'; error: string }
+  | { type: 'fingerprint'; id: string; clientDataJSON: string; authenticatorData: string; signature: string }
+  | { type: 'fingerprintRegister'; error: string }
+  | { type: 'fingerprintRegister'; clientDataJSON: string; attestationObject: string };

@@ -1,0 +1,77 @@
+// Browser test of the lock's fingerprint key with the browser's virtual platform authenticator.
+//   node tests/e2e/fingerprint.test.mjs --server PATH_TO_SERVER --out SCREENSHOT_DIR
+import assert from 'node:assert/strict';
+import path from 'node:path';
+import { openPastGreeting, runBrowserTest, sleep, STEP_TIMEOUT_MS } from './harness.mjs';
+
+const CODE = '2580';
+const PASSWORD_SWITCH = 'menu:52';
+const KEY = 'button[data-id="lock:fingerprint"]';
+
+async function typeCode(page, code) {
+  for (const digit of code) await page.tap(`button[data-id="lock:${digit}"]`);
+}
+
+async function until(what, test) {
+  const end = Date.now() + STEP_TIMEOUT_MS;
+  while (!(await test())) {
+    if (Date.now() > end) throw new Error(`timed out waiting for ${what}`);
+    await sleep(50);
+  }
+}
+
+// A phone's reader: verifies its user, and the user is always at hand.
+async function addReader(page) {
+  const cdp = await page.context().newCDPSession(page);
+  await cdp.send('WebAuthn.enable');
+  const { authenticatorId } = await cdp.send('WebAuthn.addVirtualAuthenticator', {
+    options: {
+      protocol: 'ctap2',
+      transport: 'internal',
+      hasResidentKey: true,
+      hasUserVerification: true,
+      isUserVerified: true,
+      automaticPresenceSimulation: true,
+    },
+  });
+  return { cdp, authenticatorId };
+}
+
+await runBrowserTest('fingerprint', async ({ browser, base, outDir, server }) => {
+  // Keys are bound to a host name; an address does not take them.
+  const site = base.replace('127.0.0.1', 'localhost');
+  let reader;
+  const { context, page, errors } = await openPastGreeting(browser, site, async (p) => {
+    reader = await addReader(p);
+  });
+  const { cdp, authenticatorId } = reader;
+  const keysOnReader = async () =>
+    (await cdp.send('WebAuthn.getCredentials', { authenticatorId })).credentials.length;
+
+  // Setting a code registers the reader's key.
+  await page.tap(`[data-id="${PASSWORD_SWITCH}"]`);
+  await typeCode(page, CODE + CODE);
+  await page.waitForSelector('.message');
+  await until('the key to be registered', async () => (await keysOnReader()) === 1);
+  await page.tap('.message button');
+
+  // A new browser session is locked; the check that starts at once fails (the finger is not
+  // recognised) and the lock stays with the key.
+  await cdp.send('WebAuthn.setUserVerified', { authenticatorId, isUserVerified: false });
+  await context.clearCookies();
+  await page.reload();
+  await page.waitForSelector(KEY);
+  await until('the first check to fail', () =>
+    /Authentication Failed|User pressed Cancel button/.test(server.log));
+  assert.equal(await page.textContent('.lock-caption'), 'Введите пароль');
+  assert.equal(await page.$('.row'), null, 'nothing of the diary behind the lock');
+  await page.screenshot({ path: path.join(outDir, 'fingerprint-key.png') });
+
+  // The key asks again, and the recognised finger opens the diary.
+  await cdp.send('WebAuthn.setUserVerified', { authenticatorId, isUserVerified: true });
+  await page.tap(KEY);
+  await page.waitForSelector('.row[data-id]');
+  await page.screenshot({ path: path.join(outDir, 'fingerprint-open.png') });
+  assert.deepEqual(errors, [], 'no uncaught errors in the page');
+  await context.close();
+});
