@@ -107,6 +107,20 @@ async function checkEveryBackground(page, outDir) {
   }
 }
 
+/** The contraction counter's page with its charts fits the tablet too. */
+async function checkCounterPage(page, base, outDir) {
+  await page.goto(`${base}/?shortcut=SCHVATKI`);
+  await page.waitForSelector('.ring-page [data-info="trend"]');
+  const sizes = await page.evaluate(() => ({
+    scrollWidth: document.documentElement.scrollWidth,
+    charts: [...document.querySelectorAll('.ring-page .chart')].map((c) => c.getBoundingClientRect().right),
+  }));
+  const width = TABLET.viewport.width;
+  assert.ok(sizes.scrollWidth <= width, `the counter: no sideways scrolling (${sizes.scrollWidth})`);
+  assert.ok(sizes.charts.length === 2 && sizes.charts.every((right) => right <= width), 'the counter: charts fit');
+  await page.screenshot({ path: path.join(outDir, 'looks-tablet-counter.png'), fullPage: true });
+}
+
 async function checkLandscapeTablet(page, outDir) {
   await page.setViewportSize({ width: TABLET.viewport.height, height: TABLET.viewport.width });
   await page.waitForFunction((w) => window.innerWidth === w, TABLET.viewport.height);
@@ -167,6 +181,8 @@ await runBrowserTest('looks', async ({ browser, base, outDir, dataDir }) => {
   await tablet.page.waitForSelector('.card.open');
   await checkMenu(tablet.page, TABLET, path.join(outDir, 'looks-tablet'));
   await checkLandscapeTablet(tablet.page, outDir);
+  await tablet.page.setViewportSize(TABLET.viewport);
+  await checkCounterPage(tablet.page, base, outDir);
 
   await checkPortraitBehindLock(phone.page);
   assert.deepEqual([...phone.errors, ...tablet.errors], [], 'no uncaught errors in the pages');
