@@ -103,7 +103,7 @@ async function checkEveryBackground(page, outDir) {
     await chooseBackground(page, id);
     const looks = await looksOf(page);
     checkReadable(looks, `background ${id}`);
-    await page.screenshot({ path: path.join(outDir, `looks-phone-background-${id}.png`), fullPage: true });
+    await page.screenshot({ path: path.join(outDir, `looks-phone-background-${id}.png`) });
   }
 }
 
