@@ -1,6 +1,7 @@
 #include "core/ids.h"
 
 #include <array>
+#include <cctype>
 #include <cstdint>
 #include <cstdio>
 #include <random>
@@ -27,6 +28,16 @@ std::string newID() {
 std::string newID2(int group, std::int64_t n) {
   const std::string number = "000000000000" + std::to_string(n);
   return "00000000-0000-0000-000" + std::to_string(group) + "-" + number.substr(number.size() - 12);
+}
+
+bool isID(std::string_view text) {
+  constexpr std::size_t kLength = 36;
+  if (text.size() != kLength) return false;
+  for (std::size_t i = 0; i < kLength; ++i) {
+    const bool dash = i == 8 || i == 13 || i == 18 || i == 23;
+    if (dash ? text[i] != '-' : !std::isxdigit(static_cast<unsigned char>(text[i]))) return false;
+  }
+  return true;
 }
 
 }  // namespace lad

@@ -10,6 +10,9 @@
 #include <cstring>
 #include <thread>
 
+#include "core/atomic_file.h"
+#include "shell/profile_cards.h"
+
 namespace lad::server {
 
 namespace {
@@ -136,6 +139,9 @@ struct HttpServer::Impl {
     http.Get("/manifest.webmanifest", [this](const httplib::Request&, httplib::Response& res) {
       res.set_content(installation.manifest(), "application/manifest+json");
     });
+    http.Get(
+        std::string(shell::kPortraitAddress) + "([^/]+)",
+        [this](const httplib::Request& req, httplib::Response& res) { sendPortrait(req, res); });
     http.Get("/api/events",
              [this](const httplib::Request&, httplib::Response& res) { streamEvents(res); });
     if (options.testClock) routeTestClock();
@@ -151,6 +157,16 @@ struct HttpServer::Impl {
           std::chrono::milliseconds(static_cast<std::int64_t>(advance->doubleValue() * 1000)));
       res.set_content(Value(Map()).toJson(), "application/json");
     });
+  }
+
+  // Kept by the browser for this page only: the next session must ask again.
+  void sendPortrait(const httplib::Request& req, httplib::Response& res) {
+    const FileReply reply =
+        installation.portrait(cookieValue(req, kSessionCookie), req.matches[1].str());
+    auto bytes = reply.status == 200 ? readWholeFile(reply.file) : std::nullopt;
+    if (!bytes) return sendError(res, reply.status == 200 ? 404 : reply.status, reply.error);
+    res.set_header("Cache-Control", "private, no-store");
+    res.set_content(std::move(*bytes), "image/jpeg");
   }
 
   void streamEvents(httplib::Response& res) {

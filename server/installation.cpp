@@ -5,6 +5,7 @@
 #include "core/ids.h"
 #include "shell/app_manifest.h"
 #include "shell/password_lock.h"
+#include "store/folders.h"
 
 namespace lad::server {
 
@@ -99,6 +100,18 @@ Reply Installation::event(const std::string& session, std::string_view body,
     afterEvent(result);
     reply.body = viewBody(s);
     return reply;
+  });
+}
+
+FileReply Installation::portrait(const std::string& session, const std::string& guid) {
+  return loop_.call([&]() -> FileReply {
+    const auto it = sessions_.find(session);
+    if (it == sessions_.end() || it->second.session->locked())
+      return {403, {}, "the portrait is shown only to an unlocked session"};
+    if (!isID(guid)) return {400, {}, "not a profile identifier"};
+    std::filesystem::path file = portraitFile(app_->context(), guid);
+    if (!std::filesystem::is_regular_file(file)) return {404, {}, "the profile has no portrait"};
+    return {200, std::move(file), {}};
   });
 }
 

@@ -2,6 +2,7 @@
 // main loop; HTTP handler threads reach them only through the calls below.
 #pragma once
 
+#include <filesystem>
 #include <memory>
 #include <string>
 #include <string_view>
@@ -25,6 +26,13 @@ struct Reply {
   void refuse(int refusalStatus, const std::string& message);
 };
 
+// A file the server may send, or why not.
+struct FileReply {
+  int status = 200;
+  std::filesystem::path file;  // set with status 200
+  std::string error;
+};
+
 class Installation {
  public:
   // Opens the installation and runs its launch on the main loop.
@@ -34,6 +42,9 @@ class Installation {
   // `host` is the host (and port) the browser named: the fingerprint keys are bound to it.
   Reply view(const std::string& session, const std::string& host = "");
   Reply event(const std::string& session, std::string_view body, const std::string& host = "");
+  // A profile's portrait for a browser session: 403 to a session that is unknown or locked,
+  // 400 for a guid that is not an identifier, 404 when the profile has no portrait.
+  FileReply portrait(const std::string& session, const std::string& guid);
   // The lock is on with a code: only then may other machines be served.
   bool passwordSet();
   // The edition's web app manifest (JSON).

@@ -40,9 +40,11 @@ Map stateSetup(const Map& profile) {
 ProfileCard cardOf(const Context& context, const Map& profile) {
   ProfileCard card;
   card.guid = profile["guid"].text();
-  card.picture = std::filesystem::exists(portraitFile(context, card.guid))
-                     ? "child-" + card.guid + ".jpg"
-                     : kNoPicture;
+  card.picture = kNoPicture;
+  if (std::filesystem::exists(portraitFile(context, card.guid))) {
+    card.picture = portraitFile(context, card.guid).filename();
+    card.portrait = std::string(kPortraitAddress) + card.guid;
+  }
   card.name = profile["childname"].text();
   if (card.name.empty()) card.name = context.translate("Без имени");
   card.sexIcon = sexIcon(profile["sex"]);
@@ -68,7 +70,8 @@ ProfileCard invitingCard(const Context& context) {
       kNoPicture,
       context.translate("Вы не беременны"),
       "",
-      {context.translate("Для добавления беременности нажмите на кнопку \"Новая беременность\"")}};
+      {context.translate("Для добавления беременности нажмите на кнопку \"Новая беременность\"")},
+      ""};
 }
 
 }  // namespace
@@ -86,6 +89,7 @@ Value ProfileCard::toValue(bool open) const {
   m.set("kind", "card");
   m.set("id", guid.empty() ? "" : cardTarget(guid));
   m.set("picture", picture);
+  if (!portrait.empty()) m.set("portrait", portrait);
   m.set("name", name);
   if (!sexIcon.empty()) m.set("sex", sexIcon);
   List texts;

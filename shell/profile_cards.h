@@ -3,11 +3,15 @@
 #pragma once
 
 #include <string>
+#include <string_view>
 
 #include "core/context.h"
 #include "core/value.h"
 
 namespace lad::shell {
+
+// Where the browser fetches a profile's portrait: this prefix and the profile's guid.
+inline constexpr std::string_view kPortraitAddress = "/doc/portrait/";
 
 // Target of a card in the view description ("card:<guid>"); the inviting card has none.
 std::string cardTarget(const std::string& guid);
@@ -20,6 +24,7 @@ struct ProfileCard {
   std::string name;
   std::string sexIcon;  // empty while the sex is not known
   std::vector<std::string> lines;
+  std::string portrait;  // the portrait's address when the profile has one, else empty
 
   Value toValue(bool open) const;
 };

@@ -58,6 +58,25 @@ async function timeOne(page, pause, length) {
   await page.waitForSelector(START);
 }
 
+/** A finger drawn sideways across the element by `dx` through the browser's touch input;
+ *  returns how the front page was moved meanwhile ("" if it stayed). */
+async function swipe(page, locator, dx) {
+  const box = await locator.boundingBox();
+  const [x, y] = [box.x + box.width - 20, box.y + box.height / 2];
+  const cdp = await page.context().newCDPSession(page);
+  const touch = (type, at) => cdp.send('Input.dispatchTouchEvent', { type, touchPoints: at === undefined ? [] : [{ x: at, y }] });
+  const pageMove = () => page.evaluate(() => document.querySelector('.ring-page').style.transform);
+  await touch('touchStart', x);
+  let moved = '';
+  for (let step = 1; step <= 8; step += 1) {
+    await touch('touchMove', x + (dx * step) / 8);
+    moved ||= await pageMove();
+  }
+  await touch('touchEnd');
+  await cdp.detach();
+  return moved;
+}
+
 async function checkCounter(browser, base, outDir) {
   const { context, page, errors } = await openPastGreeting(browser, base);
 
@@ -84,9 +103,9 @@ async function checkCounter(browser, base, outDir) {
   // A swipe to the left offers the delete button; tapping it removes the row. The running view
   // has faded out first, so no tick redraws the list under the gesture.
   await page.waitForSelector('.timer[hidden]', { state: 'attached' });
+  // The swipe belongs to the row: the page under it does not follow the finger.
   const row = page.locator('.ring-page .list .row').last();
-  await row.dispatchEvent('pointerdown', { clientX: 300, bubbles: true });
-  await row.dispatchEvent('pointerup', { clientX: 100, bubbles: true });
+  assert.equal(await swipe(page, row, -200), '', 'the page stays while a row is swiped');
   await row.locator('button.delete').click();
   await page.waitForFunction(() => document.querySelectorAll('.ring-page .list .row').length === 3);
   await waitForText(page, '[data-info="trend"]', TOO_FEW);

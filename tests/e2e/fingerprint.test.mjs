@@ -41,8 +41,10 @@ await runBrowserTest('fingerprint', async ({ browser, base, outDir, server }) =>
   // Keys are bound to a host name; an address does not take them.
   const site = base.replace('127.0.0.1', 'localhost');
   let reader;
-  const { context, page, errors } = await openPastGreeting(browser, site, async (p) => {
-    reader = await addReader(p);
+  const { context, page, errors } = await openPastGreeting(browser, site, {
+    prepare: async (p) => {
+      reader = await addReader(p);
+    },
   });
   const { cdp, authenticatorId } = reader;
   const keysOnReader = async () =>

@@ -73,6 +73,7 @@ export async function waitUntilServing(server, base) {
 }
 
 export const PHONE = { viewport: { width: 390, height: 844 }, isMobile: true, hasTouch: true, deviceScaleFactor: 2 };
+export const TABLET = { viewport: { width: 820, height: 1180 }, isMobile: true, hasTouch: true, deviceScaleFactor: 2 };
 
 export async function stopServer(server) {
   server.child.kill('SIGTERM');
@@ -81,19 +82,18 @@ export async function stopServer(server) {
   assert.deepEqual(exit, { code: 0, signal: null }, 'server exit after SIGTERM');
 }
 
-/** A phone-sized page of a new installation with its greeting closed, and the page errors it
- *  collects. */
-/** Opens the app past the greeting; `prepare(page)` runs before the first load. */
-export async function openPastGreeting(browser, base, prepare = async () => {}) {
-  const context = await browser.newContext(PHONE);
+/** A page at the device's size (a phone unless told) with the greeting closed, if the launch
+ *  brought one, and the page errors it collects; `prepare(page)` runs before the first load. */
+export async function openPastGreeting(browser, base, { device = PHONE, prepare = async () => {} } = {}) {
+  const context = await browser.newContext(device);
   const page = await context.newPage();
   page.setDefaultTimeout(STEP_TIMEOUT_MS);
   const errors = [];
   page.on('pageerror', (error) => errors.push(error.message));
   await prepare(page);
   await page.goto(`${base}/`);
-  await page.waitForSelector('.welcome');
-  await page.tap('.welcome-footer button');
+  await page.waitForSelector('.welcome, .row[data-id]');
+  if (await page.$('.welcome')) await page.tap('.welcome-footer button');
   await page.waitForSelector('.row[data-id]');
   return { context, page, errors };
 }
@@ -101,7 +101,7 @@ export async function openPastGreeting(browser, base, prepare = async () => {}) 
 /**
  * Runs one browser test file: reads `--server PATH --out DIR`, starts the server on a fresh data
  * folder and a free port, launches the browser, and calls `check({ browser, base, outDir,
- * executable, server })`. Reports "<name>: 1 passed, 0 failed" or the failure with the server's
+ * executable, server, dataDir })`. Reports "<name>: 1 passed, 0 failed" or the failure with the server's
  * last output, stops the server cleanly and removes the data folder.
  */
 export async function runBrowserTest(name, check, { lang = 'ru', extraArgs = [], env = process.env } = {}) {
@@ -129,7 +129,7 @@ export async function runBrowserTest(name, check, { lang = 'ru', extraArgs = [],
     server = startServer(executable, dataDir, port, lang, extraArgs, env);
     await waitUntilServing(server, base);
     browser = await chromium.launch({ executablePath: '/usr/bin/chromium', args: CHROMIUM_ARGS });
-    await check({ browser, base, outDir: values.out, executable, server });
+    await check({ browser, base, outDir: values.out, executable, server, dataDir });
     if (!server.exit) await stopServer(server);
     console.log(`${name}: 1 passed, 0 failed`);
   } catch (error) {

@@ -9,6 +9,7 @@ import path from 'node:path';
 import {
   PHONE,
   STEP_TIMEOUT_MS,
+  TABLET,
   freePort,
   runBrowserTest,
   startServer,
@@ -16,7 +17,6 @@ import {
   waitUntilServing,
 } from './harness.mjs';
 
-const TABLET = { viewport: { width: 820, height: 1180 }, isMobile: true, hasTouch: true, deviceScaleFactor: 2 };
 const CODE = '2468';
 const NAME = 'Мира';
 

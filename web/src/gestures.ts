@@ -24,7 +24,9 @@ export function followDrags(root: HTMLElement, ended: (offset: number, width: nu
   );
   root.addEventListener('pointerdown', (event) => {
     draggedJustNow = false;
-    page = event.target instanceof Element ? event.target.closest<HTMLElement>('.ring-page') : null;
+    // A row that is swiped to delete keeps its gesture to itself.
+    const target = event.target instanceof Element ? event.target : null;
+    page = target && !target.closest('.swipeable') ? target.closest<HTMLElement>('.ring-page') : null;
     startX = event.clientX;
     startY = event.clientY;
     dragging = false;

@@ -108,7 +108,7 @@ function renderRow(node: RowNode): HTMLElement {
 
 function renderCard(node: CardNode): HTMLElement {
   const card = element('div', node.open ? 'card open' : 'card');
-  card.append(renderIcon(node.picture, 'card-picture'));
+  card.append(node.portrait ? renderPicture(node.portrait, 'card-picture') : renderIcon(node.picture, 'card-picture'));
   const text = element('div', 'card-text');
   const name = element('div', 'card-name', node.name);
   if (node.sex) name.append(renderIcon(node.sex, 'card-sex'));
@@ -123,12 +123,18 @@ function renderCard(node: CardNode): HTMLElement {
   return card;
 }
 
+/** One of the program's pictures, by name. */
 export function renderIcon(name: string, className: string): HTMLElement {
+  return renderPicture(`/img/${encodeURIComponent(name)}`, className);
+}
+
+/** A picture at an address of this server. */
+function renderPicture(address: string, className: string): HTMLElement {
   const img = element('img', className);
   img.alt = '';
   // A missing picture leaves its slot empty so the rows stay aligned.
   img.addEventListener('error', () => img.classList.add('broken'), { once: true });
-  img.src = `/img/${encodeURIComponent(name)}`;
+  img.src = address;
   return img;
 }
 
@@ -256,10 +262,14 @@ function renderTimer(node: TimerNode): HTMLElement {
 
 const SWIPE_DISTANCE_PX = 40;
 
-/** A swipe to the left reveals the row's delete button; one to the right hides it again. */
+/**
+ * A swipe to the left reveals the row's delete button; one to the right hides it again. The
+ * row owns the sideways gestures that start on it: the page does not follow them (gestures.ts).
+ */
 function addSwipeToDelete(row: HTMLElement, target: string, caption: string): void {
   const remove = renderButton({ id: target, caption });
   remove.classList.add('delete');
+  row.classList.add('swipeable');
   row.append(remove);
   let startX: number | null = null;
   row.addEventListener('pointerdown', (event) => (startX = event.clientX));

@@ -21,7 +21,10 @@ export function show(root: HTMLElement, view: Screen): void {
   (message ?? popup)?.querySelector<HTMLElement>('input, button')?.focus();
 }
 
-/** The chosen background lies under every screen; its theme colours the texts. */
+/**
+ * The chosen background lies under every screen; its theme colours the texts. Whether the
+ * text is light or dark picks the tint of the translucent surfaces (style.css).
+ */
 function applyTheme(view: Screen): void {
   const style = document.body.style;
   if (!view.theme) return;
@@ -30,7 +33,14 @@ function applyTheme(view: Screen): void {
   style.setProperty('--theme-text', view.theme.text);
   style.setProperty('--theme-accent', view.theme.accent);
   document.body.dataset.background = view.theme.picture;
+  document.body.dataset.ink = isLight(view.theme.text) ? 'light' : 'dark';
   document.body.classList.toggle('dark-header', view.theme.darkHeader);
+}
+
+/** Whether a CSS colour "rgba(r,g,b,a)" is a light one (perceived brightness). */
+function isLight(colour: string): boolean {
+  const [r = 0, g = 0, b = 0] = (colour.match(/[\d.]+/g) ?? []).map(Number);
+  return 0.299 * r + 0.587 * g + 0.114 * b > 127.5;
 }
 
 function rowIds(node: ParentNode): string {

@@ -1,5 +1,6 @@
 // Service worker: keeps the app's static files so it starts without the network.
-// Static files come from the cache first; /api/ always goes to the network.
+// Static files come from the cache first; /api/ always goes to the network, and so do the
+// user's documents under /doc/, which are never kept: the lock decides who sees them.
 
 // Written in front of this script by build.mjs: a digest of the built files and their paths.
 declare const BUILD: { readonly version: string; readonly assets: readonly string[] };
@@ -21,7 +22,8 @@ worker.addEventListener('fetch', (event) => {
   const isStatic =
     request.method === 'GET' &&
     url.origin === worker.location.origin &&
-    !url.pathname.startsWith('/api/');
+    !url.pathname.startsWith('/api/') &&
+    !url.pathname.startsWith('/doc/');
   if (isStatic) event.respondWith(cacheFirst(request));
 });
 

@@ -94,6 +94,8 @@ export interface CardNode {
   /** Empty on the card that only invites to add a profile. */
   id: string;
   picture: string;
+  /** The address of the profile's portrait, when it has one: shown instead of the picture. */
+  portrait?: string;
   name: string;
   sex?: string;
   lines: string[];

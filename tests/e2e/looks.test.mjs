@@ -1,0 +1,190 @@
+// Browser test of the looks at phone and tablet size: the menu takes the colours of the chosen
+// background's theme on translucent surfaces and fits the width; a profile's portrait in the
+// data folder shows on its card and is refused to a locked browser.
+//   node tests/e2e/looks.test.mjs --server PATH_TO_SERVER --out SCREENSHOT_DIR
+import assert from 'node:assert/strict';
+import fs from 'node:fs';
+import path from 'node:path';
+import { openPastGreeting, PHONE, runBrowserTest, TABLET } from './harness.mjs';
+
+const GUID = '00000000-0000-0000-0001-000000000001'; // the pregnancy of the first launch
+const PORTRAIT = `/doc/portrait/${GUID}`;
+const BACKGROUND_ROW = '[data-id="menu:42"]';
+const PASSWORD_SWITCH = '[data-id="menu:52"]';
+const CODE = '2468';
+const BACKGROUND_COUNT = 9;
+// A theme with light text and one with dark text, as the browser computes their colours.
+const THEMES = [
+  { id: 4, text: 'rgb(0, 0, 0)', caption: 'rgb(179, 0, 0)', accent: 'rgb(137, 28, 28)' },
+  { id: 2, text: 'rgb(255, 255, 255)', caption: 'rgb(255, 207, 65)', accent: 'rgb(54, 119, 176)' },
+];
+const COLUMN_MAX_PX = 46 * 19; // the tablet's column: 46rem at its 19px type
+
+async function chooseBackground(page, id) {
+  await page.tap(BACKGROUND_ROW);
+  await page.tap(`.row[data-id="background:${id}"]`);
+  await page.waitForFunction(
+    (file) => document.body.dataset.background === file && document.querySelector('.card') !== null,
+    `bg640-${id}.png`,
+  );
+}
+
+/** Computed colours of the menu's parts, and the size of what lies on the page. */
+function looksOf(page) {
+  return page.evaluate(() => {
+    const style = (selector) => getComputedStyle(document.querySelector(selector));
+    const boxes = [...document.querySelectorAll('.row, .card, .page-header')].map((e) => e.getBoundingClientRect());
+    return {
+      body: style('body').color,
+      row: style('.row .caption').color,
+      title: style('.page-title').color,
+      openCard: style('.card.open').boxShadow,
+      list: style('.list').backgroundColor,
+      card: style('.card').backgroundColor,
+      fontSize: parseFloat(style('html').fontSize),
+      scrollWidth: document.documentElement.scrollWidth,
+      innerWidth: window.innerWidth,
+      widest: Math.max(...boxes.map((b) => b.right)),
+      leftmost: Math.min(...boxes.map((b) => b.left)),
+      rowWidth: document.querySelector('.row').getBoundingClientRect().width,
+    };
+  });
+}
+
+const channels = (colour) => colour.match(/[\d.]+/g).map(Number);
+const brightness = ([r, g, b]) => 0.299 * r + 0.587 * g + 0.114 * b;
+
+/** Text and the surfaces under it: translucent over the picture, tinted against the text. */
+function checkReadable(looks, where) {
+  const light = brightness(channels(looks.row)) > 127.5;
+  for (const surface of ['list', 'card']) {
+    const [r, g, b, a = 1] = channels(looks[surface]);
+    assert.ok(a > 0 && a < 1, `${where}: the ${surface} lets the picture through (${looks[surface]})`);
+    assert.equal(brightness([r, g, b]) < 127.5, light, `${where}: the ${surface} is tinted against the text`);
+  }
+}
+
+function checkFits(looks, where) {
+  assert.ok(looks.scrollWidth <= looks.innerWidth, `${where}: no sideways scrolling (${looks.scrollWidth})`);
+  assert.ok(looks.widest <= looks.innerWidth && looks.leftmost >= 0, `${where}: nothing is cut at the sides`);
+}
+
+/** The portrait on the open card, and the tablet's column and type. */
+async function checkMenu(page, device, name) {
+  await page.waitForFunction(
+    (address) => {
+      const img = document.querySelector('.card.open .card-picture');
+      return img?.getAttribute('src') === address && img.complete && img.naturalWidth > 0;
+    },
+    PORTRAIT,
+  );
+  for (const theme of THEMES) {
+    await chooseBackground(page, theme.id);
+    const looks = await looksOf(page);
+    const where = `${name}, background ${theme.id}`;
+    assert.deepEqual([looks.body, looks.row], [theme.text, theme.text], `${where}: texts`);
+    assert.equal(looks.title, theme.caption, `${where}: the title`);
+    assert.ok(looks.openCard.includes(theme.accent), `${where}: the open card's mark ${looks.openCard}`);
+    checkReadable(looks, where);
+    checkFits(looks, where);
+    if (device === TABLET) {
+      assert.ok(looks.fontSize > 16, `${where}: larger type on a tablet`);
+      assert.ok(looks.rowWidth > PHONE.viewport.width, `${where}: the tablet's room is used`);
+    } else {
+      assert.equal(looks.fontSize, 16, `${where}: phones keep their type`);
+    }
+    await page.screenshot({ path: `${name}-background-${theme.id}.png`, fullPage: true });
+  }
+}
+
+/** Every background of the list, with its screenshot: the surfaces read well on each. */
+async function checkEveryBackground(page, outDir) {
+  for (let id = 1; id <= BACKGROUND_COUNT; id += 1) {
+    await chooseBackground(page, id);
+    const looks = await looksOf(page);
+    checkReadable(looks, `background ${id}`);
+    await page.screenshot({ path: path.join(outDir, `looks-phone-background-${id}.png`) });
+  }
+}
+
+/** The contraction counter's page with its charts fits the tablet too. */
+async function checkCounterPage(page, base, outDir) {
+  await page.goto(`${base}/?shortcut=SCHVATKI`);
+  await page.waitForSelector('.ring-page [data-info="trend"]');
+  const sizes = await page.evaluate(() => ({
+    scrollWidth: document.documentElement.scrollWidth,
+    charts: [...document.querySelectorAll('.ring-page .chart')].map((c) => c.getBoundingClientRect().right),
+  }));
+  const width = TABLET.viewport.width;
+  assert.ok(sizes.scrollWidth <= width, `the counter: no sideways scrolling (${sizes.scrollWidth})`);
+  assert.ok(sizes.charts.length === 2 && sizes.charts.every((right) => right <= width), 'the counter: charts fit');
+  await page.screenshot({ path: path.join(outDir, 'looks-tablet-counter.png'), fullPage: true });
+}
+
+async function checkLandscapeTablet(page, outDir) {
+  await page.setViewportSize({ width: TABLET.viewport.height, height: TABLET.viewport.width });
+  await page.waitForFunction((w) => window.innerWidth === w, TABLET.viewport.height);
+  const looks = await looksOf(page);
+  checkFits(looks, 'tablet landscape');
+  assert.ok(looks.rowWidth <= COLUMN_MAX_PX, `tablet landscape: the column keeps a readable width (${looks.rowWidth})`);
+  await page.screenshot({ path: path.join(outDir, 'looks-tablet-landscape.png'), fullPage: true });
+}
+
+/** A JPEG drawn by the browser, written where the profile's portrait is kept. */
+async function placePortrait(page, dataDir) {
+  const data = await page.evaluate(() => {
+    const canvas = document.createElement('canvas');
+    canvas.width = canvas.height = 64;
+    const pen = canvas.getContext('2d');
+    pen.fillStyle = '#3a7';
+    pen.fillRect(0, 0, 64, 64);
+    return canvas.toDataURL('image/jpeg');
+  });
+  const folder = path.join(dataDir, 'Documents', 'picture');
+  fs.mkdirSync(folder, { recursive: true });
+  fs.writeFileSync(path.join(folder, `child-${GUID}.jpg`), Buffer.from(data.split(',')[1], 'base64'));
+}
+
+const portraitStatus = (page) => page.evaluate((address) => fetch(address).then((r) => r.status), PORTRAIT);
+
+async function typeCode(page, code) {
+  for (const digit of code) await page.tap(`button[data-id="lock:${digit}"]`);
+}
+
+/** With the lock on, a browser the installation has not seen gets the portrait only once it
+ *  has typed the code. */
+async function checkPortraitBehindLock(page) {
+  await page.tap(PASSWORD_SWITCH);
+  await typeCode(page, CODE);
+  await page.waitForFunction(() => document.querySelector('.lock-caption')?.textContent === 'Введите пароль еще раз');
+  await typeCode(page, CODE);
+  await page.tap('.message button');
+  await page.context().clearCookies();
+  await page.reload();
+  await page.waitForSelector('.lock');
+  assert.equal(await portraitStatus(page), 403, 'a locked browser is refused the portrait');
+  await typeCode(page, CODE);
+  await page.waitForSelector('.card');
+  assert.equal(await portraitStatus(page), 200, 'the portrait once unlocked');
+}
+
+await runBrowserTest('looks', async ({ browser, base, outDir, dataDir }) => {
+  const phone = await openPastGreeting(browser, base, { device: PHONE });
+  await placePortrait(phone.page, dataDir);
+  await phone.page.tap('.card[data-id]');
+  await phone.page.waitForSelector('.card.open');
+  await checkMenu(phone.page, PHONE, path.join(outDir, 'looks-phone'));
+  await checkEveryBackground(phone.page, outDir);
+
+  const tablet = await openPastGreeting(browser, base, { device: TABLET });
+  await tablet.page.tap('.card[data-id]');
+  await tablet.page.waitForSelector('.card.open');
+  await checkMenu(tablet.page, TABLET, path.join(outDir, 'looks-tablet'));
+  await checkLandscapeTablet(tablet.page, outDir);
+  await tablet.page.setViewportSize(TABLET.viewport);
+  await checkCounterPage(tablet.page, base, outDir);
+
+  await checkPortraitBehindLock(phone.page);
+  assert.deepEqual([...phone.errors, ...tablet.errors], [], 'no uncaught errors in the pages');
+  await Promise.all([phone.context.close(), tablet.context.close()]);
+});

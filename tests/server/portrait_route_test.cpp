@@ -1,0 +1,79 @@
+// A profile's portrait is served from the documents folder only to an unlocked session, and
+// only for a well-formed profile identifier.
+#include <gtest/gtest.h>
+
+#include "server_fixture.h"
+#include "shell/password_hash.h"
+#include "store/folders.h"
+
+namespace lad::server::test {
+namespace {
+
+// The pregnancy that the first launch starts.
+constexpr char kGuid[] = "00000000-0000-0000-0001-000000000001";
+constexpr std::string_view kJpeg = "\xFF\xD8\xFF\xE0 portrait bytes \xFF\xD9";
+
+class PortraitRouteTest : public ServerTest {
+ protected:
+  void placePortrait() {
+    const auto file = installation_->withContext([](Context& c) { return portraitFile(c, kGuid); });
+    std::filesystem::create_directories(file.parent_path());
+    writeFile(file, kJpeg);
+  }
+  httplib::Result fetch(const std::string& path, const std::string& session) {
+    return client()->Get(path, sessionHeaders(session));
+  }
+};
+
+TEST_F(PortraitRouteTest, TheCardShowsThePortraitWhichOnlyAnUnlockedSessionGets) {
+  placePortrait();
+  const std::string session = openSession();
+  auto view = client()->Get("/api/view", sessionHeaders(session));
+  ASSERT_TRUE(view);
+  const Json card = Json::parse(view->body)["view"]["children"][0];
+  ASSERT_EQ(card["kind"], "card");
+  const std::string address = card.value("portrait", "");
+  EXPECT_EQ(address, std::string("/doc/portrait/") + kGuid);
+
+  auto shown = fetch(address, session);
+  ASSERT_TRUE(shown);
+  EXPECT_EQ(shown->status, 200);
+  EXPECT_EQ(shown->body, kJpeg);
+  EXPECT_EQ(shown->get_header_value("Content-Type"), "image/jpeg");
+  EXPECT_EQ(shown->get_header_value("Cache-Control"), "private, no-store");
+
+  EXPECT_EQ(fetch(address, "")->status, 403);  // no session
+  EXPECT_EQ(fetch(address, "not-a-session")->status, 403);
+
+  installation_->withContext([](Context& c) {
+    c.settings().set("pass", true);
+    c.settings().set("password", *shell::hashPassword("2468"));
+  });
+  ASSERT_TRUE(postEvent(R"({"type":"visible"})", session));
+  auto locked = fetch(address, session);
+  ASSERT_TRUE(locked);
+  EXPECT_EQ(locked->status, 403);
+  EXPECT_EQ(locked->body.find("portrait bytes"), std::string::npos);
+}
+
+TEST_F(PortraitRouteTest, OnlyAProfileIdentifierNamesAFile) {
+  placePortrait();
+  const std::string session = openSession();
+  const std::string settings = settingsNow();
+  for (const char* path :
+       {"/doc/portrait/..%2F..%2F..%2FLibrary%2FPreferences.json", "/doc/portrait/../../Library",
+        "/doc/portrait/child-00000000-0000-0000-0001-000000000001.jpg",
+        "/doc/portrait/00000000-0000-0000-0001-00000000000", "/doc/portrait/%00"}) {
+    auto res = fetch(path, session);
+    ASSERT_TRUE(res) << path;
+    EXPECT_NE(res->status, 200) << path;
+    EXPECT_EQ(res->body.find("portrait bytes"), std::string::npos) << path;
+    EXPECT_EQ(res->body.find("version0-1-0"), std::string::npos) << path;
+  }
+  EXPECT_EQ(fetch("/doc/portrait/not-a-guid", session)->status, 400);
+  EXPECT_EQ(fetch("/doc/portrait/00000000-0000-0000-0001-000000000002", session)->status, 404);
+  EXPECT_EQ(settingsNow(), settings);
+}
+
+}  // namespace
+}  // namespace lad::server::test
