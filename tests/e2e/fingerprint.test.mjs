@@ -2,15 +2,11 @@
 //   node tests/e2e/fingerprint.test.mjs --server PATH_TO_SERVER --out SCREENSHOT_DIR
 import assert from 'node:assert/strict';
 import path from 'node:path';
-import { openPastGreeting, runBrowserTest, sleep, STEP_TIMEOUT_MS } from './harness.mjs';
+import { openPastGreeting, runBrowserTest, sleep, STEP_TIMEOUT_MS, typeCode } from './harness.mjs';
 
 const CODE = '2580';
 const PASSWORD_SWITCH = 'menu:52';
 const KEY = 'button[data-id="lock:fingerprint"]';
-
-async function typeCode(page, code) {
-  for (const digit of code) await page.tap(`button[data-id="lock:${digit}"]`);
-}
 
 async function until(what, test) {
   const end = Date.now() + STEP_TIMEOUT_MS;

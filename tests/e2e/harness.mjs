@@ -98,6 +98,16 @@ export async function openPastGreeting(browser, base, { device = PHONE, prepare 
   return { context, page, errors };
 }
 
+/** Types a code on the lock's pad, one key at a time. */
+export async function typeCode(page, code) {
+  for (const digit of code) await page.tap(`button[data-id="lock:${digit}"]`);
+}
+
+/** Waits until the lock's caption reads `text`. */
+export async function captionIs(page, text) {
+  await page.waitForFunction((t) => document.querySelector('.lock-caption')?.textContent === t, text);
+}
+
 /**
  * Runs one browser test file: reads `--server PATH --out DIR`, starts the server on a fresh data
  * folder and a free port, launches the browser, and calls `check({ browser, base, outDir,

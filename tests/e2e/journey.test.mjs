@@ -10,10 +10,12 @@ import {
   PHONE,
   STEP_TIMEOUT_MS,
   TABLET,
+  captionIs,
   freePort,
   runBrowserTest,
   startServer,
   stopServer,
+  typeCode,
   waitUntilServing,
 } from './harness.mjs';
 
@@ -100,14 +102,6 @@ async function swipeThroughPages(page, outDir, device) {
   await drag(page, 20, width - 20);
   await page.waitForSelector('.ring', { state: 'detached' });
   await page.waitForSelector('.card.open');
-}
-
-async function typeCode(page, code) {
-  for (const digit of code) await page.tap(`button[data-id="lock:${digit}"]`);
-}
-
-async function captionIs(page, text) {
-  await page.waitForFunction((t) => document.querySelector('.lock-caption')?.textContent === t, text);
 }
 
 async function lockAndUnlock(page, outDir, device) {

@@ -4,19 +4,11 @@ import assert from 'node:assert/strict';
 import fs from 'node:fs';
 import os from 'node:os';
 import path from 'node:path';
-import { freePort, openPastGreeting, runBrowserTest, startServer } from './harness.mjs';
+import { freePort, openPastGreeting, runBrowserTest, startServer, typeCode, captionIs } from './harness.mjs';
 
 const CODE = '1357';
 const PASSWORD_SWITCH = 'menu:52';
 const BACKGROUND_ROW = 'menu:42';
-
-async function typeCode(page, code) {
-  for (const digit of code) await page.tap(`button[data-id="lock:${digit}"]`);
-}
-
-async function captionIs(page, text) {
-  await page.waitForFunction((t) => document.querySelector('.lock-caption')?.textContent === t, text);
-}
 
 async function turnLockOn(page, outDir) {
   await page.tap(`[data-id="${PASSWORD_SWITCH}"]`);

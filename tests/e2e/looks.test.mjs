@@ -5,7 +5,7 @@
 import assert from 'node:assert/strict';
 import fs from 'node:fs';
 import path from 'node:path';
-import { openPastGreeting, PHONE, runBrowserTest, TABLET } from './harness.mjs';
+import { openPastGreeting, PHONE, runBrowserTest, TABLET, typeCode } from './harness.mjs';
 
 const GUID = '00000000-0000-0000-0001-000000000001'; // the pregnancy of the first launch
 const PORTRAIT = `/doc/portrait/${GUID}`;
@@ -146,10 +146,6 @@ async function placePortrait(page, dataDir) {
 }
 
 const portraitStatus = (page) => page.evaluate((address) => fetch(address).then((r) => r.status), PORTRAIT);
-
-async function typeCode(page, code) {
-  for (const digit of code) await page.tap(`button[data-id="lock:${digit}"]`);
-}
 
 /** With the lock on, a browser the installation has not seen gets the portrait only once it
  *  has typed the code. */
