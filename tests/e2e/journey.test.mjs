@@ -73,6 +73,10 @@ async function checkCard(page, outDir, device) {
   assert.match(await card.locator('.card-sex').getAttribute('src'), /w-pic\.png/, 'a girl');
   const overflow = await page.evaluate(() => document.documentElement.scrollWidth - window.innerWidth);
   assert.ok(overflow <= 0, `nothing wider than the screen (${overflow}px over)`);
+  // The first pregnancy and the new one: one above the other on a phone, side by side on a tablet.
+  const tops = await page.$$eval('.card', (cards) => cards.map((c) => Math.round(c.getBoundingClientRect().top)));
+  assert.equal(tops.length, 2, 'two pregnancy cards');
+  assert.equal(tops[0] === tops[1], device === 'tablet', `cards side by side only on a tablet (${tops})`);
   await shot(page, outDir, device, 'card');
   await card.tap();
   await page.waitForSelector('.card.open');
