@@ -16,7 +16,8 @@ struct HttpOptions {
   int port = 8080;  // 0: any free port
   std::filesystem::path webDir;
   std::filesystem::path imagesDir;
-  std::size_t maxBodyBytes = 64 * 1024;
+  // A portrait from the camera comes in one event, as a data URL of a few megabytes.
+  std::size_t maxBodyBytes = 16 * 1024 * 1024;
   bool logRequests = true;
   // Set only in test runs: POST /api/test/clock {"advance": seconds} moves this clock.
   std::shared_ptr<ManualClock> testClock{};

@@ -6,7 +6,6 @@ import assert from 'node:assert/strict';
 import path from 'node:path';
 import { openPastGreeting, runBrowserTest } from './harness.mjs';
 
-const PORTRAIT = path.resolve('resources/images/ti-preg2.png');
 const SCALE_EDITOR = {
   kind: 'editor',
   caption: 'Температура',
@@ -25,10 +24,38 @@ async function openSettings(page) {
   assert.equal(await page.textContent('.editor .page-title'), 'Настройки');
 }
 
-/** A picture from the album shows as a preview, survives a reload of the page, and is saved. */
+/** A photo the size a phone's camera takes (12 megapixels), with grain, as a JPEG file. */
+async function cameraPhoto(page) {
+  const base64 = await page.evaluate(async () => {
+    const [width, height] = [4000, 3000];
+    const canvas = new OffscreenCanvas(width, height);
+    const g = canvas.getContext('2d');
+    const gradient = g.createLinearGradient(0, 0, width, height);
+    gradient.addColorStop(0, '#c86');
+    gradient.addColorStop(1, '#468');
+    g.fillStyle = gradient;
+    g.fillRect(0, 0, width, height);
+    const pixels = g.getImageData(0, 0, width, height);
+    for (let i = 0; i < pixels.data.length; i += 4) {
+      const grain = (Math.random() - 0.5) * 24;
+      for (let c = 0; c < 3; c += 1) pixels.data[i + c] += grain;
+    }
+    g.putImageData(pixels, 0, 0);
+    const blob = await canvas.convertToBlob({ type: 'image/jpeg', quality: 0.95 });
+    const bytes = new Uint8Array(await blob.arrayBuffer());
+    let text = '';
+    for (let i = 0; i < bytes.length; i += 0x8000) text += String.fromCharCode(...bytes.subarray(i, i + 0x8000));
+    return btoa(text);
+  });
+  return { name: 'camera.jpg', mimeType: 'image/jpeg', buffer: Buffer.from(base64, 'base64') };
+}
+
+/** A camera photo shows as a preview, survives a reload of the page, and is saved. */
 async function choosePortrait(page, outDir) {
   const before = await page.getAttribute('.editor-photo-picture', 'src');
-  await page.setInputFiles('.editor-photo-input', PORTRAIT);
+  const photo = await cameraPhoto(page);
+  assert.ok(photo.buffer.length > 1024 * 1024, `a photo of ${photo.buffer.length} bytes`);
+  await page.setInputFiles('.editor-photo-input', photo);
   await page.waitForFunction((src) => document.querySelector('.editor-photo-picture')?.getAttribute('src') !== src, before);
   assert.match(await page.getAttribute('.editor-photo-picture', 'src'), /^data:image\/jpeg;base64,/, 'a preview');
   await page.fill('input[data-field="field:rost"]', '168');

@@ -148,7 +148,7 @@ TEST_F(ServerTest, RefusesBadEventsWithoutChangingAnything) {
   EXPECT_EQ(crossSite->status, 403);
 
   std::string padded = R"({"type":"tap","target":"menu:51","pad":")";
-  padded.append(65 * 1024, 'x');
+  padded.append(HttpOptions().maxBodyBytes, 'x');
   padded += "\"}";
   auto large = postEvent(padded, session);
   ASSERT_TRUE(large);

@@ -20,12 +20,17 @@ export function fetchView(): Promise<Screen> {
   return call('/api/view');
 }
 
+// Browsers refuse a keep-alive request whose body is larger than 64 KiB.
+const KEEPALIVE_LIMIT = 60 * 1024;
+
 export function sendEvent(event: ClientEvent): Promise<Screen> {
+  const body = JSON.stringify(event);
   return call('/api/event', {
     method: 'POST',
     headers: { 'Content-Type': 'application/json' },
-    body: JSON.stringify(event),
-    // A page being hidden may be closing: its last event still goes out.
-    keepalive: true,
+    body,
+    // A page being hidden may be closing: its last event still goes out. A picture is too
+    // large for that and goes out as a plain request.
+    keepalive: body.length < KEEPALIVE_LIMIT,
   });
 }

@@ -96,6 +96,8 @@ function queue(event: () => Promise<ClientEvent>): void {
   root.classList.add('busy');
   tapChain = tapChain
     .then(async () => send(await event()))
+    // An input that cannot be read sends nothing, and the events behind it still go.
+    .catch((error: unknown) => console.warn(error))
     .finally(() => {
       pendingTaps -= 1;
       if (pendingTaps === 0) root.classList.remove('busy');

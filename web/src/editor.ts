@@ -192,15 +192,26 @@ function photo(row: EditorRow): HTMLElement {
   return label;
 }
 
-/** The picture upright and no larger than the server needs, as a JPEG data URL. */
+/** The picture upright and no larger than the server needs, as a JPEG data URL. A picture
+ *  the browser cannot decode goes as it is, for the server to say why it cannot take it. */
 async function photoDataUrl(file: Blob): Promise<string> {
-  const bitmap = await createImageBitmap(file);
+  const bitmap = await createImageBitmap(file).catch(() => null);
+  if (!bitmap) return fileDataUrl(file);
   const scale = Math.min(1, PHOTO_MAX_SIDE / Math.max(bitmap.width, bitmap.height));
   const canvas = document.createElement('canvas');
   canvas.width = Math.round(bitmap.width * scale);
   canvas.height = Math.round(bitmap.height * scale);
   canvas.getContext('2d')?.drawImage(bitmap, 0, 0, canvas.width, canvas.height);
   return canvas.toDataURL('image/jpeg', PHOTO_QUALITY);
+}
+
+function fileDataUrl(file: Blob): Promise<string> {
+  return new Promise((resolve, reject) => {
+    const reader = new FileReader();
+    reader.onload = () => resolve(String(reader.result));
+    reader.onerror = () => reject(reader.error);
+    reader.readAsDataURL(file);
+  });
 }
 
 /** Entries to tick: one (radio) or many (check boxes); the row keeps the ticked ids. */
