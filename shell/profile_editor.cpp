@@ -8,6 +8,7 @@ namespace {
 
 constexpr int kConsent = 1;  // "Да" of the removal question
 constexpr std::string_view kRemoveField = "remove";
+constexpr std::string_view kUnreadablePhoto = "Не удалось прочитать фотографию";
 
 }  // namespace
 
@@ -40,7 +41,11 @@ EventResult ProfileEditor::change(std::string_view target, const Value& value) {
   if (field == "photo" && !value.isNull()) {
     std::string why;
     auto picture = pictureFromDataUrl(value.text(), &why);
-    if (!picture) return EventResult::refused("the photograph cannot be read: " + why);
+    // The user hears of it; the portrait stays as it was.
+    if (!picture) {
+      host_.showMessage(MessageBox::make(app_.context(), kUnreadablePhoto, "Ошибка"));
+      return {};
+    }
     source = Value(std::move(*picture));
   }
   if (auto refusal = dialog_.change(field, source)) host_.showMessage(std::move(*refusal));

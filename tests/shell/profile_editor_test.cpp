@@ -97,8 +97,12 @@ TEST_F(ProfileEditorTest, APortraitIsCheckedWhenChosenAndWrittenWhenSaved) {
   tap("card:" + kFirstProfile);
   tap("menu:22");
   EXPECT_EQ(session->view()["caption"].text(), "Настройки");
-  EXPECT_FALSE(change("photo", "data:image/png;base64,AAAA").ok()) << "not a picture";
-  EXPECT_FALSE(change("photo", "http://elsewhere/x.jpg").ok());
+  for (const char* notAPicture : {"data:image/png;base64,AAAA", "http://elsewhere/x.jpg"}) {
+    ASSERT_TRUE(change("photo", notAPicture).ok());
+    const Value refused = session->view();
+    EXPECT_EQ(refused["message"]["text"].text(), "Не удалось прочитать фотографию") << notAPicture;
+    tap("message:ok");
+  }
   ASSERT_TRUE(change("photo", jpegDataUrl()).ok());
   const Value editor = session->view();
   for (const Value& row : *editor["rows"].asList())
