@@ -95,7 +95,6 @@ Value* ProfileDialog::source(std::string_view field) {
 
 // The portrait is written or removed when the dialog is finished.
 void ProfileDialog::changePhoto(const Value& picture) {
-  enum PhotoSave { kWritePhoto = 1, kRemovePhoto = 2 };
   Map* row = rowOf("photo");
   row->set("image", picture);
   row->set("save", picture.asBytes() ? kWritePhoto : kRemovePhoto);

@@ -1,6 +1,7 @@
 #include "shell/session.h"
 
 #include <algorithm>
+#include <functional>
 
 #include "core/ids.h"
 #include "shell/pages.h"
@@ -33,6 +34,14 @@ constexpr std::string_view kToMenu = "ring:menu";
 // Pages that depend on the profile rebuild when another profile opens them.
 constexpr int kFirstProfilePage = 16, kLastProfilePage = 18;
 
+// A command whose whole effect is a screen shown over the present one.
+std::function<EventResult()> showing(std::function<void()> show) {
+  return [show = std::move(show)] {
+    show();
+    return EventResult();
+  };
+}
+
 }  // namespace
 
 Session::Session(Application& app)
@@ -49,19 +58,10 @@ Session::Session(Application& app)
 // other dialogs, so only the pregnancy editions take these two rows.
 void Session::addMenuCommands() {
   if (isPregnancyEdition(app_.context().values().appid)) {
-    menu_.onCommand(kProfileSettingsRow, [this] {
-      showProfile(menu_.activeId());
-      return EventResult();
-    });
-    menu_.onCommand(kNewProfileRow, [this] {
-      showProfile(std::nullopt);
-      return EventResult();
-    });
+    menu_.onCommand(kProfileSettingsRow, showing([this] { showProfile(menu_.activeId()); }));
+    menu_.onCommand(kNewProfileRow, showing([this] { showProfile(std::nullopt); }));
   }
-  menu_.onCommand(kBackgroundRow, [this] {
-    showBackgrounds();
-    return EventResult();
-  });
+  menu_.onCommand(kBackgroundRow, showing([this] { showBackgrounds(); }));
   menu_.onCommand(kPasswordSwitch, [this] { return togglePassword(); });
 }
 
@@ -69,10 +69,7 @@ void Session::addMenuCommands() {
 void Session::showGreeting(Greeting greeting) {
   WelcomeScreen::Commands commands;
   if (isPregnancyEdition(app_.context().values().appid))
-    commands[kSetup] = [this] {
-      showProfile(newID2(1, 1));
-      return EventResult();
-    };
+    commands[kSetup] = showing([this] { showProfile(newID2(1, 1)); });
   push(std::make_shared<WelcomeScreen>(app_.context(), greeting, std::move(commands)));
 }
 
@@ -95,7 +92,6 @@ void Session::showMessage(MessageBox message) {
 // Screens that closed themselves go, from the top down.
 void Session::popClosed() {
   while (!stack_.empty() && stack_.back()->closed()) stack_.pop_back();
-  menu_.updateMenu();
 }
 
 void Session::showLock(LockMode mode) {

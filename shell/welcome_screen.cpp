@@ -8,6 +8,10 @@ namespace {
 
 constexpr std::string_view kClose = "welcome:close";
 
+std::string commandTarget(WelcomeCommand command) {
+  return "welcome:" + std::to_string(command);
+}
+
 const char* accentOf(int appid) {
   switch (appid) {
     case 2:
@@ -52,7 +56,7 @@ class WelcomeBuilder {
     List row;
     for (const auto& [command, caption] : buttons) {
       Map b;
-      b.set("id", "welcome:" + std::to_string(command));
+      b.set("id", commandTarget(command));
       b.set("caption", context_.translate(caption));
       b.set("enabled", commands_.contains(command));
       row.push_back(Value(std::move(b)));
@@ -117,7 +121,7 @@ EventResult WelcomeScreen::tap(std::string_view target) {
     return {};
   }
   for (const auto& [command, action] : commands_)
-    if (target == "welcome:" + std::to_string(command)) return action();
+    if (target == commandTarget(command)) return action();
   if (target.starts_with("welcome:"))
     return EventResult::refused(std::string(target) + " is not available in this version");
   return EventResult::refused("no welcome button " + std::string(target));

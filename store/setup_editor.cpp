@@ -13,7 +13,6 @@ namespace lad {
 namespace {
 
 constexpr int kPortraitQuality = 100;
-enum PhotoSave { kWritePhoto = 1, kRemovePhoto = 2 };
 
 void savePortrait(const Context& context, const Map& row, const std::string& gid,
                   std::string* photoError) {

@@ -9,6 +9,9 @@ namespace lad {
 
 class Store;
 
+// What the photo row's "save" asks for when the profile is saved.
+enum PhotoSave { kWritePhoto = 1, kRemovePhoto = 2 };
+
 // Reads the editor's rows by their "field" and "source": the three dates ("dd.MM.yyyy", kept
 // as "yyyy-MM-dd"; one that does not read is left out), sex and body type, name, height and
 // weight. The photo row's "save" 1 writes its "image" as the profile's portrait in JPEG, 2
