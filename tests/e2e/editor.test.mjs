@@ -4,7 +4,7 @@
 //   node tests/e2e/editor.test.mjs --server PATH_TO_SERVER --out SCREENSHOT_DIR
 import assert from 'node:assert/strict';
 import path from 'node:path';
-import { openPastGreeting, runBrowserTest } from './harness.mjs';
+import { openPastGreeting, runBrowserTest, sleep } from './harness.mjs';
 
 const SCALE_EDITOR = {
   kind: 'editor',
@@ -48,6 +48,65 @@ async function cameraPhoto(page) {
     return btoa(text);
   });
   return { name: 'camera.jpg', mimeType: 'image/jpeg', buffer: Buffer.from(base64, 'base64') };
+}
+
+/** Waits, at most five seconds, until a condition on this side holds. */
+async function until(condition) {
+  const deadline = Date.now() + 5000;
+  while (!condition() && Date.now() < deadline) await sleep(50);
+}
+
+/** Holds the server's answers to changes of one field until released; records every change sent. */
+async function holdAnswersTo(page, field) {
+  const sent = [];
+  let release;
+  const released = new Promise((resolve) => (release = resolve));
+  await page.route('**/api/event', async (route) => {
+    const event = JSON.parse(route.request().postData() ?? '{}');
+    if (event.type === 'change') sent.push(event);
+    const response = await route.fetch();
+    if (event.target === field) await released;
+    await route.fulfill({ response });
+  });
+  return { sent, release };
+}
+
+/** Lets a held answer through and waits until it has redrawn the input of a field. */
+async function redrawWhileIn(page, held, field) {
+  const selector = `input[data-field="${field}"]`;
+  await page.evaluate((s) => (document.querySelector(s).dataset.beforeRedraw = '1'), selector);
+  held.release();
+  await page.waitForFunction((s) => document.querySelector(s)?.dataset.beforeRedraw === undefined, selector);
+  // Query and check in one step: a later redraw may replace the input between two.
+  assert.ok(await page.evaluate((s) => document.querySelector(s) === document.activeElement, selector), `${field} keeps the focus`);
+}
+
+/**
+ * The answer to an earlier change redraws the editor while the user is in another field: what
+ * she types after the redraw, and what she typed before it, both reach the server.
+ */
+async function typeThroughRedraws(page) {
+  const sentValue = (held, field) => held.sent.filter((e) => e.target === field).map((e) => e.value);
+  let held = await holdAnswersTo(page, 'field:rost');
+  await page.fill('input[data-field="field:rost"]', '170');
+  await page.$eval('input[data-field="field:ves"]', (input) => input.select());
+  await redrawWhileIn(page, held, 'field:ves');
+  await page.keyboard.insertText('61');
+  await page.keyboard.press('Tab');
+  await page.waitForFunction(() => !document.querySelector('.editor-index')?.textContent?.includes('не определен'));
+  assert.deepEqual(sentValue(held, 'field:ves'), ['61'], 'typed after the redraw');
+  await page.unrouteAll({ behavior: 'wait' });
+
+  held = await holdAnswersTo(page, 'field:rost');
+  await page.fill('input[data-field="field:rost"]', '165');
+  await page.fill('input[data-field="field:ves"]', '58');
+  await redrawWhileIn(page, held, 'field:ves');
+  assert.equal(await page.inputValue('input[data-field="field:ves"]'), '58', 'typed before the redraw');
+  await page.keyboard.press('Tab');
+  await until(() => sentValue(held, 'field:ves').length > 0);
+  await page.waitForFunction(() => !document.querySelector('.busy'));
+  assert.deepEqual(sentValue(held, 'field:ves'), ['58'], 'sent once');
+  await page.unrouteAll({ behavior: 'wait' });
 }
 
 /** A camera photo shows as a preview, survives a reload of the page, and is saved. */
@@ -118,8 +177,7 @@ async function slideScale(page, outDir) {
   await page.$eval('.scale-ruler', (ruler) => (ruler.scrollLeft += 80));
   await page.waitForFunction(() => document.querySelector('.scale-value')?.textContent === '37.6');
   await page.screenshot({ path: path.join(outDir, 'editor-scale.png') });
-  const deadline = Date.now() + 5000;
-  while (sent.length === 0 && Date.now() < deadline) await new Promise((r) => setTimeout(r, 50));
+  await until(() => sent.length > 0);
   assert.deepEqual(sent, [{ type: 'change', target: 'field:temp', value: '37.6' }], 'only the value at rest');
   await page.unrouteAll({ behavior: 'ignoreErrors' });
 }
@@ -128,6 +186,7 @@ await runBrowserTest('editor', async ({ browser, base, outDir }) => {
   const { context, page, errors } = await openPastGreeting(browser, base);
   await page.tap('.card[data-id]');
   await openSettings(page);
+  await typeThroughRedraws(page);
   await choosePortrait(page, outDir);
   await openSettings(page);
   assert.match(await page.getAttribute('.editor-photo-picture', 'src'), /^data:image\/jpeg;base64,/, 'the saved portrait');

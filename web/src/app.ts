@@ -5,7 +5,7 @@ import { listen } from './events.js';
 import { authenticatorEvent, runCeremonies } from './fingerprint.js';
 import { showNotice } from './notice.js';
 import { followDrags, followTilt } from './gestures.js';
-import { editorValueOf } from './editor.js';
+import { editorValueOf, holdsUnsentValue, markSent } from './editor.js';
 import { popupValueOf } from './popup.js';
 import { show } from './screen.js';
 import type { ClientEvent, Screen } from './view.js';
@@ -116,6 +116,7 @@ function changed(input: HTMLElement): void {
   const target = input.dataset.field;
   const value = editorValueOf(input);
   if (target === undefined || value === undefined) return;
+  markSent(input);
   queue(async () => ({ type: 'change', target, value: await value }));
 }
 
@@ -132,6 +133,9 @@ root.addEventListener('click', (event) => {
 });
 root.addEventListener('change', (event) => {
   if (event.target instanceof HTMLElement) changed(event.target);
+});
+root.addEventListener('focusout', (event) => {
+  if (event.target instanceof HTMLElement && holdsUnsentValue(event.target)) changed(event.target);
 });
 root.addEventListener('keydown', (event) => {
   const control = controlOf(event.target);

@@ -14,17 +14,51 @@ export function editorValueOf(input: HTMLElement): Promise<unknown> | undefined 
 
 /**
  * Inputs that the user is still typing in keep what was typed when the server's answer to an
- * earlier change redraws the editor, and the one in use keeps the focus.
+ * earlier change redraws the editor. Returns what gives the redrawn input in use the focus and
+ * the selection, to be called as soon as it is on the page so that no key press goes astray.
  */
-export function carryUnsentInputs(shown: ParentNode, next: ParentNode): void {
+export function carryUnsentInputs(shown: ParentNode, next: ParentNode): () => void {
+  let refocus = (): void => {};
   const typed = shown.querySelectorAll<HTMLInputElement | HTMLTextAreaElement>('input[data-rendered], textarea[data-rendered]');
   for (const input of typed) {
     const field = input.dataset.field;
     const redrawn = field ? next.querySelector<HTMLInputElement | HTMLTextAreaElement>(`[data-field="${CSS.escape(field)}"]`) : null;
-    if (!redrawn || input.value === input.dataset.rendered) continue;
-    redrawn.value = input.value;
-    if (document.activeElement === input) queueMicrotask(() => redrawn.focus());
+    if (!redrawn) continue;
+    if (input.value !== input.dataset.rendered) {
+      redrawn.value = input.value;
+      if (input.dataset.sent !== undefined) redrawn.dataset.sent = input.dataset.sent;
+    }
+    if (document.activeElement === input) refocus = keepCaret(input, redrawn);
   }
+  return refocus;
+}
+
+function keepCaret(from: HTMLInputElement | HTMLTextAreaElement, to: HTMLInputElement | HTMLTextAreaElement): () => void {
+  const { selectionStart, selectionEnd, selectionDirection } = from;
+  return () => {
+    // Taking the old input off the page sent its value if it had changed; the new one knows.
+    if (from.dataset.sent !== undefined) to.dataset.sent = from.dataset.sent;
+    to.focus();
+    if (selectionStart !== null && selectionEnd !== null && to.value === from.value) {
+      to.setSelectionRange(selectionStart, selectionEnd, selectionDirection ?? undefined);
+    }
+  };
+}
+
+/**
+ * Whether a typed input holds a value the server has not been sent. A value carried over a
+ * redraw raises no change event when the input is left, so leaving it asks this. (Some
+ * browsers send the change as the old input is taken off the page; others never do.)
+ */
+export function holdsUnsentValue(input: HTMLElement): boolean {
+  if (!(input instanceof HTMLInputElement || input instanceof HTMLTextAreaElement)) return false;
+  const { rendered, sent } = input.dataset;
+  return rendered !== undefined && input.value !== rendered && input.value !== sent;
+}
+
+/** Marks what a typed input sent, so that leaving it does not send it twice. */
+export function markSent(input: HTMLElement): void {
+  if (input instanceof HTMLInputElement || input instanceof HTMLTextAreaElement) input.dataset.sent = input.value;
 }
 
 export function renderEditor(node: EditorNode): HTMLElement {

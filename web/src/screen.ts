@@ -11,8 +11,9 @@ export function show(root: HTMLElement, view: Screen): void {
   const message = view.message ? render(view.message) : null;
   // Taking a kept popup out of the page loses its wheels' places: they are put back.
   const wheels = Array.from(popup?.querySelectorAll<HTMLElement>('.wheel') ?? [], (w) => [w, w.scrollTop] as const);
-  if (next) carryUnsentInputs(root, next);
+  const refocus = next ? carryUnsentInputs(root, next) : null;
   root.replaceChildren(...[next, popup, message].filter((node): node is HTMLElement => node !== null));
+  refocus?.();
   for (const [wheel, top] of wheels) wheel.scrollTop = top;
   window.scrollTo(0, scroll);
   applyTheme(view);
