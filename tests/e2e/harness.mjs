@@ -20,7 +20,8 @@ export const CHROMIUM_ARGS = [
 ];
 export const START_TIMEOUT_MS = 20000;
 export const STOP_TIMEOUT_MS = 10000;
-export const STEP_TIMEOUT_MS = 10000;
+// Generous: full-page screenshots drawn without a GPU take seconds on a busy machine.
+export const STEP_TIMEOUT_MS = 20000;
 
 /** A running server process with its output kept for failure reports. */
 export function startServer(executable, dataDir, port, lang = 'ru', extraArgs = [], env = process.env, host = '127.0.0.1') {
@@ -80,6 +81,25 @@ export async function stopServer(server) {
   const exit = await Promise.race([server.exited, sleep(STOP_TIMEOUT_MS).then(() => null)]);
   if (!exit) throw new Error(`server still running ${STOP_TIMEOUT_MS / 1000} s after SIGTERM`);
   assert.deepEqual(exit, { code: 0, signal: null }, 'server exit after SIGTERM');
+}
+
+/**
+ * Runs `run(base)` against a second installation of its own: a server on a fresh data folder in
+ * the given language, stopped cleanly afterwards, its folder removed.
+ */
+export async function onNewInstallation(executable, run, lang = 'ru') {
+  const dataDir = fs.mkdtempSync(path.join(os.tmpdir(), 'ladaneya-e2e-second-'));
+  const port = await freePort();
+  const server = startServer(executable, dataDir, port, lang);
+  try {
+    const base = `http://127.0.0.1:${port}`;
+    await waitUntilServing(server, base);
+    await run(base);
+    await stopServer(server);
+  } finally {
+    if (!server.exit) server.child.kill('SIGKILL');
+    fs.rmSync(dataDir, { recursive: true, force: true });
+  }
 }
 
 /** A page at the device's size (a phone unless told) with the greeting closed, if the launch

@@ -3,21 +3,8 @@
 // menu, turn the lock on, reload and unlock, change the background.
 //   node tests/e2e/journey.test.mjs --server PATH_TO_SERVER --out SCREENSHOT_DIR
 import assert from 'node:assert/strict';
-import fs from 'node:fs';
-import os from 'node:os';
 import path from 'node:path';
-import {
-  PHONE,
-  STEP_TIMEOUT_MS,
-  TABLET,
-  captionIs,
-  freePort,
-  runBrowserTest,
-  startServer,
-  stopServer,
-  typeCode,
-  waitUntilServing,
-} from './harness.mjs';
+import { PHONE, STEP_TIMEOUT_MS, TABLET, captionIs, onNewInstallation, runBrowserTest, typeCode } from './harness.mjs';
 
 const CODE = '2468';
 const NAME = 'Мира';
@@ -141,22 +128,6 @@ async function journey(browser, base, outDir, device, name) {
   await changeBackground(page, outDir, name);
   assert.deepEqual(errors, [], `no uncaught errors in the page (${name})`);
   await context.close();
-}
-
-/** The tablet gets an installation of its own, so that it starts at the greeting too. */
-async function onNewInstallation(executable, run) {
-  const dataDir = fs.mkdtempSync(path.join(os.tmpdir(), 'ladaneya-e2e-journey-'));
-  const port = await freePort();
-  const server = startServer(executable, dataDir, port);
-  try {
-    const base = `http://127.0.0.1:${port}`;
-    await waitUntilServing(server, base);
-    await run(base);
-    await stopServer(server);
-  } finally {
-    if (!server.exit) server.child.kill('SIGKILL');
-    fs.rmSync(dataDir, { recursive: true, force: true });
-  }
 }
 
 await runBrowserTest('journey', async ({ browser, base, outDir, executable }) => {

@@ -1,10 +1,8 @@
 // Browser test of the greeting and the main menu against the real server, in headless Chromium.
 //   node tests/e2e/menu.test.mjs --server PATH_TO_SERVER --out SCREENSHOT_DIR
 import assert from 'node:assert/strict';
-import fs from 'node:fs';
-import os from 'node:os';
 import path from 'node:path';
-import { PHONE, freePort, runBrowserTest, sleep, startServer, stopServer, waitUntilServing } from './harness.mjs';
+import { PHONE, onNewInstallation, runBrowserTest, sleep, STEP_TIMEOUT_MS, stopServer } from './harness.mjs';
 
 const PREGNANCY_MENU = [
   'Сегодня',
@@ -24,7 +22,6 @@ const SWITCH_TEXT = 'Не показывать в дневнике пустые 
 const SWITCH = `[data-id="${SWITCH_ROW}"] .switch`;
 // What the German installation shows (from the translation table).
 const GERMAN = { close: 'Loslegen', firstRow: 'Heute' };
-const STEP_TIMEOUT_MS = 10000;
 
 async function checkManifest(base) {
   const response = await fetch(`${base}/manifest.webmanifest`);
@@ -229,25 +226,20 @@ async function checkGreetingOnce(context, base, outDir) {
 }
 
 async function checkGerman(browser, executable, outDir) {
-  const dataDir = fs.mkdtempSync(path.join(os.tmpdir(), 'ladaneya-e2e-de-'));
-  const port = await freePort();
-  const base = `http://127.0.0.1:${port}`;
-  const server = startServer(executable, dataDir, port, 'de');
-  try {
-    await waitUntilServing(server, base);
-    const context = await browser.newContext(PHONE);
-    const { page, welcome } = await passWelcome(context, base, outDir, 'welcome-de');
-    assert.equal(welcome.close, GERMAN.close, 'the closing button in German');
-    await openCard(page);
-    const first = await page.textContent('.row .caption');
-    assert.equal(first, GERMAN.firstRow, 'the first menu row in German');
-    await page.screenshot({ path: path.join(outDir, 'menu-de.png'), fullPage: true });
-    await context.close();
-    await stopServer(server);
-  } finally {
-    if (!server.exit) server.child.kill('SIGKILL');
-    fs.rmSync(dataDir, { recursive: true, force: true });
-  }
+  await onNewInstallation(
+    executable,
+    async (base) => {
+      const context = await browser.newContext(PHONE);
+      const { page, welcome } = await passWelcome(context, base, outDir, 'welcome-de');
+      assert.equal(welcome.close, GERMAN.close, 'the closing button in German');
+      await openCard(page);
+      const first = await page.textContent('.row .caption');
+      assert.equal(first, GERMAN.firstRow, 'the first menu row in German');
+      await page.screenshot({ path: path.join(outDir, 'menu-de.png'), fullPage: true });
+      await context.close();
+    },
+    'de',
+  );
 }
 
 async function checkInBrowser(browser, base, outDir) {
