@@ -3,7 +3,7 @@
 //   node tests/e2e/contractions.test.mjs --server PATH_TO_SERVER --out SCREENSHOT_DIR
 import assert from 'node:assert/strict';
 import path from 'node:path';
-import { openPastGreeting, runBrowserTest } from './harness.mjs';
+import { boxesOf, openPastGreeting, runBrowserTest } from './harness.mjs';
 
 const TOO_FEW = 'Данных мало. Нужно минимум 4 схватки (3 интервала между ними), чтобы начать определение тенденции.';
 const NO_DATA = 'Пока нет данных для отображения графиков. Нажмите на кнопку СТАРТ при начале схватки.';
@@ -83,9 +83,7 @@ async function checkCounter(browser, base, outDir) {
   await page.goto(`${base}/?shortcut=SCHVATKI`);
   await page.waitForSelector('[data-info="trend"]');
   assert.equal(await trendText(page), NO_DATA, 'an empty counter asks for the first contraction');
-  const charts = await page.$$eval('.ring-page .chart', (boxes) =>
-    boxes.map((box) => (box.querySelector('svg')?.getBoundingClientRect().width ?? 0) > 0),
-  );
+  const charts = (await boxesOf(page, '.ring-page .chart svg')).map((box) => box.width > 0);
   assert.deepEqual(charts, [true, true], 'both charts are drawn');
 
   await timeOne(page, 0, 40);

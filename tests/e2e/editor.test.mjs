@@ -89,7 +89,7 @@ async function typeThroughRedraws(page) {
   const sentValue = (held, field) => held.sent.filter((e) => e.target === field).map((e) => e.value);
   let held = await holdAnswersTo(page, 'field:rost');
   await page.fill('input[data-field="field:rost"]', '170');
-  await page.$eval('input[data-field="field:ves"]', (input) => input.select());
+  await page.evaluate(() => document.querySelector('input[data-field="field:ves"]').select());
   await redrawWhileIn(page, held, 'field:ves');
   await page.keyboard.insertText('61');
   await page.keyboard.press('Tab');
@@ -174,7 +174,7 @@ async function slideScale(page, outDir) {
   await page.waitForSelector('.scale');
   await page.waitForFunction(() => document.querySelector('.scale-value')?.textContent === '36.6');
   // Ten steps of 0.1 to the right.
-  await page.$eval('.scale-ruler', (ruler) => (ruler.scrollLeft += 80));
+  await page.evaluate(() => (document.querySelector('.scale-ruler').scrollLeft += 80));
   await page.waitForFunction(() => document.querySelector('.scale-value')?.textContent === '37.6');
   await page.screenshot({ path: path.join(outDir, 'editor-scale.png') });
   await until(() => sent.length > 0);

@@ -118,6 +118,17 @@ export async function openPastGreeting(browser, base, { device = PHONE, prepare 
   return { context, page, errors };
 }
 
+/**
+ * Where the elements matching a selector lie, read in one step: a redraw between finding them
+ * and measuring them would measure elements no longer on the page.
+ */
+export function boxesOf(page, selector) {
+  return page.evaluate(
+    (s) => [...document.querySelectorAll(s)].map((e) => e.getBoundingClientRect()).map(({ left, top, width, height }) => ({ left, top, width, height })),
+    selector,
+  );
+}
+
 /** Types a code on the lock's pad, one key at a time. */
 export async function typeCode(page, code) {
   for (const digit of code) await page.tap(`button[data-id="lock:${digit}"]`);

@@ -4,7 +4,7 @@
 //   node tests/e2e/journey.test.mjs --server PATH_TO_SERVER --out SCREENSHOT_DIR
 import assert from 'node:assert/strict';
 import path from 'node:path';
-import { PHONE, STEP_TIMEOUT_MS, TABLET, captionIs, onNewInstallation, runBrowserTest, typeCode } from './harness.mjs';
+import { PHONE, STEP_TIMEOUT_MS, TABLET, boxesOf, captionIs, onNewInstallation, runBrowserTest, typeCode } from './harness.mjs';
 
 const CODE = '2468';
 const NAME = 'Мира';
@@ -61,7 +61,7 @@ async function checkCard(page, outDir, device) {
   const overflow = await page.evaluate(() => document.documentElement.scrollWidth - window.innerWidth);
   assert.ok(overflow <= 0, `nothing wider than the screen (${overflow}px over)`);
   // The first pregnancy and the new one: one above the other on a phone, side by side on a tablet.
-  const tops = await page.$$eval('.card', (cards) => cards.map((c) => Math.round(c.getBoundingClientRect().top)));
+  const tops = (await boxesOf(page, '.card')).map((box) => Math.round(box.top));
   assert.equal(tops.length, 2, 'two pregnancy cards');
   assert.equal(tops[0] === tops[1], device === 'tablet', `cards side by side only on a tablet (${tops})`);
   await shot(page, outDir, device, 'card');
@@ -70,7 +70,7 @@ async function checkCard(page, outDir, device) {
 }
 
 async function drag(page, from, to) {
-  const y = await page.$eval('.ring-page', (node) => node.getBoundingClientRect().top + 300);
+  const y = (await boxesOf(page, '.ring-page'))[0].top + 300;
   await page.mouse.move(from, y);
   await page.mouse.down();
   const steps = 6;

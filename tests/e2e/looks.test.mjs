@@ -130,32 +130,6 @@ async function checkLandscapeTablet(page, outDir) {
   await page.screenshot({ path: path.join(outDir, 'looks-tablet-landscape.png'), fullPage: true });
 }
 
-/** Where the profile cards lie, top to bottom. */
-const cardBoxes = (page) =>
-  page.$$eval('.card[data-id]', (cards) => cards.map((c) => c.getBoundingClientRect()).map(({ left, top, width }) => ({ left, top, width })));
-
-/**
- * A second pregnancy made from the tablet: with the open card closed, there its card stands
- * beside the first, each half the column; the phone, told of the change, stacks the two.
- */
-async function checkTwoCards(tablet, phone, outDir) {
-  await tablet.tap('[data-id="menu:31"]');
-  await tablet.waitForSelector('.editor');
-  await tablet.tap('button[data-id="editor:ok"]');
-  await tablet.waitForSelector('.editor', { state: 'detached' });
-  for (const page of [tablet, phone]) await page.waitForFunction(() => document.querySelectorAll('.card[data-id]').length === 2);
-  // An open card has its profile's rows under it.
-  await tablet.tap('.card.open');
-  await tablet.waitForSelector('.card.open', { state: 'detached' });
-  const [left, right] = await cardBoxes(tablet);
-  assert.equal(right.top, left.top, 'tablet: the two cards side by side');
-  assert.ok(right.left >= left.left + left.width, 'tablet: without overlapping');
-  assert.ok(Math.abs(right.width - left.width) < 1, 'tablet: half the column each');
-  const [upper, lower] = await cardBoxes(phone);
-  assert.ok(lower.top > upper.top && lower.left === upper.left, 'phone: the cards one under the other');
-  await tablet.screenshot({ path: path.join(outDir, 'looks-tablet-two-cards.png'), fullPage: true });
-}
-
 /** A JPEG drawn by the browser, written where the profile's portrait is kept. */
 async function placePortrait(page, dataDir) {
   const data = await page.evaluate(() => {
@@ -204,7 +178,6 @@ await runBrowserTest('looks', async ({ browser, base, outDir, dataDir }) => {
   await checkMenu(tablet.page, TABLET, path.join(outDir, 'looks-tablet'));
   await checkLandscapeTablet(tablet.page, outDir);
   await tablet.page.setViewportSize(TABLET.viewport);
-  await checkTwoCards(tablet.page, phone.page, outDir);
   await checkCounterPage(tablet.page, base, outDir);
 
   await checkPortraitBehindLock(phone.page);

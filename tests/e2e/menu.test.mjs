@@ -2,7 +2,7 @@
 //   node tests/e2e/menu.test.mjs --server PATH_TO_SERVER --out SCREENSHOT_DIR
 import assert from 'node:assert/strict';
 import path from 'node:path';
-import { PHONE, onNewInstallation, runBrowserTest, sleep, STEP_TIMEOUT_MS, stopServer } from './harness.mjs';
+import { PHONE, boxesOf, onNewInstallation, runBrowserTest, sleep, STEP_TIMEOUT_MS, stopServer } from './harness.mjs';
 
 const PREGNANCY_MENU = [
   'Сегодня',
@@ -119,7 +119,7 @@ async function checkMenuRows(page) {
   assert.equal(switchRow?.text, SWITCH_TEXT, `${SWITCH_ROW} text`);
   assert.ok(switchRow.enabled, `${SWITCH_ROW} is enabled`);
 
-  const heights = await page.$$eval('.row', (rows) => rows.map((row) => row.getBoundingClientRect().height));
+  const heights = (await boxesOf(page, '.row')).map((box) => box.height);
   assert.ok(Math.min(...heights) >= 48, `rows are at least 48px tall (smallest ${Math.min(...heights)})`);
 }
 
@@ -139,10 +139,7 @@ async function checkRing(page, outDir) {
   await page.waitForSelector('.ring-page .page-title');
   assert.equal(await page.textContent('.ring-page .page-title'), 'Графики ребенка', 'the page title');
   await page.screenshot({ path: path.join(outDir, 'ring-page.png') });
-  const box = await page.$eval('.ring-page', (node) => {
-    const r = node.getBoundingClientRect();
-    return { y: r.top + 300, width: window.innerWidth };
-  });
+  const box = { y: (await boxesOf(page, '.ring-page'))[0].top + 300 };
   await page.mouse.move(40, box.y);
   await page.mouse.down();
   for (const x of [80, 160, 240, 320]) await page.mouse.move(x, box.y);
