@@ -4,7 +4,7 @@
 //   node tests/e2e/editor.test.mjs --server PATH_TO_SERVER --out SCREENSHOT_DIR
 import assert from 'node:assert/strict';
 import path from 'node:path';
-import { openPastGreeting, runBrowserTest, sleep } from './harness.mjs';
+import { openPastGreeting, runBrowserTest, until } from './harness.mjs';
 
 const SCALE_EDITOR = {
   kind: 'editor',
@@ -48,12 +48,6 @@ async function cameraPhoto(page) {
     return btoa(text);
   });
   return { name: 'camera.jpg', mimeType: 'image/jpeg', buffer: Buffer.from(base64, 'base64') };
-}
-
-/** Waits, at most five seconds, until a condition on this side holds. */
-async function until(condition) {
-  const deadline = Date.now() + 5000;
-  while (!condition() && Date.now() < deadline) await sleep(50);
 }
 
 /** Holds the server's answers to changes of one field until released; records every change sent. */
@@ -103,7 +97,7 @@ async function typeThroughRedraws(page) {
   await redrawWhileIn(page, held, 'field:ves');
   assert.equal(await page.inputValue('input[data-field="field:ves"]'), '58', 'typed before the redraw');
   await page.keyboard.press('Tab');
-  await until(() => sentValue(held, 'field:ves').length > 0);
+  await until('the weight sent', () => sentValue(held, 'field:ves').length > 0);
   await page.waitForFunction(() => !document.querySelector('.busy'));
   assert.deepEqual(sentValue(held, 'field:ves'), ['58'], 'sent once');
   await page.unrouteAll({ behavior: 'wait' });
@@ -177,7 +171,7 @@ async function slideScale(page, outDir) {
   await page.evaluate(() => (document.querySelector('.scale-ruler').scrollLeft += 80));
   await page.waitForFunction(() => document.querySelector('.scale-value')?.textContent === '37.6');
   await page.screenshot({ path: path.join(outDir, 'editor-scale.png') });
-  await until(() => sent.length > 0);
+  await until('the value at rest sent', () => sent.length > 0);
   assert.deepEqual(sent, [{ type: 'change', target: 'field:temp', value: '37.6' }], 'only the value at rest');
   await page.unrouteAll({ behavior: 'ignoreErrors' });
 }

@@ -2,19 +2,11 @@
 //   node tests/e2e/fingerprint.test.mjs --server PATH_TO_SERVER --out SCREENSHOT_DIR
 import assert from 'node:assert/strict';
 import path from 'node:path';
-import { openPastGreeting, runBrowserTest, sleep, STEP_TIMEOUT_MS, typeCode } from './harness.mjs';
+import { openPastGreeting, runBrowserTest, typeCode, until } from './harness.mjs';
 
 const CODE = '2580';
 const PASSWORD_SWITCH = 'menu:52';
 const KEY = 'button[data-id="lock:fingerprint"]';
-
-async function until(what, test) {
-  const end = Date.now() + STEP_TIMEOUT_MS;
-  while (!(await test())) {
-    if (Date.now() > end) throw new Error(`timed out waiting for ${what}`);
-    await sleep(50);
-  }
-}
 
 // A phone's reader: verifies its user, and the user is always at hand.
 async function addReader(page) {

@@ -84,21 +84,34 @@ export async function stopServer(server) {
 }
 
 /**
- * Runs `run(base)` against a second installation of its own: a server on a fresh data folder in
- * the given language, stopped cleanly afterwards, its folder removed.
+ * Runs `run({ base, server, dataDir })` against an installation of its own: a server on a fresh
+ * data folder and a free port, stopped cleanly afterwards (unless `run` stopped it), its folder
+ * removed. A failure carries the server's last output as `serverLog`.
  */
-export async function onNewInstallation(executable, run, lang = 'ru') {
-  const dataDir = fs.mkdtempSync(path.join(os.tmpdir(), 'ladaneya-e2e-second-'));
+export async function onNewInstallation(executable, run, { lang = 'ru', extraArgs = [], env = process.env, name = 'second' } = {}) {
+  const dataDir = fs.mkdtempSync(path.join(os.tmpdir(), `ladaneya-e2e-${name}-`));
   const port = await freePort();
-  const server = startServer(executable, dataDir, port, lang);
+  const server = startServer(executable, dataDir, port, lang, extraArgs, env);
+  const cleanup = () => {
+    if (!server.exit) server.child.kill('SIGKILL');
+    fs.rmSync(dataDir, { recursive: true, force: true });
+  };
+  const interrupted = () => {
+    cleanup();
+    process.exit(130);
+  };
+  process.once('SIGINT', interrupted);
   try {
     const base = `http://127.0.0.1:${port}`;
     await waitUntilServing(server, base);
-    await run(base);
-    await stopServer(server);
+    await run({ base, server, dataDir });
+    if (!server.exit) await stopServer(server);
+  } catch (error) {
+    if (error instanceof Error) error.serverLog ??= server.log;
+    throw error;
   } finally {
-    if (!server.exit) server.child.kill('SIGKILL');
-    fs.rmSync(dataDir, { recursive: true, force: true });
+    process.removeListener('SIGINT', interrupted);
+    cleanup();
   }
 }
 
@@ -129,6 +142,15 @@ export function boxesOf(page, selector) {
   );
 }
 
+/** Waits until `test()` (on this side, may be async) holds; fails naming `what` after a step's time. */
+export async function until(what, test) {
+  const end = Date.now() + STEP_TIMEOUT_MS;
+  while (!(await test())) {
+    if (Date.now() > end) throw new Error(`timed out waiting for ${what}`);
+    await sleep(50);
+  }
+}
+
 /** Types a code on the lock's pad, one key at a time. */
 export async function typeCode(page, code) {
   for (const digit of code) await page.tap(`button[data-id="lock:${digit}"]`);
@@ -153,33 +175,21 @@ export async function runBrowserTest(name, check, { lang = 'ru', extraArgs = [],
   }
   fs.mkdirSync(values.out, { recursive: true });
   const executable = path.resolve(values.server);
-  const dataDir = fs.mkdtempSync(path.join(os.tmpdir(), `ladaneya-e2e-${name}-`));
-  let server = null;
   let browser = null;
-  const cleanup = () => {
-    if (server && !server.exit) server.child.kill('SIGKILL');
-    fs.rmSync(dataDir, { recursive: true, force: true });
-  };
-  process.once('SIGINT', () => {
-    cleanup();
-    process.exit(130);
-  });
   try {
-    const port = await freePort();
-    const base = `http://127.0.0.1:${port}`;
-    server = startServer(executable, dataDir, port, lang, extraArgs, env);
-    await waitUntilServing(server, base);
     browser = await chromium.launch({ executablePath: '/usr/bin/chromium', args: CHROMIUM_ARGS });
-    await check({ browser, base, outDir: values.out, executable, server, dataDir });
-    if (!server.exit) await stopServer(server);
+    await onNewInstallation(
+      executable,
+      ({ base, server, dataDir }) => check({ browser, base, outDir: values.out, executable, server, dataDir }),
+      { lang, extraArgs, env, name },
+    );
     console.log(`${name}: 1 passed, 0 failed`);
   } catch (error) {
     console.error(`${name}: FAILED: ${error.stack}`);
-    if (server?.log) console.error(`--- server output (last part) ---\n${server.log}`);
+    if (error?.serverLog) console.error(`--- server output (last part) ---\n${error.serverLog}`);
     console.log(`${name}: 0 passed, 1 failed`);
     process.exitCode = 1;
   } finally {
     await browser?.close().catch(() => {});
-    cleanup();
   }
 }

@@ -132,5 +132,5 @@ async function journey(browser, base, outDir, device, name) {
 
 await runBrowserTest('journey', async ({ browser, base, outDir, executable }) => {
   await journey(browser, base, outDir, PHONE, 'phone');
-  await onNewInstallation(executable, (tabletBase) => journey(browser, tabletBase, outDir, TABLET, 'tablet'));
+  await onNewInstallation(executable, ({ base: tabletBase }) => journey(browser, tabletBase, outDir, TABLET, 'tablet'));
 });

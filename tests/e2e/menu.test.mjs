@@ -225,7 +225,7 @@ async function checkGreetingOnce(context, base, outDir) {
 async function checkGerman(browser, executable, outDir) {
   await onNewInstallation(
     executable,
-    async (base) => {
+    async ({ base }) => {
       const context = await browser.newContext(PHONE);
       const { page, welcome } = await passWelcome(context, base, outDir, 'welcome-de');
       assert.equal(welcome.close, GERMAN.close, 'the closing button in German');
@@ -235,7 +235,7 @@ async function checkGerman(browser, executable, outDir) {
       await page.screenshot({ path: path.join(outDir, 'menu-de.png'), fullPage: true });
       await context.close();
     },
-    'de',
+    { lang: 'de', name: 'de' },
   );
 }
 

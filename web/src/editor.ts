@@ -5,6 +5,9 @@ import { element } from './dom.js';
 import { renderIcon } from './render.js';
 import type { EditorNode, EditorRow } from './view.js';
 
+/** An input the user types in. */
+type Typed = HTMLInputElement | HTMLTextAreaElement;
+
 /** Reads an input's value in the form its row keeps ("dd.MM.yyyy", "HH:mm", a number…). */
 const readers = new WeakMap<HTMLElement, () => Promise<unknown>>();
 
@@ -18,26 +21,28 @@ export function editorValueOf(input: HTMLElement): Promise<unknown> | undefined 
  * the selection, to be called as soon as it is on the page so that no key press goes astray.
  */
 export function carryUnsentInputs(shown: ParentNode, next: ParentNode): () => void {
+  const carried: Array<[Typed, Typed]> = [];
   let refocus = (): void => {};
-  const typed = shown.querySelectorAll<HTMLInputElement | HTMLTextAreaElement>('input[data-rendered], textarea[data-rendered]');
-  for (const input of typed) {
+  for (const input of shown.querySelectorAll<Typed>('input[data-rendered], textarea[data-rendered]')) {
     const field = input.dataset.field;
-    const redrawn = field ? next.querySelector<HTMLInputElement | HTMLTextAreaElement>(`[data-field="${CSS.escape(field)}"]`) : null;
+    const redrawn = field ? next.querySelector<Typed>(`[data-field="${CSS.escape(field)}"]`) : null;
     if (!redrawn) continue;
     if (input.value !== input.dataset.rendered) {
       redrawn.value = input.value;
-      if (input.dataset.sent !== undefined) redrawn.dataset.sent = input.dataset.sent;
+      carried.push([input, redrawn]);
     }
     if (document.activeElement === input) refocus = keepCaret(input, redrawn);
   }
-  return refocus;
+  return () => {
+    // Read once the old inputs are off the page: taking the one in use away may have sent it.
+    for (const [from, to] of carried) if (from.dataset.sent !== undefined) to.dataset.sent = from.dataset.sent;
+    refocus();
+  };
 }
 
-function keepCaret(from: HTMLInputElement | HTMLTextAreaElement, to: HTMLInputElement | HTMLTextAreaElement): () => void {
+function keepCaret(from: Typed, to: Typed): () => void {
   const { selectionStart, selectionEnd, selectionDirection } = from;
   return () => {
-    // Taking the old input off the page sent its value if it had changed; the new one knows.
-    if (from.dataset.sent !== undefined) to.dataset.sent = from.dataset.sent;
     to.focus();
     if (selectionStart !== null && selectionEnd !== null && to.value === from.value) {
       to.setSelectionRange(selectionStart, selectionEnd, selectionDirection ?? undefined);
@@ -141,7 +146,7 @@ function bind(input: HTMLElement, row: EditorRow, read: () => unknown): void {
 }
 
 /** A typed input remembers the value it was drawn with, so that a redraw can tell it was changed. */
-function bindTyped(input: HTMLInputElement | HTMLTextAreaElement, row: EditorRow, read: () => unknown): void {
+function bindTyped(input: Typed, row: EditorRow, read: () => unknown): void {
   bind(input, row, read);
   input.dataset.rendered = input.value;
 }
