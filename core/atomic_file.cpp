@@ -4,6 +4,7 @@
 #include <unistd.h>
 
 #include <cerrno>
+#include <cstdio>
 #include <cstring>
 #include <fstream>
 #include <sstream>
@@ -84,6 +85,21 @@ bool copyFileAtomically(const std::filesystem::path& from, const std::filesystem
   if (!error) return true;
   std::filesystem::remove(temp, error);
   return false;
+}
+
+std::optional<std::filesystem::path> moveAside(const std::filesystem::path& from,
+                                               const std::filesystem::path& to) {
+  constexpr int kMostTries = 1000;
+  std::filesystem::path target = to;
+  for (int n = 2; n <= kMostTries; ++n) {
+    // The kernel checks and renames in one step, so a file appearing meanwhile is not replaced.
+    if (::renameat2(AT_FDCWD, from.c_str(), AT_FDCWD, target.c_str(), RENAME_NOREPLACE) == 0)
+      return target;
+    if (errno != EEXIST) return std::nullopt;
+    target =
+        to.parent_path() / (to.stem().string() + "-" + std::to_string(n) + to.extension().string());
+  }
+  return std::nullopt;
 }
 
 }  // namespace lad

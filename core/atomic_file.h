@@ -21,6 +21,12 @@ bool writeFileAtomically(const std::filesystem::path& target, std::string_view c
 // copy never leaves a half file under the target's name. False when any step fails.
 bool copyFileAtomically(const std::filesystem::path& from, const std::filesystem::path& to);
 
+// Moves a file that must be kept to `to`, or, when that name is taken, to the first free one
+// of "<stem>-2<ext>", "<stem>-3<ext>" ...: a kept file never replaces another. The path it went
+// to, or nullopt when it could not be moved.
+std::optional<std::filesystem::path> moveAside(const std::filesystem::path& from,
+                                               const std::filesystem::path& to);
+
 // The temporary name used for target while it is being replaced.
 std::filesystem::path atomicTempPath(const std::filesystem::path& target);
 

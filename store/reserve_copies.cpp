@@ -25,7 +25,9 @@ std::vector<std::filesystem::path> databasesIn(const std::filesystem::path& fold
   std::vector<std::filesystem::path> found;
   std::error_code error;
   for (const auto& entry : std::filesystem::directory_iterator(folder, error))
-    if (entry.path().extension() == ".sqlite") found.push_back(entry.path());
+    if (entry.path().extension() == ".sqlite" &&
+        !entry.path().filename().string().starts_with(kReplacedPrefix))
+      found.push_back(entry.path());
   std::sort(found.begin(), found.end(), [](const auto& a, const auto& b) {
     return lowered(a.filename().string()) < lowered(b.filename().string());
   });

@@ -7,6 +7,7 @@
 #include "core/atomic_file.h"
 #include "core/context.h"
 #include "store/folders.h"
+#include "store/reserve_copies.h"
 #include "store/store.h"
 #include "store/tables.h"
 
@@ -25,8 +26,7 @@ void takeOver(Store& store, const fs::path& found) {
   if (fs::exists(live, error)) {
     const Context& context = store.context();
     const std::string stamp = context.dates().dateToString(context.clock().now(), "yyMMdd-HHmmss");
-    fs::rename(live, store.reservFolder() / ("replaced-" + stamp + ".sqlite"), error);
-    if (error) return;
+    if (!moveAside(live, store.reservFolder() / (kReplacedPrefix + stamp + ".sqlite"))) return;
   }
   fs::rename(found, live, error);
 }

@@ -2,6 +2,8 @@
 
 #include <gtest/gtest.h>
 
+#include <set>
+
 #include "store/first_launch.h"
 #include "store/reserve_copies.h"
 #include "tests/store/store_fixture.h"
@@ -23,31 +25,49 @@ TEST_F(RestoreTest, AFirstStartCopiesTheTemplateOnceAndLaterStartsKeepTheLiveFil
   EXPECT_EQ(cell("select childname from preg where pregid=1"), "Мила");
 }
 
-TEST_F(RestoreTest, ADatabaseLeftInAnOldPlaceReplacesTheLiveFileWhichIsKeptAside) {
+// Old databases in both old places, taken over in one second: the documents one wins, and the
+// live diary and the library one are both kept aside, neither overwriting the other. Kept
+// copies are never pruned as reserve copies.
+TEST_F(RestoreTest, DatabasesInBothOldPlacesReplaceTheLiveFileAndEveryReplacedOneIsKept) {
   open();
   ASSERT_TRUE(fromOldVersionNewRestore(*store));
-  const auto documentsCopy = dir.path() / "Documents" / "pregnant.sqlite";
-  std::filesystem::copy_file(store->liveFile(), documentsCopy);
-  {
-    SqliteConnection old(documentsCopy, SqliteConnection::Mode::ReadWrite);
-    ASSERT_TRUE(old.execute("update preg set childname='из документов' where pregid=1"));
-  }
+  const auto childNameIn = [](const std::filesystem::path& file) {
+    SqliteConnection db(file, SqliteConnection::Mode::ReadOnly);
+    SqliteStatement name = db.prepare("select childname from preg where pregid=1");
+    return name.step() ? name.columnText(0).value_or("") : "";
+  };
+  const auto oldCopy = [&](const std::filesystem::path& file, const std::string& name) {
+    std::filesystem::copy_file(store->liveFile(), file);
+    SqliteConnection old(file, SqliteConnection::Mode::ReadWrite);
+    EXPECT_TRUE(old.execute("update preg set childname='" + name + "' where pregid=1"));
+  };
+  oldCopy(dir.path() / "Library" / "pregnant.sqlite", "из библиотеки");
+  oldCopy(dir.path() / "Documents" / "pregnant.sqlite", "из документов");
   {
     StoreBracket bracket = store->connectToBase();
     ASSERT_TRUE(bracket.db()->execute("update preg set childname='живой' where pregid=1"));
   }
   EXPECT_FALSE(fromOldVersionNewRestore(*store));
-  EXPECT_FALSE(std::filesystem::exists(documentsCopy));
   EXPECT_EQ(cell("select childname from preg where pregid=1"), "из документов");
 
-  std::optional<std::filesystem::path> keptAside;
+  std::multiset<std::string> kept;
   for (const auto& entry : std::filesystem::directory_iterator(reserv()))
-    if (entry.path().filename().string().starts_with("replaced-")) keptAside = entry.path();
-  ASSERT_TRUE(keptAside);
-  SqliteConnection kept(*keptAside, SqliteConnection::Mode::ReadOnly);
-  SqliteStatement name = kept.prepare("select childname from preg where pregid=1");
-  ASSERT_TRUE(name.step());
-  EXPECT_EQ(name.columnText(0), "живой");
+    if (entry.path().filename().string().starts_with(kReplacedPrefix))
+      kept.insert(childNameIn(entry.path()));
+  EXPECT_EQ(kept, (std::multiset<std::string>{"живой", "из библиотеки"}));
+
+  for (int day = 0; day < 6; ++day) {
+    clock->advance(std::chrono::hours(24));
+    StoreBracket bracket = store->connectToBase();
+  }
+  std::size_t dated = 0, keptAfter = 0;
+  for (const auto& entry : std::filesystem::directory_iterator(reserv())) {
+    const std::string name = entry.path().filename().string();
+    dated += name.size() == 13 && name.ends_with(".sqlite");
+    keptAfter += name.starts_with(kReplacedPrefix);
+  }
+  EXPECT_EQ(dated, 4u) << "kept copies take no place of a reserve copy";
+  EXPECT_EQ(keptAfter, 2u);
 }
 
 TEST_F(RestoreTest, TheBaseFileTestCallsOnlyAReadableFileWithoutEntriesBad) {
