@@ -2,12 +2,16 @@
 // follows its browsers becoming visible (an activation) and hidden (a deactivation).
 #pragma once
 
+#include <cstdint>
 #include <filesystem>
 #include <functional>
+#include <map>
 #include <memory>
 #include <optional>
+#include <string>
 
 #include "core/context.h"
+#include "health/contraction_timer.h"
 #include "shell/lock_throttle.h"
 #include "shell/message_box.h"
 #include "store/store.h"
@@ -43,6 +47,17 @@ class Application {
   // A browser was hidden: the moment is kept for the lock's grace time.
   void resignActive();
 
+  // The contraction being timed for a pregnancy. It lives as long as the program runs, shared
+  // by every browser and outliving the pages that show it.
+  health::ContractionTimer& contractionTimer(const std::string& pregguid) {
+    return contractionTimers_[pregguid];
+  }
+
+  // Counts changes of the installation's data, so that a page built before one knows it must
+  // load again.
+  std::uint64_t dataVersion() const { return dataVersion_; }
+  void dataChanged() { ++dataVersion_; }
+
   // A file handed over by another program is kept for the analyses or the doctor's chat; the
   // message tells the user where to use it.
   MessageBox openURL(const std::filesystem::path& file);
@@ -58,6 +73,8 @@ class Application {
   bool versionRecordTaken_ = false;
   std::function<void()> askReview_;
   LockThrottle lockThrottle_;
+  std::map<std::string, health::ContractionTimer> contractionTimers_;
+  std::uint64_t dataVersion_ = 0;
 };
 
 }  // namespace lad::shell

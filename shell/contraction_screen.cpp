@@ -20,6 +20,15 @@ Value node(const char* kind) {
   return m;
 }
 
+// The tick chain of a timer, whichever page armed it: it goes on when the page is gone, and
+// each tick redraws every browser.
+EventResult armTick(health::ContractionTimer& timer) {
+  EventResult result;
+  result.timerDelay = 1s;
+  result.timer = [&timer] { return timer.onTimer() ? armTick(timer) : EventResult{}; };
+  return result;
+}
+
 }  // namespace
 
 std::shared_ptr<ContractionScreen> ContractionScreen::open(Application& app, std::string pregguid,
@@ -30,7 +39,10 @@ std::shared_ptr<ContractionScreen> ContractionScreen::open(Application& app, std
 }
 
 ContractionScreen::ContractionScreen(Application& app, std::string pregguid, double scale)
-    : app_(app), pregguid_(std::move(pregguid)), scale_(scale) {}
+    : app_(app),
+      pregguid_(std::move(pregguid)),
+      scale_(scale),
+      timer_(app.contractionTimer(pregguid_)) {}
 
 void ContractionScreen::updateGraph() {
   data_ = health::loadContractions(app_.store(), pregguid_);
@@ -122,7 +134,7 @@ EventResult ContractionScreen::start() {
   if (timer_.running()) return EventResult::refused("a contraction is already being timed");
   const bool tickArmed = timer_.visible();  // still fading out: its tick chain goes on
   timer_.start(app_.context().clock().now());
-  return tickArmed ? EventResult{} : armTick();
+  return tickArmed ? EventResult{} : armTick(timer_);
 }
 
 EventResult ContractionScreen::stop() {
@@ -143,20 +155,6 @@ EventResult ContractionScreen::remove(std::string_view schid) {
   updateGraph();
   EventResult result;
   result.installationChanged = true;
-  return result;
-}
-
-EventResult ContractionScreen::onTimer() {
-  return timer_.onTimer() ? armTick() : EventResult{};
-}
-
-EventResult ContractionScreen::armTick() {
-  EventResult result;
-  result.timerDelay = 1s;
-  result.timer = [weak = weak_from_this()]() -> EventResult {
-    auto screen = weak.lock();
-    return screen ? screen->onTimer() : EventResult{};
-  };
   return result;
 }
 

@@ -23,7 +23,7 @@ inline constexpr std::string_view kContractionRow = "contractions:row:";
 // Row target prefix of a contraction's delete swipe, followed by its schid.
 inline constexpr std::string_view kContractionDelete = "contractions:delete:";
 
-class ContractionScreen : public Screen, public std::enable_shared_from_this<ContractionScreen> {
+class ContractionScreen : public Screen {
  public:
   // scale: the device scale of the browser, which sizes the charts.
   static std::shared_ptr<ContractionScreen> open(Application& app, std::string pregguid,
@@ -31,8 +31,6 @@ class ContractionScreen : public Screen, public std::enable_shared_from_this<Con
 
   Value view() override;
   EventResult tap(std::string_view target) override;
-  // One tick of the running view; its result arms the next tick while one is wanted.
-  EventResult onTimer();
 
   bool closed() const override { return closed_; }
   const health::ContractionTimer& timer() const { return timer_; }
@@ -44,7 +42,6 @@ class ContractionScreen : public Screen, public std::enable_shared_from_this<Con
   EventResult start();
   EventResult stop();
   EventResult remove(std::string_view schid);
-  EventResult armTick();
   void updateGraph();
   Value chartView(const char* id, const List& points, const char* caption) const;
   List listViews() const;
@@ -52,7 +49,7 @@ class ContractionScreen : public Screen, public std::enable_shared_from_this<Con
   Application& app_;
   std::string pregguid_;
   double scale_;
-  health::ContractionTimer timer_;
+  health::ContractionTimer& timer_;  // the installation's, for this pregnancy
   std::vector<health::Contraction> data_;
   std::vector<health::ContractionGroup> groups_;
   health::TrendMessage trend_;

@@ -108,6 +108,7 @@ Value Session::view() {
     appeared_ = true;
     if (auto greeting = app_.takeVersionRecord()) showGreeting(*greeting);
   }
+  if (page_ && pagesVersion_ != app_.dataVersion()) reopenPages();
   Value screen = lock_             ? lock_->view()
                  : !stack_.empty() ? stack_.back()->view()
                  : page_           ? ringView()
@@ -122,7 +123,7 @@ Value Session::view() {
   return withBackground(std::move(screen));
 }
 
-EventResult Session::handle(const Value& event) {
+EventResult Session::dispatch(const Value& event) {
   if (!event.asMap()) return EventResult::refused("an event must be a JSON object");
   const std::string* type = event["type"].asText();
   if (!type) return EventResult::refused("an event needs a text \"type\"");
@@ -146,6 +147,12 @@ EventResult Session::handle(const Value& event) {
   }
   if (*type == "change") return change(event);
   return EventResult::refused("unknown event type \"" + *type + "\"");
+}
+
+EventResult Session::handle(const Value& event) {
+  EventResult result = dispatch(event);
+  if (result.installationChanged) app_.dataChanged();
+  return result;
 }
 
 // Only the screen on top takes taps; a tap meant for a screen below it is stale.
@@ -221,7 +228,15 @@ EventResult Session::openTab(int page) {
   const auto back = ring_.back();
   next_ =
       back && *back != page ? makePage(*back, app_, menu_.activeId(), metrics_.scaleX) : nullptr;
+  pagesVersion_ = app_.dataVersion();
   return {};
+}
+
+// The data changed since the pages were built, here or in another browser. What a page keeps
+// of the user's work in progress lives with the installation, so a page built again loses
+// nothing.
+void Session::reopenPages() {
+  if (auto front = ring_.front()) openTab(*front);
 }
 
 void Session::gotoNextPage() {
@@ -349,7 +364,6 @@ EventResult Session::becomeVisible() {
   pendingShortcut_.clear();
   lockDue_ = app_.becomeActive().lockDue;
   if (lockDue_ && passwordOn(app_.context().settings()) && !locked()) showLock(LockMode::Check);
-  if (auto front = ring_.front()) openTab(*front);
   menu_.updateMenu();
   return {};
 }

@@ -3,6 +3,7 @@
 // sessions.
 #pragma once
 
+#include <cstdint>
 #include <memory>
 #include <optional>
 #include <string>
@@ -66,6 +67,7 @@ class Session : public ScreenHost {
   void showMessage(MessageBox message) override;
 
  private:
+  EventResult dispatch(const Value& event);
   EventResult tap(std::string_view target, const Value& value);
   EventResult change(const Value& event);
   EventResult tapLock(std::string_view target);
@@ -85,6 +87,7 @@ class Session : public ScreenHost {
   EventResult drag(const Value& event);
   EventResult tilt(const Value& event);
   EventResult openTab(int page);
+  void reopenPages();
   void gotoNextPage();
   void gotoMenu();
   void quickStart();
@@ -94,9 +97,10 @@ class Session : public ScreenHost {
   Application& app_;
   MainMenu menu_;
   PageRing ring_;
-  std::shared_ptr<Screen> page_;  // the screen of the front page
-  std::shared_ptr<Screen> next_;  // the page waiting behind it, when it is another one
-  std::string pageProfile_;       // the profile the pages were last opened for
+  std::shared_ptr<Screen> page_;    // the screen of the front page
+  std::shared_ptr<Screen> next_;    // the page waiting behind it, when it is another one
+  std::string pageProfile_;         // the profile the pages were last opened for
+  std::uint64_t pagesVersion_ = 0;  // the installation's data version they were built at
   TiltNavigator tilt_;
   std::vector<std::shared_ptr<Screen>> stack_;  // screens over the menu and pages, top last
   std::optional<MessageBox> message_;

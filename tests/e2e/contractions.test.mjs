@@ -1,5 +1,6 @@
 // Browser test of the contraction counter: opened by its shortcut, three contractions timed on
-// the server's test clock, the charts and the trend message drawn, a row swiped away.
+// the server's test clock, the charts and the trend message drawn, a row swiped away, and one
+// timed across a locked screen.
 //   node tests/e2e/contractions.test.mjs --server PATH_TO_SERVER --out SCREENSHOT_DIR
 import assert from 'node:assert/strict';
 import path from 'node:path';
@@ -77,6 +78,30 @@ async function swipe(page, locator, dx) {
   return moved;
 }
 
+/** What the phone's screen lock does to the page: it is hidden, then shown again. */
+async function setVisibility(page, state) {
+  await page.evaluate((visibility) => {
+    Object.defineProperty(document, 'visibilityState', { value: visibility, configurable: true });
+    document.dispatchEvent(new Event('visibilitychange'));
+  }, state);
+}
+
+/** A contraction timed across a locked screen keeps running and is stored whole. */
+async function timeAcrossTheLock(page) {
+  await page.tap(START);
+  await page.waitForSelector(STOP);
+  await advanceClock(page, 25);
+  await setVisibility(page, 'hidden');
+  await advanceClock(page, 35);
+  await setVisibility(page, 'visible');
+  await waitForText(page, '.timer', '01:00');
+  await page.tap(STOP);
+  await page.waitForSelector(START);
+  await page.waitForFunction(() =>
+    [...document.querySelectorAll('.ring-page .list .row .caption')].some((c) => c.textContent === '01:00'),
+  );
+}
+
 async function checkCounter(browser, base, outDir) {
   const { context, page, errors } = await openPastGreeting(browser, base);
 
@@ -107,6 +132,7 @@ async function checkCounter(browser, base, outDir) {
   await row.locator('button.delete').click();
   await page.waitForFunction(() => document.querySelectorAll('.ring-page .list .row').length === 3);
   await waitForText(page, '[data-info="trend"]', TOO_FEW);
+  await timeAcrossTheLock(page);
   assert.deepEqual(errors, [], 'no uncaught errors in the page');
   await context.close();
 }

@@ -114,5 +114,49 @@ TEST_F(ContractionScreenTest, TrendListAndSwipeToDelete) {
   EXPECT_EQ(s->view()["kind"].text(), "page");
 }
 
+// The running contraction belongs to the installation: the screen locking (hidden, then
+// visible), a look at the menu and a second browser all see it, and it is stored whole.
+TEST_F(ContractionScreenTest, ARunningContractionOutlivesThePageAndIsSharedByEveryBrowser) {
+  auto phone = counter();
+  const EventResult started = tap(*phone, kContractionStart);
+  ASSERT_TRUE(started.ok());
+  clock->advance(20s);
+  ASSERT_TRUE(phone->handle(event(R"({"type":"hidden"})")).ok());
+  clock->advance(20s);
+  ASSERT_TRUE(phone->handle(event(R"({"type":"visible"})")).ok());
+  EXPECT_EQ((*child(phone->view()["page"], "timer"))["text"].text(), "00:40");
+  ASSERT_TRUE(phone->handle(event(R"({"type":"tap","target":"ring:menu"})")).ok());
+  ASSERT_EQ(phone->frontPage(), std::nullopt);
+
+  auto tablet = counter();
+  EXPECT_TRUE((*child(tablet->view()["page"], "timer"))["running"].boolValue());
+  EXPECT_FALSE(tap(*tablet, kContractionStart).ok()) << "one contraction at a time";
+  clock->advance(5s);
+  ASSERT_TRUE(tap(*tablet, kContractionStop).ok());
+
+  // The first browser comes back to the counter and finds the contraction in its list.
+  ASSERT_TRUE(phone->handle(event(R"({"type":"shortcut","name":"SCHVATKI"})")).ok());
+  ASSERT_TRUE(phone->handle(event(R"({"type":"visible"})")).ok());
+  const Value page = phone->view()["page"];
+  EXPECT_FALSE((*child(page, "timer"))["running"].boolValue());
+  ASSERT_TRUE(child(page, "list"));
+  EXPECT_EQ((*child(page, "list"))["rows"].asList()->at(0)["caption"].text(), "00:45");
+  // Its old tick chain runs out by itself: the fade ends and no further tick is armed.
+  EventResult tick = started.timer();
+  while (tick.timer) tick = tick.timer();
+  EXPECT_FALSE((*child(phone->view()["page"], "timer"))["visible"].boolValue());
+}
+
+// A page shown in one browser loads again when another browser changed the data.
+TEST_F(ContractionScreenTest, AnOpenPageShowsWhatAnotherBrowserStored) {
+  auto phone = counter();
+  auto tablet = counter();
+  time(*tablet, 0s, 30s);
+  const Value page = phone->view()["page"];
+  const Value* list = child(page, "list");
+  ASSERT_TRUE(list);
+  EXPECT_EQ((*list)["rows"].asList()->size(), 1u);
+}
+
 }  // namespace
 }  // namespace lad::shell
