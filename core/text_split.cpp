@@ -6,9 +6,8 @@ namespace {
 
 constexpr std::size_t kNone = std::string_view::npos;
 
-// Cuts the text at the blank before the word that did not fit; kNone when that was the first.
+// Cuts the text at a blank: the line before it, the rest after it.
 SplitText cutAt(std::string_view text, std::size_t blank) {
-  if (blank == kNone) return {"", std::string(text)};
   const std::string_view rest = text.substr(blank + 1);
   return {std::string(text.substr(0, blank)),
           rest.empty() ? std::nullopt : std::optional<std::string>(rest)};
@@ -21,7 +20,10 @@ SplitText splitString(std::string_view text, double width, double height,
   std::size_t wordEnd = text.find(' ');
   if (wordEnd == kNone) return {std::string(text), std::nullopt};
   for (std::size_t blank = kNone;; wordEnd = text.find(' ', wordEnd + 1)) {
-    if (measurer.textHeight(text.substr(0, wordEnd), width) > height) return cutAt(text, blank);
+    // A first word higher than the room by itself stays in the line, so a caller always
+    // advances.
+    if (measurer.textHeight(text.substr(0, wordEnd), width) > height)
+      return cutAt(text, blank == kNone ? wordEnd : blank);
     if (wordEnd == kNone) return {std::string(text), std::nullopt};
     blank = wordEnd;
   }

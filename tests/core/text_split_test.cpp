@@ -29,7 +29,8 @@ TEST(TextSplit, TakesTheWordsThatFitAndLeavesTheRest) {
       {"one two three four five six", 30, 10, "one two three four five six", std::nullopt},
       {"one two three four five six", 5, 20, "one two", "three four five six"},
       {"averyveryverylongword", 10, 20, "averyveryverylongword", std::nullopt},  // no blank
-      {"averyveryverylongword next", 10, 20, "", "averyveryverylongword next"},
+      {"averyveryverylongword next", 10, 20, "averyveryverylongword", "next"},
+      {"averyveryverylongword ", 10, 20, "averyveryverylongword", std::nullopt},
       {"0123456789 012345678 ", 10, 20, "0123456789 012345678", std::nullopt},
       {"", 10, 20, "", std::nullopt},
   };
