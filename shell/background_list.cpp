@@ -37,7 +37,7 @@ Value BackgroundList::view() {
     row.checked = id == values.backgroundId;
     rows.push_back(row.toValue());
   }
-  return pageView(context_.translate("Настройка заднего фона"), {listView(std::move(rows))});
+  return pageView(context_.translate("Фон программы"), {listView(std::move(rows))});
 }
 
 EventResult BackgroundList::tap(std::string_view target) {

@@ -1,12 +1,14 @@
 #include "shell/profile_editor.h"
 
+#include "shell/detail_rows.h"
 #include "shell/field_check.h"
+#include "shell/wheel_picker.h"
 
 namespace lad::shell {
 
 namespace {
 
-constexpr int kConsent = 1;  // "Да" of the removal question
+constexpr int kConsent = 1;  // "Да" of the removal question, the tick of a picker
 constexpr std::string_view kRemoveField = "remove";
 constexpr std::string_view kUnreadablePhoto = "Не удалось прочитать фотографию";
 
@@ -27,6 +29,10 @@ EventResult ProfileEditor::tap(std::string_view target) {
   if (target == kEditorOk) return save();
   if (targetField(target) == kRemoveField && dialog_.row(kRemoveField)) {
     askRemoval();
+    return {};
+  }
+  if (const Map* row = dialog_.row(targetField(target)); row && (*row)["tp"].intValue() == kDate) {
+    pickDate(std::string(targetField(target)), *row);
     return {};
   }
   return EventResult::refused("the settings have no button " + std::string(target));
@@ -59,6 +65,16 @@ EventResult ProfileEditor::save() {
     return {};
   }
   return finish();
+}
+
+// A date is chosen on the diary's own date wheel, so it reads "dd.MM.yyyy" in every browser.
+void ProfileEditor::pickDate(std::string field, const Map& row) {
+  host_.openPopup(std::make_unique<WheelPicker>(app_.context(), kDatePicker, row["caption"].text(),
+                                                row["source"].text()),
+                  [this, field = std::move(field)](const PopupAnswer& answer) {
+                    if (answer.button != kConsent) return EventResult();
+                    return change(fieldTarget(field), answer.value);
+                  });
 }
 
 void ProfileEditor::askRemoval() {

@@ -28,6 +28,7 @@ class ProfileEditor : public Screen {
 
  private:
   EventResult save();
+  void pickDate(std::string field, const Map& row);
   void askRemoval();
   EventResult finish();
 

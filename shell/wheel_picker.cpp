@@ -10,28 +10,18 @@ namespace lad::shell {
 namespace {
 
 constexpr std::string_view kStoredDate = "dd.MM.yyyy";
-constexpr std::string_view kInputDate = "yyyy-MM-dd";
 constexpr std::string_view kTime = "HH:mm";
+// The year wheel reaches this far back (birth dates) and ahead (due dates).
+constexpr int kYearsBack = 100, kYearsAhead = 2;
 
-const char* modeOf(int set) {
-  switch (set) {
-    case kDatePicker:
-      return "date";
-    case kTimePicker:
-      return "time";
-    case kCountDownPicker:
-      return "countdown";
-    default:
-      return "wheels";
-  }
+std::string twoDigits(int n) {
+  return (n < 10 ? "0" : "") + std::to_string(n);
 }
 
-// The text in one pattern written in another; nullopt when it does not read.
-std::optional<std::string> recode(const DateCodec& dates, std::string_view text,
-                                  std::string_view from, std::string_view to) {
-  const auto date = dates.dateFromStringFormat(text, from);
-  if (!date) return std::nullopt;
-  return dates.dateToString(*date, to);
+std::vector<std::string> numbers(int from, int to, bool padded) {
+  std::vector<std::string> rows;
+  for (int n = from; n <= to; ++n) rows.push_back(padded ? twoDigits(n) : std::to_string(n));
+  return rows;
 }
 
 std::string icon(const Context& context, std::string_view name) {
@@ -43,15 +33,12 @@ std::string icon(const Context& context, std::string_view name) {
 WheelPicker::WheelPicker(const Context& context, int set, std::string_view caption,
                          std::string_view old, std::vector<std::string> rowCaptions)
     : context_(context), set_(set), caption_(context.translate(caption)) {
-  const DateCodec& dates = context.dates();
-  if (set == kDatePicker || set == kTimePicker) {
-    const std::string_view from = set == kDatePicker ? kStoredDate : kTime;
-    const std::string_view to = set == kDatePicker ? kInputDate : kTime;
-    value_ = recode(dates, old, from, to).value_or(dates.dateToString(context.clock().now(), to));
+  if (set == kDatePicker) {
+    dateWheels(old);
     return;
   }
-  if (set == kCountDownPicker) {
-    value_ = recode(dates, old, kTime, kTime).value_or("00:00");
+  if (set == kTimePicker || set == kCountDownPicker) {
+    timeWheels(old);
     return;
   }
   if (set == kRowListPicker) {
@@ -60,7 +47,38 @@ WheelPicker::WheelPicker(const Context& context, int set, std::string_view capti
     for (int wheel = 0; !listFor(set, wheel).empty(); ++wheel)
       wheels_.push_back(listFor(set, wheel));
   }
-  const auto olds = splitOn(old, "<td>");
+  positionAt(splitOn(old, "<td>"));
+}
+
+// Day, month by its name as a date is written ("24 ноября 2026"), year.
+void WheelPicker::dateWheels(std::string_view old) {
+  const DateCodec& dates = context_.dates();
+  const Date now = context_.clock().now();
+  const DateParts today = dates.decodeDate(now);
+  std::vector<std::string> months;
+  for (int m = 1; m <= 12; ++m)
+    months.push_back(dates.dateToString(dates.encodeDate(1, m, 2001), "MMMM"));
+  wheels_ = {numbers(1, 31, false), std::move(months),
+             numbers(today.year - kYearsBack, today.year + kYearsAhead, false)};
+  const DateParts shown =
+      dates.decodeDate(dates.dateFromStringFormat(old, kStoredDate).value_or(now));
+  const int year = std::clamp(shown.year, today.year - kYearsBack, today.year + kYearsAhead);
+  positions_ = {shown.day - 1, shown.month - 1, year - (today.year - kYearsBack)};
+}
+
+// Hours and minutes; a time starts at now, a count-down at nought.
+void WheelPicker::timeWheels(std::string_view old) {
+  wheels_ = {numbers(0, 23, true), numbers(0, 59, true)};
+  const DateCodec& dates = context_.dates();
+  auto shown = dates.dateFromStringFormat(old, kTime);
+  if (!shown && set_ == kTimePicker) shown = context_.clock().now();
+  const std::string time = shown ? dates.dateToString(*shown, kTime) : "";
+  positionAt(splitOn(time, ":"));
+}
+
+// Each wheel on its old row; an unknown one falls to the first row.
+void WheelPicker::positionAt(const std::vector<std::string_view>& olds) {
+  positions_.clear();
   for (std::size_t w = 0; w < wheels_.size(); ++w) {
     const auto& rows = wheels_[w];
     const auto found = w < olds.size() ? std::find(rows.begin(), rows.end(), olds[w]) : rows.end();
@@ -71,21 +89,18 @@ WheelPicker::WheelPicker(const Context& context, int set, std::string_view capti
 Value WheelPicker::view() const {
   Map m;
   m.set("kind", "picker");
-  m.set("mode", modeOf(set_));
   m.set("caption", caption_);
-  if (wheels_.empty()) {
-    m.set("value", value_);
-  } else {
-    List wheels;
-    for (std::size_t w = 0; w < wheels_.size(); ++w) {
-      Map wheel;
-      List rows(wheels_[w].begin(), wheels_[w].end());
-      wheel.set("rows", Value(std::move(rows)));
-      wheel.set("selected", positions_[w]);
-      wheels.push_back(Value(std::move(wheel)));
-    }
-    m.set("wheels", Value(std::move(wheels)));
+  List wheels;
+  for (std::size_t w = 0; w < wheels_.size(); ++w) {
+    Map wheel;
+    // The words of a wheel are shown in the user's language; the answer keeps them as stored.
+    List rows;
+    for (const std::string& row : wheels_[w]) rows.push_back(context_.translate(row));
+    wheel.set("rows", Value(std::move(rows)));
+    wheel.set("selected", positions_[w]);
+    wheels.push_back(Value(std::move(wheel)));
   }
+  m.set("wheels", Value(std::move(wheels)));
   Map close, ok;
   close.set("id", popupTarget(0));
   close.set("icon", icon(context_, "cap-close.png"));
@@ -99,32 +114,40 @@ std::optional<PopupAnswer> WheelPicker::answer(std::string_view target, const Va
   const int n = popupIndex(target);
   if (n == 0) return PopupAnswer{0, "", Value()};
   if (n != 1) return std::nullopt;
-  auto value = readInput(input);
-  if (!value) return std::nullopt;
-  return PopupAnswer{1, "", Value(std::move(*value))};
+  const auto positions = readPositions(input);
+  if (!positions) return std::nullopt;
+  return PopupAnswer{1, "", Value(compose(*positions))};
 }
 
-std::optional<std::string> WheelPicker::readInput(const Value& input) const {
-  if (!wheels_.empty()) return readWheels(input);
-  const auto* text = input.asText();
-  if (!text) return std::nullopt;
-  if (set_ == kDatePicker) return recode(context_.dates(), *text, kInputDate, kStoredDate);
-  return recode(context_.dates(), *text, kTime, kTime);
-}
-
-// The wheels send the positions of their rows; the answer is the rows' texts.
-std::optional<std::string> WheelPicker::readWheels(const Value& input) const {
-  const auto* positions = input.asList();
-  if (!positions || positions->size() != wheels_.size()) return std::nullopt;
-  std::string joined;
+// The browser sends one row position per wheel.
+std::optional<std::vector<int>> WheelPicker::readPositions(const Value& input) const {
+  const auto* sent = input.asList();
+  if (!sent || sent->size() != wheels_.size()) return std::nullopt;
+  std::vector<int> positions;
   for (std::size_t w = 0; w < wheels_.size(); ++w) {
-    const Value& p = (*positions)[w];
+    const Value& p = (*sent)[w];
     if (p.type() != Value::Type::Integer || p.intValue() < 0 ||
         p.intValue() >= static_cast<std::int64_t>(wheels_[w].size()))
       return std::nullopt;
-    if (w > 0) joined += "<td>";
-    joined += wheels_[w][p.intValue()];
+    positions.push_back(static_cast<int>(p.intValue()));
   }
+  return positions;
+}
+
+// The answer in the stored form. A day past the end of its month is that month's last day,
+// as a date wheel settles on 28 when 31 is turned to February.
+std::string WheelPicker::compose(const std::vector<int>& positions) const {
+  const auto row = [&](std::size_t w) { return wheels_[w][positions[w]]; };
+  if (set_ == kDatePicker) {
+    const DateCodec& dates = context_.dates();
+    const int month = positions[1] + 1, year = std::stoi(row(2));
+    const int last = dates.lastDateOfMonth(dates.encodeDate(1, month, year));
+    const int day = std::min(positions[0] + 1, last);
+    return twoDigits(day) + "." + twoDigits(month) + "." + row(2);
+  }
+  if (set_ == kTimePicker || set_ == kCountDownPicker) return row(0) + ":" + row(1);
+  std::string joined;
+  for (std::size_t w = 0; w < wheels_.size(); ++w) joined += (w > 0 ? "<td>" : "") + row(w);
   return joined;
 }
 

@@ -1,10 +1,11 @@
 // Browser test of the field editor: a pregnancy's settings with a portrait chosen from the
-// phone, kept over a reload, its removal asked first; and the scale ruler, drawn from a view
-// in the form the server sends it, sending the value it comes to rest on.
+// phone, kept over a reload, its removal asked first; the scale ruler, drawn from a view in the
+// form the server sends it, sending the value it comes to rest on; and a date chosen on the
+// date wheel by a browser set to English.
 //   node tests/e2e/editor.test.mjs --server PATH_TO_SERVER --out SCREENSHOT_DIR
 import assert from 'node:assert/strict';
 import path from 'node:path';
-import { openPastGreeting, runBrowserTest, until } from './harness.mjs';
+import { PHONE, TABLET, openPastGreeting, runBrowserTest, until } from './harness.mjs';
 
 const SCALE_EDITOR = {
   kind: 'editor',
@@ -176,7 +177,38 @@ async function slideScale(page, outDir) {
   await page.unrouteAll({ behavior: 'ignoreErrors' });
 }
 
+/** On a phone set to English a date still reads "dd.MM.yyyy" and is chosen on the diary's own
+ *  date wheel: day, month by name, year. */
+async function pickDateOnTheWheel(browser, base, outDir, device, name) {
+  const { context, page, errors } = await openPastGreeting(browser, base, { device: { ...device, locale: 'en-US' } });
+  await page.tap('.card[data-id]');
+  await openSettings(page);
+  const row = 'button[data-id="field:sdat1"]';
+  const before = await page.textContent(`${row} .editor-picker-value`);
+  assert.match(before, /^\d\d\.\d\d\.\d{4}$/, 'the date in the diary\'s own form');
+  await page.tap(row);
+  await page.waitForSelector('.popup-cover .wheel');
+  const months = await page.$$eval('.popup-cover .wheel:nth-child(2) .wheel-row', (rows) => rows.map((r) => r.textContent));
+  assert.equal(months[4], 'мая', 'months by name, as a date is written');
+  await page.tap('.popup-cover .wheel:first-child .wheel-row:nth-child(15)');
+  await page.waitForFunction(() => {
+    const wheel = document.querySelector('.popup-cover .wheel');
+    const row = wheel.querySelector('.wheel-row');
+    return Math.round(wheel.scrollTop / row.offsetHeight) === 14;
+  });
+  await page.screenshot({ path: path.join(outDir, `editor-date-wheel-${name}.png`) });
+  await page.tap('.popup-cover button[data-id="popup:1"]');
+  await page.waitForSelector('.popup-cover', { state: 'detached' });
+  await page.waitForFunction((r) => document.querySelector(`${r} .editor-picker-value`)?.textContent.startsWith('15.'), row);
+  assert.equal((await page.textContent(`${row} .editor-picker-value`)).slice(2), before.slice(2), 'month and year kept');
+  await page.tap('button[data-id="editor:cancel"]');
+  assert.deepEqual(errors, [], 'no uncaught errors in the page');
+  await context.close();
+}
+
 await runBrowserTest('editor', async ({ browser, base, outDir }) => {
+  await pickDateOnTheWheel(browser, base, outDir, PHONE, 'phone');
+  await pickDateOnTheWheel(browser, base, outDir, TABLET, 'tablet');
   const { context, page, errors } = await openPastGreeting(browser, base);
   await page.tap('.card[data-id]');
   await openSettings(page);

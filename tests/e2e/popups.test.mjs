@@ -1,4 +1,4 @@
-// Browser test of the popups: a popup menu, a date picker and a wheel picker drawn over the
+// Browser test of the popups: a popup menu and a wheel picker drawn over the
 // menu, and the taps they send. The server's views are passed through with a popup added, in
 // the form the session sends it, so the test needs no screen that opens one.
 //   node tests/e2e/popups.test.mjs --server PATH_TO_SERVER --out SCREENSHOT_DIR
@@ -19,11 +19,9 @@ const BUTTONS = [
   { id: 'popup:0', icon: 'b-cap-close.png' },
   { id: 'popup:1', icon: 'b-cap-ok2.png' },
 ];
-const DATE = { kind: 'picker', mode: 'date', caption: 'Дата', value: '2026-11-23', buttons: BUTTONS };
 const numbers = (from, to) => Array.from({ length: to - from + 1 }, (_, i) => String(from + i));
 const WHEELS = {
   kind: 'picker',
-  mode: 'wheels',
   caption: 'Дозировка',
   wheels: [
     { rows: ['1/8', '1/4', '1/2', ...numbers(1, 200)], selected: 9 },
@@ -73,18 +71,6 @@ async function checkMenu(page, state, outDir) {
   assert.deepEqual(state.taps.pop(), { type: 'tap', target: 'popup:2' }, 'a menu item sends its tap alone');
 }
 
-async function checkDate(page, state, outDir) {
-  await showPopup(page, state, DATE);
-  const input = await page.$('.picker-input');
-  assert.equal(await input.getAttribute('type'), 'date', 'a native date input');
-  assert.equal(await input.inputValue(), '2026-11-23', 'the old date');
-  await input.fill('2027-03-04');
-  await page.screenshot({ path: path.join(outDir, 'picker-date.png') });
-  await page.tap('[data-id="popup:1"]');
-  await page.waitForSelector('.popup-cover', { state: 'detached' });
-  assert.deepEqual(state.taps.pop(), { type: 'tap', target: 'popup:1', value: '2027-03-04' }, 'the date picked');
-}
-
 async function checkWheels(page, state, outDir) {
   await showPopup(page, state, WHEELS);
   await page.waitForFunction(() => [...document.querySelectorAll('.wheel')].every((w) => w.scrollTop > 0));
@@ -99,7 +85,6 @@ async function checkInBrowser(browser, base, outDir) {
   const state = { popup: null, taps: [] };
   await overlayPopups(page, state);
   await checkMenu(page, state, outDir);
-  await checkDate(page, state, outDir);
   await checkWheels(page, state, outDir);
   assert.deepEqual(errors, [], 'no uncaught errors in the page');
   await context.close();

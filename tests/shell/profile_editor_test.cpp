@@ -78,6 +78,32 @@ TEST_F(ProfileEditorTest, ANewPregnancyIsSavedWithItsDatesKeptConsistent) {
   EXPECT_TRUE(found) << "the new pregnancy has its card";
 }
 
+// A date row opens the date wheel on its own date; the date chosen there goes through the
+// same rules as a typed one, and closing the wheel changes nothing.
+TEST_F(ProfileEditorTest, ADateIsChosenOnTheDateWheel) {
+  tap("menu:31");
+  ASSERT_TRUE(change("sdat1", "01.05.2026").ok());
+  tap("field:sdat1");
+  const Value picker = session->view()["popup"];
+  ASSERT_EQ(picker["kind"].text(), "picker");
+  List positions;
+  for (const Value& wheel : *picker["wheels"].asList()) positions.push_back(wheel["selected"]);
+  ASSERT_EQ(positions.size(), 3u);
+  EXPECT_EQ(positions[0].intValue(), 0) << "the wheel opens on the first of May";
+  EXPECT_EQ(positions[1].intValue(), 4);
+  positions[1] = Value(5);
+  tap("popup:0");
+  EXPECT_EQ(shown("sdat1"), "01.05.2026");
+  tap("field:sdat1");
+  Map confirm;
+  confirm.set("type", "tap");
+  confirm.set("target", "popup:1");
+  confirm.set("value", Value(std::move(positions)));
+  ASSERT_TRUE(session->handle(Value(std::move(confirm))).ok());
+  EXPECT_EQ(shown("sdat1"), "01.06.2026");
+  EXPECT_EQ(shown("sbirthdate"), "08.03.2027") << "the due date follows the last period";
+}
+
 TEST_F(ProfileEditorTest, AnEmptiedRequiredDateKeepsTheEditorOpenAndCancelKeepsTheData) {
   tap("menu:31");
   ASSERT_TRUE(change("sdat1", "").ok());

@@ -14,66 +14,73 @@ const Value& nth(const Value& list, std::size_t i) {
   return list.asList()->at(i);
 }
 
+// Positions of the wheels as the picker was opened.
+Value openedAt(const WheelPicker& picker) {
+  const Value view = picker.view();
+  List positions;
+  for (const auto& w : *view["wheels"].asList()) positions.push_back(w["selected"]);
+  return Value(std::move(positions));
+}
+
 // Opens a picker on the old value and confirms it unchanged, as the browser would.
 std::optional<std::string> roundTrip(const Context& c, int set, std::string_view old,
                                      std::vector<std::string> rows = {}) {
   const WheelPicker picker(c, set, "Выбор", old, std::move(rows));
-  const Value v = picker.view();
-  Value sent = v["value"];
-  if (v.asMap()->contains("wheels")) {
-    List positions;
-    for (const auto& w : *v["wheels"].asList()) positions.push_back(w["selected"]);
-    sent = Value(std::move(positions));
-  }
-  const auto a = picker.answer(nth(v["buttons"], 1)["id"].text(), sent);
+  const auto a = picker.answer(nth(picker.view()["buttons"], 1)["id"].text(), openedAt(picker));
   if (!a) return std::nullopt;
   return a->value.text();
 }
 
-TEST_F(ApplicationTest, EachPickerGivesBackTheValueItWasOpenedOn) {
+TEST_F(ApplicationTest, EachPickerGivesBackTheValueItWasOpenedOnOrNowOnAnEmptyOne) {
   launchApp();
   const Context& c = app->context();
-  EXPECT_EQ(roundTrip(c, kDatePicker, "29.02.2028"), "29.02.2028");
-  EXPECT_EQ(roundTrip(c, kTimePicker, "07:05"), "07:05");
-  EXPECT_EQ(roundTrip(c, kCountDownPicker, "01:30"), "01:30");
-  EXPECT_EQ(roundTrip(c, kLengthPicker, "2<td>недели"), "2<td>недели");
-  EXPECT_EQ(roundTrip(c, kDosePicker, "1/2<td>капля"), "1/2<td>капля");
-  EXPECT_EQ(roundTrip(c, kFrequencyPicker, "24<td>раз в сутки"), "24<td>раз в сутки");
+  const std::pair<int, std::string_view> cases[][2] = {
+      {{kDatePicker, "29.02.2028"}, {kDatePicker, "29.02.2028"}},
+      {{kDatePicker, "01.01.1990"}, {kDatePicker, "01.01.1990"}},
+      {{kDatePicker, ""}, {kDatePicker, "23.11.2026"}},
+      {{kTimePicker, "07:05"}, {kTimePicker, "07:05"}},
+      // 09:00 UTC is 10:00 in the installation's zone.
+      {{kTimePicker, "25:99"}, {kTimePicker, "10:00"}},
+      {{kCountDownPicker, "01:30"}, {kCountDownPicker, "01:30"}},
+      {{kCountDownPicker, ""}, {kCountDownPicker, "00:00"}},
+      {{kLengthPicker, "2<td>недели"}, {kLengthPicker, "2<td>недели"}},
+      {{kDosePicker, "1/2<td>капля"}, {kDosePicker, "1/2<td>капля"}},
+      {{kDosePicker, "7<td>ведро"}, {kDosePicker, "7<td>мл."}},
+      {{kFrequencyPicker, "24<td>раз в сутки"}, {kFrequencyPicker, "24<td>раз в сутки"}},
+  };
+  for (const auto& [opened, expected] : cases)
+    EXPECT_EQ(roundTrip(c, opened.first, opened.second), expected.second) << opened.second;
   EXPECT_EQ(roundTrip(c, kRowListPicker, "Вечер", {"Утро", "Вечер"}), "Вечер");
 }
 
-TEST_F(ApplicationTest, PickersStartFromNowOrTheFirstRowsOnAnEmptyValue) {
+// A date reads as the diary writes it, whatever the browser's language: day, the month's name
+// and year on their own wheels; the words of other wheels are in the user's language.
+TEST_F(ApplicationTest, WheelsShowTheDiarysOwnWordsAndADayPastTheMonthEndSettlesOnItsLast) {
   launchApp();
-  const Context& c = app->context();
-  EXPECT_EQ(WheelPicker(c, kDatePicker, "", "").view()["value"].text(), "2026-11-23");
-  EXPECT_EQ(WheelPicker(c, kTimePicker, "", "25:99").view()["value"].text(), "10:00")
-      << "09:00 UTC is 10:00 in the installation's zone";
-  EXPECT_EQ(WheelPicker(c, kCountDownPicker, "", "").view()["value"].text(), "00:00");
-  const Value wheels = WheelPicker(c, kDosePicker, "", "7<td>ведро").view()["wheels"];
-  EXPECT_EQ(nth(wheels, 0)["selected"].intValue(), posFromList(kDosePicker, 0, "7"));
-  EXPECT_EQ(nth(wheels, 1)["selected"].intValue(), 0) << "an unknown unit falls to the first row";
-  EXPECT_EQ(wheels.asList()->size(), 2u);
-  EXPECT_EQ(nth(wheels, 1)["rows"].asList()->size(), listFor(kDosePicker, 1).size());
-}
-
-TEST_F(ApplicationTest, APickerRefusesWhatItCannotReadAndCloses) {
-  launchApp();
-  const Context& c = app->context();
-  const WheelPicker date(c, kDatePicker, "Дата", "01.02.2027");
-  EXPECT_EQ(date.view()["mode"].text(), "date");
-  EXPECT_FALSE(date.answer(popupTarget(1), Value("2027-02-31")));
-  EXPECT_FALSE(date.answer(popupTarget(1), Value(5)));
-  EXPECT_EQ(date.answer(popupTarget(1), Value("2027-03-04"))->value.text(), "04.03.2027");
+  const WheelPicker date(app->context(), kDatePicker, "Дата", "31.01.2027");
+  const Value wheels = date.view()["wheels"];
+  EXPECT_EQ(nth(nth(wheels, 1)["rows"], 10).text(), "ноября");
+  EXPECT_EQ(nth(nth(wheels, 0)["rows"], 30).text(), "31");
+  const Value opened = openedAt(date);
+  const Value february{List{nth(opened, 0), Value(1), nth(opened, 2)}};
+  EXPECT_EQ(date.answer(popupTarget(1), february)->value.text(), "28.02.2027");
+  EXPECT_FALSE(date.answer(popupTarget(1), Value(List{Value(0), Value(12), Value(0)})));
+  EXPECT_FALSE(date.answer(popupTarget(1), Value("2027-03-04"))) << "positions, not a text";
   const auto closed = date.answer(popupTarget(0), Value());
   ASSERT_TRUE(closed);
   EXPECT_TRUE(closed->value.isNull());
 
-  const WheelPicker length(c, kLengthPicker, "Длительность", "");
+  launchApp(1, "1.0", 2);
+  const WheelPicker length(app->context(), kLengthPicker, "Длительность", "");
+  EXPECT_EQ(nth(nth(length.view()["wheels"], 1)["rows"], 1).text(), "Wochen");
   EXPECT_FALSE(length.answer(popupTarget(1), Value(List{Value(0)}))) << "one wheel short";
   EXPECT_FALSE(length.answer(popupTarget(1), Value(List{Value(100), Value(0)})));
   EXPECT_FALSE(length.answer(popupTarget(1), Value(List{Value(-1), Value(0)})));
   EXPECT_EQ(length.answer(popupTarget(1), Value(List{Value(99), Value(2)}))->value.text(),
-            "100<td>месяцы");
+            "100<td>месяцы")
+      << "the answer keeps the stored words";
+  const WheelPicker german(app->context(), kDatePicker, "Дата", "");
+  EXPECT_EQ(nth(nth(german.view()["wheels"], 1)["rows"], 10).text().substr(0, 3), "Nov");
 }
 
 }  // namespace

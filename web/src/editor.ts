@@ -96,8 +96,6 @@ function renderEditorRow(row: EditorRow): HTMLElement | null {
       return element('p', 'editor-text', row.caption);
     case 1008:
       return element('p', 'editor-index', row.caption.trim());
-    case 1003:
-      return labelled(row, dateInput(row));
     case 1004:
     case 1005:
     case 17:
@@ -153,18 +151,6 @@ function bindTyped(input: Typed, row: EditorRow, read: () => unknown): void {
 
 function sourceText(row: EditorRow): string {
   return typeof row.source === 'string' ? row.source : row.source == null ? '' : String(row.source);
-}
-
-function dateInput(row: EditorRow): HTMLInputElement {
-  const input = element('input', 'editor-input');
-  input.type = 'date';
-  const [d, m, y] = sourceText(row).split('.');
-  if (y && m && d) input.value = `${y}-${m}-${d}`;
-  bindTyped(input, row, () => {
-    const [yy, mm, dd] = input.value.split('-');
-    return input.value ? `${dd}.${mm}.${yy}` : '';
-  });
-  return input;
 }
 
 function timeInput(row: EditorRow): HTMLInputElement {

@@ -58,22 +58,13 @@ function fillPicker(sheet: HTMLElement, node: PickerNode): void {
   const [close, ok] = [button(node.buttons[0], 'picker-button picker-close'), button(node.buttons[1], 'picker-button picker-ok')];
   header.append(close, element('h2', 'picker-caption', node.caption), ok);
   sheet.append(header);
-  if (node.wheels) {
-    const wheels = node.wheels.map(renderWheel);
-    const box = element('div', 'wheels');
-    box.append(...wheels.map((w) => w.element));
-    sheet.append(box);
-    values.set(ok, () => wheels.map((w) => w.position()));
-    // Wheels can only be scrolled to their rows once they are laid out.
-    requestAnimationFrame(() => wheels.forEach((w) => w.scrollToSelected()));
-    return;
-  }
-  const input = element('input', 'picker-input');
-  input.type = node.mode === 'date' ? 'date' : 'time';
-  input.value = node.value ?? '';
-  input.required = true;
-  sheet.append(input);
-  values.set(ok, () => input.value);
+  const wheels = node.wheels.map(renderWheel);
+  const box = element('div', 'wheels');
+  box.append(...wheels.map((w) => w.element));
+  sheet.append(box);
+  values.set(ok, () => wheels.map((w) => w.position()));
+  // Wheels can only be scrolled to their rows once they are laid out.
+  requestAnimationFrame(() => wheels.forEach((w) => w.scrollToSelected()));
 }
 
 interface Wheel {

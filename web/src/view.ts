@@ -198,13 +198,11 @@ export interface WheelNode {
   selected: number;
 }
 
-/** A picker: native date and time inputs, or wheels; buttons close (first) and confirm. */
+/** A picker of wheels the server fills (a date, a time, units); buttons close (first) and confirm. */
 export interface PickerNode {
   kind: 'picker';
-  mode: 'date' | 'time' | 'countdown' | 'wheels';
   caption: string;
-  value?: string;
-  wheels?: WheelNode[];
+  wheels: WheelNode[];
   buttons: PopupButton[];
 }
 
