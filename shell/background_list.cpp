@@ -3,7 +3,8 @@
 #include <charconv>
 
 #include "shell/theme.h"
-#include "shell/view.h"
+#include "shell/views/pages.h"
+#include "shell/views/rows.h"
 
 namespace lad::shell {
 
@@ -37,7 +38,8 @@ Value BackgroundList::view() {
     row.checked = id == values.backgroundId;
     rows.push_back(row.toValue());
   }
-  return pageView(context_.translate("Фон программы"), {listView(std::move(rows))});
+  return PageView{context_.translate("Фон программы"), {ListView{std::move(rows)}.toValue()}}
+      .toValue();
 }
 
 EventResult BackgroundList::tap(std::string_view target) {

@@ -4,7 +4,9 @@
 #include "health/contraction_period.h"
 #include "health/contraction_series.h"
 #include "health/contraction_store.h"
-#include "shell/view.h"
+#include "shell/views/charts.h"
+#include "shell/views/pages.h"
+#include "shell/views/rows.h"
 
 namespace lad::shell {
 
@@ -13,12 +15,6 @@ namespace {
 using namespace std::chrono_literals;
 
 constexpr double kChartWidth = 300, kChartHeight = 130;  // in units of the device scale
-
-Value node(const char* kind) {
-  Map m;
-  m.set("kind", kind);
-  return m;
-}
 
 // The tick chain of a timer, whichever page armed it: it goes on when the page is gone, and
 // each tick redraws every browser.
@@ -59,46 +55,31 @@ Value ContractionScreen::chartView(const char* id, const List& points, const cha
   chart.prepare(health::contractionChart(points, context.translate(caption),
                                          context.values().themeDarkIcons));
   const draw::Size size{kChartWidth * scale_, kChartHeight * scale_};
-  Value v = node("svg");
-  v.asMap()->set("id", id);
-  v.asMap()->set("width", size.w);
-  v.asMap()->set("height", size.h);
-  v.asMap()->set("svg", chart.svg(size));
-  return v;
+  return SvgView{id, chart.svg(size), size.w, size.h}.toValue();
 }
 
 Value ContractionScreen::view() {
   const Context& context = app_.context();
-  Value timer = node("timer");
-  timer.asMap()->set("text", timer_.visible() && timer_.running()
-                                 ? timer_.runningText(context.clock().now())
-                                 : health::cperiod(0));
-  timer.asMap()->set("running", timer_.running());
-  timer.asMap()->set("visible", timer_.visible());
-  Value info = node("text");
-  info.asMap()->set("id", "trend");
-  info.asMap()->set("text", context.translate(trend_.text));
-  info.asMap()->set("regim", trend_.regim);
-  Value buttons = node("buttons");
-  Map button;
-  button.set("id", std::string(timer_.running() ? kContractionStop : kContractionStart));
-  button.set("caption", context.translate(timer_.running() ? "СТОП" : "СТАРТ"));
-  Map close;
-  close.set("id", std::string(kContractionClose));
-  close.set("caption", context.translate("Закрыть"));
-  buttons.asMap()->set("buttons", List{Value(std::move(button)), Value(std::move(close))});
-  List children{intervalChart_, durationChart_, info, timer, buttons};
+  const TimerView timer{timer_.visible() && timer_.running()
+                            ? timer_.runningText(context.clock().now())
+                            : health::cperiod(0),
+                        timer_.running(), timer_.visible()};
+  const TextView info{context.translate(trend_.text), "trend", trend_.regim};
+  const ButtonsView buttons{{
+      {std::string(timer_.running() ? kContractionStop : kContractionStart),
+       context.translate(timer_.running() ? "СТОП" : "СТАРТ"), std::nullopt},
+      {std::string(kContractionClose), context.translate("Закрыть"), std::nullopt},
+  }};
+  List children{intervalChart_, durationChart_, info.toValue(), timer.toValue(), buttons.toValue()};
   for (auto& v : listViews()) children.push_back(std::move(v));
-  return pageView(context.translate("Схватки"), std::move(children));
+  return PageView{context.translate("Схватки"), std::move(children)}.toValue();
 }
 
 List ContractionScreen::listViews() const {
   List out;
   std::size_t next = 0;
   for (const auto& group : groups_) {
-    Value section = node("section");
-    section.asMap()->set("caption", group.name);
-    out.push_back(std::move(section));
+    out.push_back(SectionView{group.name}.toValue());
     List rows;
     for (int r = 0; r < group.count && next < data_.size(); ++r, ++next) {
       const health::Contraction& c = data_[next];
@@ -107,12 +88,11 @@ List ContractionScreen::listViews() const {
       row.id = std::string(kContractionRow) + std::to_string(c.schid);
       row.caption = text.duration;
       row.comment = text.start + " " + text.pause;
-      Value v = row.toValue();
-      v.asMap()->set("deleteTarget", std::string(kContractionDelete) + std::to_string(c.schid));
-      v.asMap()->set("deleteCaption", app_.context().translate("Удалить"));
-      rows.push_back(std::move(v));
+      row.deleteTarget = std::string(kContractionDelete) + std::to_string(c.schid);
+      row.deleteCaption = app_.context().translate("Удалить");
+      rows.push_back(row.toValue());
     }
-    out.push_back(listView(std::move(rows)));
+    out.push_back(ListView{std::move(rows)}.toValue());
   }
   return out;
 }

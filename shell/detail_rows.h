@@ -5,38 +5,9 @@
 #include <string_view>
 
 #include "core/context.h"
+#include "shell/views/editors.h"
 
 namespace lad::shell {
-
-enum RowKind {
-  kLine = 1001,
-  kText = 1002,
-  kDate = 1003,
-  kTime = 1004,
-  kLength = 1005,
-  kTextInput = 1006,
-  kNumber = 1007,
-  kBodyIndex = 1008,
-  kSegments = 1009,
-  kPhoto = 1010,
-  kNumberWithIndex = 1011,
-  kLongText = 1013,
-  kScale = 1015,
-  kList = 1016,
-  kDictionaryChoice = 1017,
-  kDose = 1018,
-  kFrequency = 1019,
-  kCourseLength = 1020,
-  kIntakeTimes = 1021,
-  kButton = 1023,
-  kSwitch = 1025,
-  kPicture = 1026,
-  kTeeth = 1027,
-  kMeasure = 1028,
-  kEntryTime = 17,
-  kEntryText = 103,
-  kEntryNumber = 105,
-};
 
 // A row with a translated caption and an empty source.
 Value detailRow(const Context& context, int kind, std::string_view caption, std::string_view field,

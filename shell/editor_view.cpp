@@ -5,6 +5,7 @@
 #include "core/base64.h"
 #include "platform/images.h"
 #include "shell/detail_rows.h"
+#include "shell/views/editors.h"
 
 namespace lad::shell {
 
@@ -14,11 +15,36 @@ constexpr std::string_view kFieldPrefix = "field:";
 constexpr int kPreviewSide = 320;
 constexpr int kPreviewQuality = 85;
 
-Value button(const Context& context, std::string_view id, std::string_view caption) {
-  Map m;
-  m.set("id", std::string(id));
-  m.set("caption", context.translate(caption));
-  return Value(std::move(m));
+ButtonView button(const Context& context, std::string_view id, std::string_view caption) {
+  return {std::string(id), context.translate(caption), std::nullopt};
+}
+
+std::optional<int> optionalInt(const Value& v) {
+  if (v.isNull()) return std::nullopt;
+  return static_cast<int>(v.intValue());
+}
+
+// The named keys of a model row; its photo goes as a small preview instead of its bytes.
+EditorRowView rowView(const Value& row, PhotoPreviews& previews) {
+  EditorRowView v;
+  v.tp = static_cast<int>(row["tp"].intValue());
+  v.field = row["field"].text();
+  if (!v.field.empty()) v.id = fieldTarget(v.field);
+  v.caption = row["caption"].text();
+  v.source = row["source"];
+  v.required = row["required"].boolValue();
+  v.editcap = row["editcap"].text();
+  v.pic = row["pic"].text();
+  if (const Bytes* picture = row["source"].asBytes()) {
+    v.preview = previews.of(*picture);
+    v.source = Value();
+  }
+  v.scalemin = row["scalemin"].text();
+  v.scalemax = row["scalemax"].text();
+  v.scaletype = optionalInt(row["scaletype"]);
+  v.listtype = optionalInt(row["listtype"]);
+  v.listdata = row["listdata"];
+  return v;
 }
 
 }  // namespace
@@ -46,25 +72,12 @@ const std::string& PhotoPreviews::of(const Bytes& picture) {
 
 Value editorView(const Context& context, const std::string& caption, const List& rows,
                  PhotoPreviews& previews) {
-  List shown;
-  for (const Value& row : rows) {
-    Map m = *row.asMap();
-    if (const std::string field = row["field"].text(); !field.empty())
-      m.set("id", fieldTarget(field));
-    if (const Bytes* picture = row["source"].asBytes()) {
-      m.set("preview", previews.of(*picture));
-      m.set("source", Value());
-    }
-    m.erase("image");
-    shown.push_back(Value(std::move(m)));
-  }
-  Map m;
-  m.set("kind", "editor");
-  m.set("caption", caption);
-  m.set("rows", std::move(shown));
-  m.set("ok", button(context, kEditorOk, "Готово"));
-  m.set("cancel", button(context, kEditorCancel, "Отменить"));
-  return Value(std::move(m));
+  EditorView view{caption,
+                  {},
+                  button(context, kEditorOk, "Готово"),
+                  button(context, kEditorCancel, "Отменить")};
+  for (const Value& row : rows) view.rows.push_back(rowView(row, previews));
+  return view.toValue();
 }
 
 std::optional<Bytes> pictureFromDataUrl(std::string_view url, std::string* why) {

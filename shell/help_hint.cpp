@@ -1,15 +1,12 @@
 #include "shell/help_hint.h"
 
+#include "shell/views/popups.h"
+
 namespace lad::shell {
 
 std::optional<Value> HelpHint::view() const {
   if (!due()) return std::nullopt;
-  Map m;
-  m.set("kind", "helpHint");
-  m.set("icon", "help-icon2.png");
-  m.set("hand", "hand.png");
-  m.set("id", target());
-  return Value(std::move(m));
+  return HelpHintView{"help-icon2.png", "hand.png", target()}.toValue();
 }
 
 bool HelpHint::tap(std::string_view target) {

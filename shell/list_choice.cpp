@@ -1,6 +1,7 @@
 #include "shell/list_choice.h"
 
 #include "core/text_parts.h"
+#include "shell/views/popups.h"
 
 namespace lad::shell {
 
@@ -14,14 +15,9 @@ std::vector<std::string> translatedParts(const Context& context, std::string_vie
 }
 
 // Tap targets numbered from first, one for each caption.
-List targets(const std::vector<std::string>& captions, int first) {
-  List out;
-  for (const auto& caption : captions) {
-    Map m;
-    m.set("id", popupTarget(first++));
-    m.set("caption", caption);
-    out.push_back(Value(std::move(m)));
-  }
+std::vector<PopupButtonView> targets(const std::vector<std::string>& captions, int first) {
+  std::vector<PopupButtonView> out;
+  for (const auto& caption : captions) out.push_back({popupTarget(first++), caption, "", false});
   return out;
 }
 
@@ -31,11 +27,8 @@ ListChoice::ListChoice(const Context& context, std::string_view entries, std::st
     : entries_(translatedParts(context, entries)), buttons_(translatedParts(context, buttons)) {}
 
 Value ListChoice::view() const {
-  Map m;
-  m.set("kind", "listChoice");
-  m.set("entries", Value(targets(entries_, 0)));
-  m.set("buttons", Value(targets(buttons_, static_cast<int>(entries_.size()))));
-  return Value(std::move(m));
+  return ListChoiceView{targets(entries_, 0), targets(buttons_, static_cast<int>(entries_.size()))}
+      .toValue();
 }
 
 std::optional<PopupAnswer> ListChoice::answer(std::string_view target, const Value&) const {

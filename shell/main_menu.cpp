@@ -7,7 +7,7 @@
 #include "shell/page_ring.h"
 #include "shell/pages.h"
 #include "shell/profile_cards.h"
-#include "shell/view.h"
+#include "shell/views/pages.h"
 #include "store/profiles.h"
 
 namespace lad::shell {
@@ -115,7 +115,7 @@ List MainMenu::cardViews() {
     List rows;
     for (const Value& item : context_.values().tabMenu)
       if (isProfileItem(*item.asMap())) rows.push_back(rowOf(item).toValue());
-    views.push_back(listView(std::move(rows)));
+    views.push_back(ListView{std::move(rows)}.toValue());
   }
   if (!activeFound) activeId_.clear();  // the open profile was removed
   return views;
@@ -128,8 +128,8 @@ Value MainMenu::view() {
   List rows;
   for (const Value& item : context_.values().tabMenu)
     if (!cards || !isProfileItem(*item.asMap())) rows.push_back(rowOf(item).toValue());
-  children.push_back(listView(std::move(rows)));
-  return pageView(context_.translate(context_.edition().caption), std::move(children));
+  children.push_back(ListView{std::move(rows)}.toValue());
+  return PageView{context_.translate(context_.edition().caption), std::move(children)}.toValue();
 }
 
 EventResult MainMenu::tap(std::string_view target) {

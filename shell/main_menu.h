@@ -7,7 +7,7 @@
 
 #include "core/context.h"
 #include "shell/screen.h"
-#include "shell/view.h"
+#include "shell/views/rows.h"
 #include "store/store.h"
 
 namespace lad::shell {

@@ -1,5 +1,7 @@
 #include "shell/message_box.h"
 
+#include "shell/views/node.h"
+
 namespace lad::shell {
 
 MessageBox MessageBox::make(const Context& context, std::string_view text, std::string_view caption,
@@ -8,8 +10,7 @@ MessageBox MessageBox::make(const Context& context, std::string_view text, std::
 }
 
 Value MessageBox::toValue() const {
-  Map m;
-  m.set("kind", "message");
+  Map m = node(kKind);
   m.set("caption", caption);
   m.set("text", text);
   m.set("button", button);

@@ -2,12 +2,14 @@
 #pragma once
 
 #include <string>
+#include <string_view>
 
 #include "core/context.h"
 
 namespace lad::shell {
 
 struct MessageBox {
+  static constexpr std::string_view kKind = "message";
   std::string caption;
   std::string text;
   std::string button;

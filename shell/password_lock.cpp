@@ -2,6 +2,7 @@
 
 #include "shell/fingerprint_keys.h"
 #include "shell/password_hash.h"
+#include "shell/views/pages.h"
 
 namespace lad::shell {
 
@@ -68,21 +69,18 @@ void PasswordLock::start(LockMode mode) {
 
 Value PasswordLock::view() {
   const std::string prefix = context_.values().themeDarkIcons ? "b-" : "";
-  List dots;
+  LockView view;
   for (std::size_t i = 0; i < kCodeLength; ++i)
-    dots.push_back(prefix + (i < entry_.size() ? "pass-f.png" : "pass-e.png"));
-  Map m;
-  m.set("kind", "lock");
-  m.set("caption", context_.translate(wrong_ ? "Пароль указан неправильно" : captionOf(mode_)));
-  if (wrong_) m.set("captionColor", wrongColour(context_.edition().appid));
-  m.set("dots", Value(std::move(dots)));
-  m.set("key", prefix + "pass-btn.png");
-  m.set("deleteKey", prefix + "pass-lock.png");
-  m.set("deleteId", std::string(kLockDelete));
-  m.set("digitPrefix", std::string(kLockDigitPrefix));
-  m.set("wait", static_cast<std::int64_t>(throttle_.waitAt(context_.clock().now()).count()));
-  if (mode_ == LockMode::Check && reader_.usable()) m.set("fingerprint", fingerprintKey(prefix));
-  return Value(std::move(m));
+    view.dots.push_back(prefix + (i < entry_.size() ? "pass-f.png" : "pass-e.png"));
+  view.caption = context_.translate(wrong_ ? "Пароль указан неправильно" : captionOf(mode_));
+  if (wrong_) view.captionColor = wrongColour(context_.edition().appid);
+  view.key = prefix + "pass-btn.png";
+  view.deleteKey = prefix + "pass-lock.png";
+  view.deleteId = std::string(kLockDelete);
+  view.digitPrefix = std::string(kLockDigitPrefix);
+  view.wait = static_cast<std::int64_t>(throttle_.waitAt(context_.clock().now()).count());
+  if (mode_ == LockMode::Check && reader_.usable()) view.fingerprint = fingerprintKey(prefix);
+  return view.toValue();
 }
 
 // The key, and the pending check that the browser runs; showing the key the first time starts

@@ -1,6 +1,7 @@
 #include "shell/popup_menu.h"
 
 #include "core/text_parts.h"
+#include "shell/views/popups.h"
 
 namespace lad::shell {
 
@@ -26,22 +27,11 @@ PopupMenu::PopupMenu(const Context& context, std::string_view menuText) {
 }
 
 Value PopupMenu::view() const {
-  List items;
-  for (std::size_t i = 0; i < items_.size(); ++i) {
-    Map m;
-    if (items_[i].gap) {
-      m.set("gap", true);
-    } else {
-      m.set("id", popupTarget(static_cast<int>(i)));
-      m.set("caption", items_[i].caption);
-      if (!items_[i].icon.empty()) m.set("icon", items_[i].icon);
-    }
-    items.push_back(Value(std::move(m)));
-  }
-  Map m;
-  m.set("kind", "popupMenu");
-  m.set("items", Value(std::move(items)));
-  return Value(std::move(m));
+  PopupMenuView view;
+  for (std::size_t i = 0; i < items_.size(); ++i)
+    view.items.push_back(
+        {popupTarget(static_cast<int>(i)), items_[i].caption, items_[i].icon, items_[i].gap});
+  return view.toValue();
 }
 
 std::optional<PopupAnswer> PopupMenu::answer(std::string_view target, const Value&) const {

@@ -3,6 +3,7 @@
 #include <filesystem>
 
 #include "health/pregnancy_calendar.h"
+#include "shell/views/node.h"
 #include "store/folders.h"
 
 namespace lad::shell {
@@ -85,8 +86,7 @@ std::string cardGuid(std::string_view target) {
 }
 
 Value ProfileCard::toValue(bool open) const {
-  Map m;
-  m.set("kind", "card");
+  Map m = node(kKind);
   m.set("id", guid.empty() ? "" : cardTarget(guid));
   m.set("picture", picture);
   if (!portrait.empty()) m.set("portrait", portrait);

@@ -19,6 +19,7 @@ std::string cardTarget(const std::string& guid);
 std::string cardGuid(std::string_view target);
 
 struct ProfileCard {
+  static constexpr std::string_view kKind = "card";
   std::string guid;  // empty on the inviting card
   std::string picture;
   std::string name;

@@ -1,5 +1,7 @@
 #include "shell/question.h"
 
+#include "shell/views/popups.h"
+
 namespace lad::shell {
 
 Question::Question(const Context& context, std::string_view text, std::string_view caption,
@@ -23,20 +25,10 @@ Question Question::askString(const Context& context, std::string_view text,
 }
 
 Value Question::view() const {
-  Map m;
-  m.set("kind", "question");
-  m.set("caption", caption_);
-  m.set("text", text_);
-  if (hasInput_) m.set("input", "");
-  List buttons;
-  for (std::size_t i = 0; i < buttons_.size(); ++i) {
-    Map b;
-    b.set("id", popupTarget(static_cast<int>(i)));
-    b.set("caption", buttons_[i]);
-    buttons.push_back(Value(std::move(b)));
-  }
-  m.set("buttons", Value(std::move(buttons)));
-  return Value(std::move(m));
+  QuestionView view{caption_, text_, hasInput_, {}};
+  for (std::size_t i = 0; i < buttons_.size(); ++i)
+    view.buttons.push_back({popupTarget(static_cast<int>(i)), buttons_[i], "", false});
+  return view.toValue();
 }
 
 std::optional<PopupAnswer> Question::answer(std::string_view target, const Value& input) const {

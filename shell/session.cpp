@@ -7,7 +7,7 @@
 #include "shell/pages.h"
 #include "shell/profile_editor.h"
 #include "shell/theme.h"
-#include "shell/view.h"
+#include "shell/views/pages.h"
 #include "shell/welcome_screen.h"
 #include "store/profiles.h"
 
@@ -206,13 +206,9 @@ EventResult Session::togglePassword() {
 }
 
 Value Session::ringView() {
-  Map ring;
-  ring.set("kind", "ring");
-  ring.set("page", page_->view());
-  if (next_) ring.set("next", next_->view());
-  ring.set("menu", menu_.view());
-  ring.set("toMenu", std::string(kToMenu));
-  return Value(std::move(ring));
+  return RingView{page_->view(), next_ ? next_->view() : Value(), menu_.view(),
+                  std::string(kToMenu)}
+      .toValue();
 }
 
 EventResult Session::openTab(int page) {

@@ -3,7 +3,8 @@
 #include "core/menu_table.h"
 #include "health/pregnancy_calendar.h"
 #include "shell/pages.h"
-#include "shell/view.h"
+#include "shell/views/pages.h"
+#include "shell/views/rows.h"
 #include "store/setup_data.h"
 
 namespace lad::shell {
@@ -23,11 +24,13 @@ Value TitlePage::view() {
   Context& context = app_.context();
   const Map setup = loadSetupData(app_.store(), gid_);
   List children;
-  children.push_back(textView(ageString(context, AgeMode::RunningWeek, setup)));
-  children.push_back(textView(pregnancyStateLine(context, setup)));
+  children.push_back(
+      TextView{ageString(context, AgeMode::RunningWeek, setup), "", std::nullopt}.toValue());
+  children.push_back(TextView{pregnancyStateLine(context, setup), "", std::nullopt}.toValue());
   const int week = getCurWeek(context, setup);
-  if (week > 0) children.push_back(textView(trimesterName(context, week)));
-  return pageView(pageCaption(context), std::move(children));
+  if (week > 0)
+    children.push_back(TextView{trimesterName(context, week), "", std::nullopt}.toValue());
+  return PageView{pageCaption(context), std::move(children)}.toValue();
 }
 
 EventResult TitlePage::tap(std::string_view target) {

@@ -1,6 +1,7 @@
 #include "shell/welcome_screen.h"
 
-#include "shell/view.h"
+#include "shell/views/pages.h"
+#include "shell/views/rows.h"
 
 namespace lad::shell {
 
@@ -49,22 +50,17 @@ class WelcomeBuilder {
   WelcomeBuilder(const Context& context, const WelcomeScreen::Commands& commands)
       : context_(context), commands_(commands) {}
 
-  void text(std::string_view text) { blocks_.push_back(textView(context_.translate(text))); }
+  void text(std::string_view text) {
+    blocks_.push_back(TextView{context_.translate(text), "", std::nullopt}.toValue());
+  }
 
   // One row of buttons; two in a row share its width.
   void buttons(std::initializer_list<std::pair<WelcomeCommand, std::string_view>> buttons) {
-    List row;
-    for (const auto& [command, caption] : buttons) {
-      Map b;
-      b.set("id", commandTarget(command));
-      b.set("caption", context_.translate(caption));
-      b.set("enabled", commands_.contains(command));
-      row.push_back(Value(std::move(b)));
-    }
-    Map m;
-    m.set("kind", "buttons");
-    m.set("buttons", std::move(row));
-    blocks_.push_back(Value(std::move(m)));
+    ButtonsView row;
+    for (const auto& [command, caption] : buttons)
+      row.buttons.push_back(
+          {commandTarget(command), context_.translate(caption), commands_.contains(command)});
+    blocks_.push_back(row.toValue());
   }
 
   List take() { return std::move(blocks_); }
@@ -102,17 +98,12 @@ List greetingBlocks(const Context& context, Greeting greeting,
 }  // namespace
 
 Value WelcomeScreen::view() {
-  Map close;
-  close.set("id", std::string(kClose));
-  close.set("caption", context_.translate("Начать работу"));
-  Map m;
-  m.set("kind", "welcome");
-  m.set("icon", "start-icon.png");
-  m.set("caption", context_.translate(context_.edition().caption));
-  m.set("accent", accentOf(context_.values().appid));
-  m.set("children", greetingBlocks(context_, greeting_, commands_));
-  m.set("close", std::move(close));
-  return Value(std::move(m));
+  return WelcomeView{"start-icon.png",
+                     context_.translate(context_.edition().caption),
+                     accentOf(context_.values().appid),
+                     greetingBlocks(context_, greeting_, commands_),
+                     {std::string(kClose), context_.translate("Начать работу"), std::nullopt}}
+      .toValue();
 }
 
 EventResult WelcomeScreen::tap(std::string_view target) {

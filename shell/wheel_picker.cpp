@@ -3,6 +3,7 @@
 #include <algorithm>
 
 #include "core/text_parts.h"
+#include "shell/views/popups.h"
 #include "store/picker_lists.h"
 
 namespace lad::shell {
@@ -87,27 +88,16 @@ void WheelPicker::positionAt(const std::vector<std::string_view>& olds) {
 }
 
 Value WheelPicker::view() const {
-  Map m;
-  m.set("kind", "picker");
-  m.set("caption", caption_);
-  List wheels;
+  PickerView view{caption_, {}, {}};
   for (std::size_t w = 0; w < wheels_.size(); ++w) {
-    Map wheel;
     // The words of a wheel are shown in the user's language; the answer keeps them as stored.
-    List rows;
-    for (const std::string& row : wheels_[w]) rows.push_back(context_.translate(row));
-    wheel.set("rows", Value(std::move(rows)));
-    wheel.set("selected", positions_[w]);
-    wheels.push_back(Value(std::move(wheel)));
+    WheelView wheel{{}, positions_[w]};
+    for (const std::string& row : wheels_[w]) wheel.rows.push_back(context_.translate(row));
+    view.wheels.push_back(std::move(wheel));
   }
-  m.set("wheels", Value(std::move(wheels)));
-  Map close, ok;
-  close.set("id", popupTarget(0));
-  close.set("icon", icon(context_, "cap-close.png"));
-  ok.set("id", popupTarget(1));
-  ok.set("icon", icon(context_, "cap-ok2.png"));
-  m.set("buttons", Value(List{Value(std::move(close)), Value(std::move(ok))}));
-  return Value(std::move(m));
+  view.buttons = {{popupTarget(0), "", icon(context_, "cap-close.png"), false},
+                  {popupTarget(1), "", icon(context_, "cap-ok2.png"), false}};
+  return view.toValue();
 }
 
 std::optional<PopupAnswer> WheelPicker::answer(std::string_view target, const Value& input) const {

@@ -7,14 +7,16 @@ import assert from 'node:assert/strict';
 import path from 'node:path';
 import { PHONE, TABLET, openPastGreeting, runBrowserTest, until } from './harness.mjs';
 
+// Row kinds of the field editor, as the server and the renderer name them.
+const ROW_KIND = { text: 1002, scale: 1015 };
 const SCALE_EDITOR = {
   kind: 'editor',
   caption: 'Температура',
   ok: { id: 'editor:ok', caption: 'Готово' },
   cancel: { id: 'editor:cancel', caption: 'Отменить' },
   rows: [
-    { tp: 1002, caption: 'Укажите температуру' },
-    { tp: 1015, id: 'field:temp', field: 'temp', caption: 'Температура', source: '36.6', scalemin: '30', scalemax: '45', scaletype: 2 },
+    { tp: ROW_KIND.text, caption: 'Укажите температуру' },
+    { tp: ROW_KIND.scale, id: 'field:temp', field: 'temp', caption: 'Температура', source: '36.6', scalemin: '30', scalemax: '45', scaletype: 2 },
   ],
 };
 

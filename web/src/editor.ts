@@ -3,7 +3,7 @@
 // chooser on the server are plain tap targets.
 import { element } from './dom.js';
 import { renderIcon } from './render.js';
-import type { EditorNode, EditorRow } from './view.js';
+import { RowKind, type EditorNode, type EditorRow } from './view.js';
 
 /** An input the user types in. */
 type Typed = HTMLInputElement | HTMLTextAreaElement;
@@ -90,38 +90,38 @@ function actionButton(id: string, caption: string, className: string): HTMLButto
 
 function renderEditorRow(row: EditorRow): HTMLElement | null {
   switch (row.tp) {
-    case 1001:
+    case RowKind.line:
       return element('hr', 'editor-line');
-    case 1002:
+    case RowKind.text:
       return element('p', 'editor-text', row.caption);
-    case 1008:
+    case RowKind.bodyIndex:
       return element('p', 'editor-index', row.caption.trim());
-    case 1004:
-    case 1005:
-    case 17:
+    case RowKind.time:
+    case RowKind.length:
+    case RowKind.entryTime:
       return labelled(row, timeInput(row));
-    case 1006:
-    case 103:
+    case RowKind.textInput:
+    case RowKind.entryText:
       return labelled(row, textInput(row, 'text'));
-    case 1007:
-    case 1011:
-    case 105:
+    case RowKind.number:
+    case RowKind.numberWithIndex:
+    case RowKind.entryNumber:
       return labelled(row, textInput(row, 'decimal'));
-    case 1013:
+    case RowKind.longText:
       return labelled(row, longText(row));
-    case 1009:
+    case RowKind.segments:
       return segments(row);
-    case 1010:
+    case RowKind.photo:
       return photo(row);
-    case 1015:
+    case RowKind.scale:
       return labelled(row, scaleRuler(row));
-    case 1016:
+    case RowKind.list:
       return choiceList(row);
-    case 1025:
+    case RowKind.switch:
       return switchRow(row);
-    case 1026:
+    case RowKind.picture:
       return row.pic ? renderIcon(row.pic, 'editor-picture') : null;
-    case 1023:
+    case RowKind.button:
       return row.id ? actionButton(row.id, row.caption, 'editor-button') : null;
     default:
       return row.id ? pickerRow(row) : null;

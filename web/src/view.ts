@@ -217,6 +217,37 @@ export interface EditorEntry {
   checked?: boolean;
 }
 
+/** The kinds of the field editor's rows, as the server names them. */
+export const RowKind = {
+  line: 1001,
+  text: 1002,
+  date: 1003,
+  time: 1004,
+  length: 1005,
+  textInput: 1006,
+  number: 1007,
+  bodyIndex: 1008,
+  segments: 1009,
+  photo: 1010,
+  numberWithIndex: 1011,
+  longText: 1013,
+  scale: 1015,
+  list: 1016,
+  dictionaryChoice: 1017,
+  dose: 1018,
+  frequency: 1019,
+  courseLength: 1020,
+  intakeTimes: 1021,
+  button: 1023,
+  switch: 1025,
+  picture: 1026,
+  teeth: 1027,
+  measure: 1028,
+  entryTime: 17,
+  entryText: 103,
+  entryNumber: 105,
+} as const;
+
 /** One input row of the field editor; tp is the row kind, source its present value. */
 export interface EditorRow {
   tp: number;
@@ -242,6 +273,14 @@ export interface EditorNode {
   ok: EditorButton;
   cancel: EditorButton;
   nested?: EditorNode;
+}
+
+/** The first-use hint in a screen's header: its icon, the moving hand, the tap that ends it. */
+export interface HelpHintNode {
+  kind: 'helpHint';
+  icon: string;
+  hand: string;
+  id: string;
 }
 
 export type PopupNode = QuestionNode | PopupMenuNode | ListChoiceNode | PickerNode;
