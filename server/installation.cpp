@@ -4,7 +4,7 @@
 
 #include "core/ids.h"
 #include "shell/app_manifest.h"
-#include "shell/password_lock.h"
+#include "shell/lock/password_lock.h"
 #include "store/folders.h"
 
 namespace lad::server {

@@ -12,7 +12,7 @@
 
 #include "core/context.h"
 #include "health/contraction_timer.h"
-#include "shell/lock_throttle.h"
+#include "shell/lock/lock_throttle.h"
 #include "shell/message_box.h"
 #include "store/store.h"
 

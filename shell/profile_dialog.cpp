@@ -4,7 +4,7 @@
 #include "core/ids.h"
 #include "health/body_index.h"
 #include "health/pregnancy_dates.h"
-#include "shell/detail_rows.h"
+#include "shell/editor/detail_rows.h"
 #include "store/folders.h"
 #include "store/setup_data.h"
 #include "store/setup_editor.h"

@@ -1,7 +1,7 @@
 #include "shell/profile_editor.h"
 
-#include "shell/detail_rows.h"
-#include "shell/field_check.h"
+#include "shell/editor/detail_rows.h"
+#include "shell/editor/field_check.h"
 #include "shell/wheel_picker.h"
 
 namespace lad::shell {

@@ -5,7 +5,7 @@
 #include <optional>
 #include <string>
 
-#include "shell/editor_view.h"
+#include "shell/editor/editor_view.h"
 #include "shell/profile_dialog.h"
 #include "shell/screen.h"
 #include "shell/screen_host.h"

@@ -11,10 +11,10 @@
 
 #include "shell/application.h"
 #include "shell/background_list.h"
+#include "shell/lock/password_lock.h"
 #include "shell/main_menu.h"
 #include "shell/message_box.h"
 #include "shell/page_ring.h"
-#include "shell/password_lock.h"
 #include "shell/screen_host.h"
 
 namespace lad::shell {

@@ -1,5 +1,6 @@
 #include "shell/welcome_screen.h"
 
+#include "core/edition.h"
 #include "shell/views/pages.h"
 #include "shell/views/rows.h"
 
@@ -88,7 +89,7 @@ List greetingBlocks(const Context& context, Greeting greeting,
   b.text("Более подробно с возможностями программы Вы можете ознакомиться здесь");
   b.buttons({{kAbout, "Описание программы"}});
   b.text(firstStepText(appid));
-  if (appid == 14)
+  if (is3dEdition(appid))
     b.buttons({{kSetup, "Настройки"}});
   else
     b.buttons({{kSetup, "Настройки"}, {kCloud, "Облако"}});

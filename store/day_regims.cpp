@@ -1,5 +1,7 @@
 #include "store/day_regims.h"
 
+#include "core/edition.h"
+
 namespace lad {
 
 namespace {
@@ -32,8 +34,8 @@ constexpr RegimRow kRegims[] = {
 }  // namespace
 
 DayEdition dayEdition(int appid) {
-  if (appid == 2) return DayEdition::Child;
-  if (appid == 3) return DayEdition::Woman;
+  if (isChildEdition(appid)) return DayEdition::Child;
+  if (isCycleEdition(appid)) return DayEdition::Woman;
   return DayEdition::Pregnancy;
 }
 

@@ -87,7 +87,7 @@ void fromOldVersionStartUse(Store& store) {
 void fromOldVersion(Store& store) {
   const int appid = store.context().values().appid;
   const bool isNew = fromOldVersionNewRestore(store);
-  if (appid == 2 && isNew) fromOldVersionChild1(store);
+  if (isChildEdition(appid) && isNew) fromOldVersionChild1(store);
   if (isPregnancyEdition(appid)) fromOldVersionPregFirstStart(store);
   fromOldVersionStartUse(store);
   store.context().settings().synchronize();

@@ -1,5 +1,7 @@
 #include "store/keywords.h"
 
+#include "core/edition.h"
+
 namespace lad {
 
 namespace {
@@ -45,8 +47,8 @@ const KeywordRow kKeywords[] = {
 };
 
 int editionBit(int appid) {
-  if (appid == 2) return C;
-  if (appid == 3) return W;
+  if (isChildEdition(appid)) return C;
+  if (isCycleEdition(appid)) return W;
   return P;
 }
 

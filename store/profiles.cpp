@@ -51,7 +51,7 @@ Map childEntry(const SqliteStatement& row, const DateCodec& dates) {
 
 List loadProfils(Store& store) {
   const DateCodec& dates = store.context().dates();
-  const bool child = store.context().values().appid == 2;
+  const bool child = isChildEdition(store.context().values().appid);
   List profiles;
   StoreBracket bracket = store.connectToBase();
   if (!bracket.db()) return profiles;
@@ -67,7 +67,7 @@ List loadProfils(Store& store) {
 
 List profileList(Store& store) {
   List children;
-  if (store.context().values().appid != 2) return children;
+  if (!isChildEdition(store.context().values().appid)) return children;
   const DateCodec& dates = store.context().dates();
   StoreBracket bracket = store.connectToBase();
   if (!bracket.db()) return children;

@@ -163,7 +163,8 @@ double getLastValue(Store& store, Date day, const std::string& type, const std::
                       day, type, gid)));
   }
   const int appid = store.context().values().appid;
-  const bool fallsBack = (type == "ves" && appid != 3) || (type == "rost" && appid == 2);
+  const bool fallsBack =
+      (type == "ves" && !isCycleEdition(appid)) || (type == "rost" && isChildEdition(appid));
   if (value == 0 && fallsBack)
     value = static_cast<float>(loadSetupData(store, gid)[type].doubleValue());
   return value;

@@ -78,12 +78,12 @@ struct ProfileQuery {
 };
 
 ProfileQuery profileQuery(int appid) {
-  if (appid == 2)
+  if (isChildEdition(appid))
     return {
         "select chname, sbirthdate, sex, blood, ves, rost, allergen, sbirthtime, documents "
         "from child where childguid=?",
         overlayChild};
-  if (appid == 3)
+  if (isCycleEdition(appid))
     return {"select sbirthdate, body, height from woman where womguid=?", overlayWoman};
   return {
       "select metrics, bodytype, sex, ves, rost, childname, sdat1, sdat2, sbirthdate, "
@@ -198,7 +198,7 @@ void initSetupStruct(const Context& context, Map& setup) {
     setup.set("dat1", today);
     setup.set("dat2", dates.addDays(today, kConceptionDays));
     setup.set("birthdate", dates.addDays(today, kPregnancyDays));
-  } else if (appid == 2) {
+  } else if (isChildEdition(appid)) {
     setup.set("birthdate", today);
     setup.set("sex", 0);
     setup.set("ves", "0");
@@ -230,7 +230,7 @@ Map loadSetupData(Store& store, const std::optional<std::string>& gid) {
 void saveSetupData(Store& store, SetupRegime regime, Map setup, const std::string& gid) {
   const Context& context = store.context();
   const int appid = context.values().appid;
-  if (!isPregnancyEdition(appid) && appid != 2) return;
+  if (!isPregnancyEdition(appid) && !isChildEdition(appid)) return;
   const Map stored = loadSetupData(store, gid);
   const bool exists = stored.contains(isPregnancyEdition(appid) ? "sdat1" : "sbirthdate");
   if (regime == kSetupFromEditor) keepHiddenKeys(appid, stored, setup);

@@ -1,5 +1,7 @@
 #include "store/tables.h"
 
+#include "core/edition.h"
+
 namespace lad {
 
 const EditionTables& tablesFor(int appid) {
@@ -8,8 +10,8 @@ const EditionTables& tablesFor(int appid) {
   static const EditionTables child{"child",      "chid",        "childdata",
                                    "childconst", "childselect", "childguid"};
   static const EditionTables woman{"woman", "womid", "womdata", "womconst", "womselect", "womguid"};
-  if (appid == 2) return child;
-  if (appid == 3) return woman;
+  if (isChildEdition(appid)) return child;
+  if (isCycleEdition(appid)) return woman;
   return pregnancy;
 }
 

@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <vector>
 
+#include "core/edition.h"
 #include "core/ids.h"
 #include "core/json_text.h"
 #include "core/text_parts.h"
@@ -124,8 +125,7 @@ const OldForm* oldFormOf(std::string_view keyword) {
 
 // Old attachment files of the child diary were named by number; they carry guids now.
 bool renamesFiles(int appid, std::string_view keyword) {
-  constexpr int kChildDiary = 2;
-  return appid == kChildDiary && (keyword == "analizy" || keyword == "documents");
+  return isChildEdition(appid) && (keyword == "analizy" || keyword == "documents");
 }
 
 Value readItem(int appid, std::string_view keyword, const OldForm& form, std::string_view item,

@@ -15,7 +15,8 @@ class LaunchTest : public ::testing::Test {
   // A fresh Context over the same folder is the next launch of the installation.
   std::unique_ptr<Context> launchOnce(int appid = 1, int langid = 1) {
     auto clock = std::make_shared<ManualClock>(*dateFromIso("2026-11-23T09:00:00Z"), "UTC");
-    auto c = std::make_unique<Context>(ContextOptions{appid, langid, dir.path(), "2.4.1", clock, {}});
+    auto c =
+        std::make_unique<Context>(ContextOptions{appid, langid, dir.path(), "2.4.1", clock, {}});
     launch(*c);
     return c;
   }
@@ -108,7 +109,8 @@ TEST_F(LaunchTest, OtherLanguagesLoseTheRussianOnlyRows) {
 }
 
 TEST_F(LaunchTest, UnknownEditionIsRefused) {
-  EXPECT_THROW(Context(ContextOptions{5, 1, dir.path(), "1.0", nullptr, {}}), std::invalid_argument);
+  EXPECT_THROW(Context(ContextOptions{5, 1, dir.path(), "1.0", nullptr, {}}),
+               std::invalid_argument);
 }
 
 }  // namespace

@@ -131,6 +131,24 @@ export async function openPastGreeting(browser, base, { device = PHONE, prepare 
   return { context, page, errors };
 }
 
+/** Opens the picker of an editor row and turns each wheel to the row with the given text. */
+export async function pickOnWheels(page, target, texts) {
+  await page.tap(`button[data-id="${target}"]`);
+  await page.waitForSelector('.popup-cover .wheel');
+  // The wheels scroll to their old rows in the next frame: turn them after that.
+  await page.evaluate(() => new Promise((done) => requestAnimationFrame(() => requestAnimationFrame(done))));
+  await page.evaluate((wanted) => {
+    document.querySelectorAll('.popup-cover .wheel').forEach((wheel, i) => {
+      const rows = [...wheel.querySelectorAll('.wheel-row')];
+      const at = rows.findIndex((row) => row.textContent === wanted[i]);
+      if (at < 0) throw new Error(`no row "${wanted[i]}" on wheel ${i}`);
+      wheel.scrollTop = at * rows[0].offsetHeight;
+    });
+  }, texts);
+  await page.tap('.popup-cover button[data-id="popup:1"]');
+  await page.waitForSelector('.popup-cover', { state: 'detached' });
+}
+
 /**
  * Where the elements matching a selector lie, read in one step: a redraw between finding them
  * and measuring them would measure elements no longer on the page.

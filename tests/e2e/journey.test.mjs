@@ -4,7 +4,7 @@
 //   node tests/e2e/journey.test.mjs --server PATH_TO_SERVER --out SCREENSHOT_DIR
 import assert from 'node:assert/strict';
 import path from 'node:path';
-import { PHONE, STEP_TIMEOUT_MS, TABLET, boxesOf, captionIs, onNewInstallation, runBrowserTest, typeCode } from './harness.mjs';
+import { PHONE, STEP_TIMEOUT_MS, TABLET, boxesOf, captionIs, onNewInstallation, pickOnWheels, runBrowserTest, typeCode } from './harness.mjs';
 
 const CODE = '2468';
 const NAME = 'Мира';
@@ -31,15 +31,12 @@ async function createPregnancy(page, outDir, device) {
   await page.tap('[data-id="menu:31"]');
   await page.waitForSelector('.editor');
   assert.equal(await page.textContent('.editor .page-title'), 'Новая беременность');
-  const due = page.locator('input[data-field="field:sbirthdate"]');
-  const dueBefore = await due.inputValue();
-  await page.fill('input[data-field="field:sdat1"]', '2026-05-01');
+  await pickOnWheels(page, 'field:sdat1', ['1', 'мая', '2026']);
   // The server keeps the dates consistent: the due date follows the last period.
-  await page.waitForFunction(
-    (before) => document.querySelector('input[data-field="field:sbirthdate"]')?.value !== before,
-    dueBefore,
-  );
-  assert.equal(await due.inputValue(), '2027-02-05', 'the due date 280 days after the last period');
+  const due = 'button[data-id="field:sbirthdate"] .editor-picker-value';
+  await page.waitForFunction((sel) => document.querySelector(sel)?.textContent === '05.02.2027', due).catch(async () => {
+    throw new Error(`the due date shows ${await page.textContent(due)}, not 280 days after the last period`);
+  });
   await page.fill('input[data-field="field:name"]', NAME);
   await page.locator('input[data-field="field:name"]').blur();
   await page.tap('.segment:nth-child(3)');

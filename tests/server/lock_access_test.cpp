@@ -4,7 +4,7 @@
 
 #include "server/listen_policy.h"
 #include "server_fixture.h"
-#include "shell/password_hash.h"
+#include "shell/lock/password_hash.h"
 
 namespace lad::server::test {
 namespace {

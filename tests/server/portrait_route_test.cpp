@@ -3,7 +3,7 @@
 #include <gtest/gtest.h>
 
 #include "server_fixture.h"
-#include "shell/password_hash.h"
+#include "shell/lock/password_hash.h"
 #include "store/folders.h"
 
 namespace lad::server::test {

@@ -1,11 +1,11 @@
-#include "shell/field_editor.h"
+#include "shell/editor/field_editor.h"
 
 #include <gtest/gtest.h>
 
-#include "shell/day_field_edit.h"
-#include "shell/detail_forms.h"
-#include "shell/detail_rows.h"
-#include "shell/entry_forms.h"
+#include "shell/editor/day_field_edit.h"
+#include "shell/editor/detail_forms.h"
+#include "shell/editor/detail_rows.h"
+#include "shell/editor/entry_forms.h"
 #include "store/records.h"
 #include "store/store.h"
 #include "tests/shell/application_fixture.h"

@@ -1,7 +1,7 @@
 #include <gtest/gtest.h>
 
 #include "core/base64.h"
-#include "shell/fingerprint_keys.h"
+#include "shell/lock/fingerprint_keys.h"
 #include "shell/session.h"
 #include "tests/shell/application_fixture.h"
 #include "tests/support/test_authenticator.h"

@@ -1,8 +1,8 @@
-#include "shell/password_lock.h"
+#include "shell/lock/password_lock.h"
 
 #include <gtest/gtest.h>
 
-#include "shell/password_hash.h"
+#include "shell/lock/password_hash.h"
 #include "shell/session.h"
 #include "tests/shell/application_fixture.h"
 

@@ -57,7 +57,7 @@ TEST(ProtocolAgreement, ScreensAndRendererNameTheSameNodeKinds) {
 
 TEST(ProtocolAgreement, ScreensAndRendererNameTheSameEditorRowKinds) {
   const auto cpp = kindsIn(contentOf(kSource / "shell/views/editors.h"), "enum RowKind {",
-                     std::regex(R"(k(\w+) = (\d+))"));
+                           std::regex(R"(k(\w+) = (\d+))"));
   std::map<std::string, int> lowered;
   for (const auto& [name, number] : cpp) {
     std::string renderer = name;

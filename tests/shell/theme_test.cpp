@@ -3,7 +3,7 @@
 #include <gtest/gtest.h>
 
 #include "shell/background_list.h"
-#include "shell/password_lock.h"
+#include "shell/lock/password_lock.h"
 #include "shell/session.h"
 #include "tests/shell/application_fixture.h"
 

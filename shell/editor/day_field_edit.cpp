@@ -1,4 +1,4 @@
-#include "shell/day_field_edit.h"
+#include "shell/editor/day_field_edit.h"
 
 #include "store/editor_value.h"
 #include "store/records.h"

@@ -8,7 +8,7 @@
 #include <string>
 
 #include "core/context.h"
-#include "shell/editor_view.h"
+#include "shell/editor/editor_view.h"
 #include "shell/message_box.h"
 
 namespace lad::shell {

@@ -1,4 +1,4 @@
-#include "shell/detail_rows.h"
+#include "shell/editor/detail_rows.h"
 
 namespace lad::shell {
 

@@ -7,8 +7,8 @@
 #include <string>
 
 #include "core/context.h"
-#include "shell/fingerprint_reader.h"
-#include "shell/lock_throttle.h"
+#include "shell/lock/fingerprint_reader.h"
+#include "shell/lock/lock_throttle.h"
 #include "shell/message_box.h"
 #include "shell/screen.h"
 

@@ -1,4 +1,4 @@
-#include "shell/fingerprint_keys.h"
+#include "shell/lock/fingerprint_keys.h"
 
 #include <optional>
 

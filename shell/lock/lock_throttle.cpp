@@ -1,4 +1,4 @@
-#include "shell/lock_throttle.h"
+#include "shell/lock/lock_throttle.h"
 
 #include <algorithm>
 

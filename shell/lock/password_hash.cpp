@@ -1,4 +1,4 @@
-#include "shell/password_hash.h"
+#include "shell/lock/password_hash.h"
 
 #include <sodium.h>
 

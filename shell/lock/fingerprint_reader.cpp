@@ -1,12 +1,12 @@
-#include "shell/fingerprint_reader.h"
+#include "shell/lock/fingerprint_reader.h"
 
 #include <sodium.h>
 
 #include <cstdio>
 
 #include "core/base64.h"
-#include "shell/fingerprint_keys.h"
-#include "shell/password_lock.h"
+#include "shell/lock/fingerprint_keys.h"
+#include "shell/lock/password_lock.h"
 
 namespace lad::shell {
 

@@ -6,7 +6,7 @@
 #include <string>
 
 #include "shell/application.h"
-#include "shell/detail_forms.h"
+#include "shell/editor/detail_forms.h"
 
 namespace lad::shell {
 

@@ -1,6 +1,6 @@
-#include "shell/entry_forms.h"
+#include "shell/editor/entry_forms.h"
 
-#include "shell/detail_rows.h"
+#include "shell/editor/detail_rows.h"
 
 namespace lad::shell {
 

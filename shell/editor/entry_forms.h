@@ -4,7 +4,7 @@
 
 #include <optional>
 
-#include "shell/field_editor.h"
+#include "shell/editor/field_editor.h"
 
 namespace lad::shell {
 

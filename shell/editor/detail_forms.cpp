@@ -1,6 +1,6 @@
-#include "shell/detail_forms.h"
+#include "shell/editor/detail_forms.h"
 
-#include "shell/detail_rows.h"
+#include "shell/editor/detail_rows.h"
 
 namespace lad::shell {
 

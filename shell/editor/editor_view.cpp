@@ -1,10 +1,10 @@
-#include "shell/editor_view.h"
+#include "shell/editor/editor_view.h"
 
 #include <functional>
 
 #include "core/base64.h"
 #include "platform/images.h"
-#include "shell/detail_rows.h"
+#include "shell/editor/detail_rows.h"
 #include "shell/views/editors.h"
 
 namespace lad::shell {

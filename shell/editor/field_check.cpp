@@ -1,8 +1,8 @@
-#include "shell/field_check.h"
+#include "shell/editor/field_check.h"
 
 #include <cstdio>
 
-#include "shell/detail_rows.h"
+#include "shell/editor/detail_rows.h"
 
 namespace lad::shell {
 

@@ -1,7 +1,8 @@
-#include "shell/password_lock.h"
+#include "shell/lock/password_lock.h"
 
-#include "shell/fingerprint_keys.h"
-#include "shell/password_hash.h"
+#include "core/edition.h"
+#include "shell/lock/fingerprint_keys.h"
+#include "shell/lock/password_hash.h"
 #include "shell/views/pages.h"
 
 namespace lad::shell {
@@ -25,7 +26,7 @@ const char* captionOf(LockMode mode) {
 // The warning's colour: amber on the dark backgrounds of editions 1 and 2, brown on the light
 // one of edition 3.
 const char* wrongColour(int appid) {
-  return appid == 3 ? "rgb(99,69,0)" : "rgb(255,207,0)";
+  return isCycleEdition(appid) ? "rgb(99,69,0)" : "rgb(255,207,0)";
 }
 
 void storeSwitch(SettingsStore& settings, bool on) {

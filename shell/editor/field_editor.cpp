@@ -1,8 +1,8 @@
-#include "shell/field_editor.h"
+#include "shell/editor/field_editor.h"
 
-#include "shell/detail_rows.h"
-#include "shell/editor_view.h"
-#include "shell/field_check.h"
+#include "shell/editor/detail_rows.h"
+#include "shell/editor/editor_view.h"
+#include "shell/editor/field_check.h"
 #include "store/editor_value.h"
 
 namespace lad::shell {

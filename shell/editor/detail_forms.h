@@ -5,7 +5,7 @@
 
 #include <optional>
 
-#include "shell/field_editor.h"
+#include "shell/editor/field_editor.h"
 
 namespace lad::shell {
 
