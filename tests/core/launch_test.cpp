@@ -15,7 +15,8 @@ class LaunchTest : public ::testing::Test {
   // A fresh Context over the same folder is the next launch of the installation.
   std::unique_ptr<Context> launchOnce(int appid = 1, int langid = 1) {
     auto clock = std::make_shared<ManualClock>(*dateFromIso("2026-11-23T09:00:00Z"), "UTC");
-    auto c = std::make_unique<Context>(ContextOptions{appid, langid, dir.path(), "2.4.1", clock, {}});
+    auto c =
+        std::make_unique<Context>(ContextOptions{appid, langid, dir.path(), "2.4.1", clock, {}});
     launch(*c);
     return c;
   }
@@ -69,33 +70,20 @@ TEST_F(LaunchTest, StoredChoicesAreReadAndDeactivationForgotten) {
   EXPECT_FALSE(storedSettings().contains("deactive"));
 }
 
-TEST_F(LaunchTest, CloudModeTwoRunsAsElevenOnceThenAsOne) {
-  {
-    SettingsStore s = storedSettings();
-    s.set("icloud", 2);
-    ASSERT_TRUE(s.synchronize());
-  }
-  EXPECT_EQ(launchOnce()->values().cloudMode, 11);
-  EXPECT_EQ(storedSettings().get("icloud"), Value(true));
-  EXPECT_EQ(launchOnce()->values().cloudMode, 1);
-}
-
-TEST_F(LaunchTest, RetiredCloudModesFallBackToOne) {
-  for (int retired : {4, 5}) {
+// Mode 2 runs as 11 once and is then stored as on; the retired modes 4 and 5 fall back to on.
+TEST_F(LaunchTest, StoredCloudModesRunAsTheirCurrentOnes) {
+  struct Case {
+    int stored, first, next;
+  } const cases[] = {{2, 11, 1}, {4, 1, 1}, {5, 1, 1}, {11, 11, 11}};
+  for (const Case& c : cases) {
     {
       SettingsStore s = storedSettings();
-      s.set("icloud", retired);
+      s.set("icloud", c.stored);
       ASSERT_TRUE(s.synchronize());
     }
-    EXPECT_EQ(launchOnce()->values().cloudMode, 1) << retired;
-    EXPECT_EQ(storedSettings().get("icloud"), Value(true)) << retired;
+    EXPECT_EQ(launchOnce()->values().cloudMode, c.first) << c.stored;
+    EXPECT_EQ(launchOnce()->values().cloudMode, c.next) << c.stored;
   }
-  {
-    SettingsStore s = storedSettings();
-    s.set("icloud", 11);
-    ASSERT_TRUE(s.synchronize());
-  }
-  EXPECT_EQ(launchOnce()->values().cloudMode, 11);
 }
 
 TEST_F(LaunchTest, OtherLanguagesLoseTheRussianOnlyRows) {
@@ -108,7 +96,8 @@ TEST_F(LaunchTest, OtherLanguagesLoseTheRussianOnlyRows) {
 }
 
 TEST_F(LaunchTest, UnknownEditionIsRefused) {
-  EXPECT_THROW(Context(ContextOptions{5, 1, dir.path(), "1.0", nullptr, {}}), std::invalid_argument);
+  EXPECT_THROW(Context(ContextOptions{5, 1, dir.path(), "1.0", nullptr, {}}),
+               std::invalid_argument);
 }
 
 }  // namespace
