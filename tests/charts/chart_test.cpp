@@ -42,18 +42,6 @@ draw::RecordingCanvas draw(const Map& dic, double s = 2) {
   return c;
 }
 
-TEST(ChartDictionary, DefaultsAndBuilders) {
-  Map dic;
-  initGraphDic(dic);
-  EXPECT_EQ(dic["xAxisMax"], Value(0));
-  EXPECT_EQ(dic["setka"], Value(false));
-  EXPECT_EQ(dic["bottomLine"], Value(0));
-  List legend;
-  addToLegenda(legend, "Вес", 2, true);
-  EXPECT_EQ(legend[0]["pos"].intValue(), 2);
-  EXPECT_TRUE(legend[0]["checked"].boolValue());
-}
-
 TEST(Chart, BordersCaptionsAndSeriesPlacement) {
   const auto c = draw(sampleDic());
   EXPECT_EQ(c.commands().front().kind, Kind::Clear);

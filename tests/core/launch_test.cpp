@@ -70,33 +70,20 @@ TEST_F(LaunchTest, StoredChoicesAreReadAndDeactivationForgotten) {
   EXPECT_FALSE(storedSettings().contains("deactive"));
 }
 
-TEST_F(LaunchTest, CloudModeTwoRunsAsElevenOnceThenAsOne) {
-  {
-    SettingsStore s = storedSettings();
-    s.set("icloud", 2);
-    ASSERT_TRUE(s.synchronize());
-  }
-  EXPECT_EQ(launchOnce()->values().cloudMode, 11);
-  EXPECT_EQ(storedSettings().get("icloud"), Value(true));
-  EXPECT_EQ(launchOnce()->values().cloudMode, 1);
-}
-
-TEST_F(LaunchTest, RetiredCloudModesFallBackToOne) {
-  for (int retired : {4, 5}) {
+// Mode 2 runs as 11 once and is then stored as on; the retired modes 4 and 5 fall back to on.
+TEST_F(LaunchTest, StoredCloudModesRunAsTheirCurrentOnes) {
+  struct Case {
+    int stored, first, next;
+  } const cases[] = {{2, 11, 1}, {4, 1, 1}, {5, 1, 1}, {11, 11, 11}};
+  for (const Case& c : cases) {
     {
       SettingsStore s = storedSettings();
-      s.set("icloud", retired);
+      s.set("icloud", c.stored);
       ASSERT_TRUE(s.synchronize());
     }
-    EXPECT_EQ(launchOnce()->values().cloudMode, 1) << retired;
-    EXPECT_EQ(storedSettings().get("icloud"), Value(true)) << retired;
+    EXPECT_EQ(launchOnce()->values().cloudMode, c.first) << c.stored;
+    EXPECT_EQ(launchOnce()->values().cloudMode, c.next) << c.stored;
   }
-  {
-    SettingsStore s = storedSettings();
-    s.set("icloud", 11);
-    ASSERT_TRUE(s.synchronize());
-  }
-  EXPECT_EQ(launchOnce()->values().cloudMode, 11);
 }
 
 TEST_F(LaunchTest, OtherLanguagesLoseTheRussianOnlyRows) {

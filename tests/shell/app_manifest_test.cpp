@@ -21,24 +21,21 @@ std::vector<std::string> shortcutUrls(const Value& manifest) {
   return urls;
 }
 
-TEST(AppManifest, NamesTheEditionAndOffersItsShortcuts) {
-  const Value pregnancy = manifestOf(1, 1);
-  EXPECT_EQ(pregnancy["name"].text(), "Ладанея");
-  EXPECT_EQ(pregnancy["lang"].text(), "ru");
-  EXPECT_EQ(shortcutUrls(pregnancy),
-            (std::vector<std::string>{"/?shortcut=SCHVATKI", "/?shortcut=NEWNOTE"}));
-  const Value& first = pregnancy["shortcuts"].asList()->front();
-  EXPECT_EQ(first["name"].text(), "Схватки");
-  EXPECT_EQ(first["description"].text(), "Открыть закладку");
-
-  EXPECT_EQ(manifestOf(14, 1)["name"].text(), "Ладанея 3D");
-  EXPECT_EQ(shortcutUrls(manifestOf(14, 1)).size(), 2u);
-
-  const Value child = manifestOf(2, 3);
-  EXPECT_EQ(child["name"].text(), "Крохомир");
-  EXPECT_EQ(child["lang"].text(), "fr");
-  EXPECT_EQ(shortcutUrls(child), std::vector<std::string>{"/?shortcut=NEWNOTE"});
-  EXPECT_EQ(manifestOf(3, 2)["lang"].text(), "de");
+TEST(AppManifest, EachEditionOffersItsShortcutsInItsLanguage) {
+  const std::vector<std::string> both{"/?shortcut=SCHVATKI", "/?shortcut=NEWNOTE"};
+  const struct {
+    int appid, langid;
+    const char* lang;
+    std::vector<std::string> urls;
+  } cases[] = {{1, 1, "ru", both},
+               {14, 1, "ru", both},
+               {2, 3, "fr", {"/?shortcut=NEWNOTE"}},
+               {3, 2, "de", {"/?shortcut=NEWNOTE"}}};
+  for (const auto& c : cases) {
+    const Value manifest = manifestOf(c.appid, c.langid);
+    EXPECT_EQ(manifest["lang"].text(), c.lang) << c.appid;
+    EXPECT_EQ(shortcutUrls(manifest), c.urls) << c.appid;
+  }
 }
 
 }  // namespace

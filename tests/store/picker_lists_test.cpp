@@ -32,15 +32,6 @@ TEST(PickerListsTest, RowsReadAsTheirTextsAndBack) {
   }
 }
 
-TEST(PickerListsTest, WheelsHaveTheirLengths) {
-  EXPECT_EQ(listFor(kLengthPicker, 0).size(), 100u);
-  EXPECT_EQ(listFor(kDosePicker, 0).size(), 203u);
-  EXPECT_EQ(listFor(kDosePicker, 1).size(), 9u);
-  EXPECT_EQ(listFor(kFrequencyPicker, 0).size(), 24u);
-  EXPECT_EQ(listFor(kFrequencyPicker, 1), (std::vector<std::string>{"раз в день", "раз в сутки"}));
-  EXPECT_EQ(listFor(kLengthPicker, 1), (std::vector<std::string>{"дни", "недели", "месяцы"}));
-}
-
 TEST(PickerListsTest, UnknownSetsWheelsRowsAndTextsAreSafe) {
   EXPECT_TRUE(listFor(7, 0).empty());
   EXPECT_TRUE(listFor(kDosePicker, 2).empty());

@@ -82,12 +82,9 @@ TEST_F(ProfilesTest, MealTimesAreSharedByEveryProfile) {
   setObed(*store, "07:00<table>10:00<table>13:00<table>17:00<table>19:30");
   EXPECT_EQ(getObed(*store), "07:00<table>10:00<table>13:00<table>17:00<table>19:30");
   EXPECT_EQ(cell("select count(distinct obed) from preg"), "1");
-}
-
-TEST_F(ProfilesTest, TheWomansEditionHasNoProfileList) {
   open(3);
   fromOldVersion(*store);
-  EXPECT_TRUE(loadProfils(*store).empty());
+  EXPECT_TRUE(loadProfils(*store).empty()) << "the woman's edition has no profile list";
   EXPECT_EQ(getObed(*store), "09:00<table>11:00<table>14:00<table>16:00<table>20:00");
 }
 

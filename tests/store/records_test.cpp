@@ -4,7 +4,6 @@
 
 #include "store/dictionary.h"
 #include "store/first_launch.h"
-#include "store/keywords.h"
 #include "store/store.h"
 #include "tests/store/store_fixture.h"
 
@@ -157,22 +156,6 @@ TEST_F(RecordsTest, ADayFromAnotherDeviceBringsTheDictionaryEntriesItUses) {
                day(29));
   EXPECT_EQ(valueOn("fillings", day(29)), "NEW-ENTRY-GUID");
   EXPECT_EQ(cell("select coname from pregconst where coguid='NEW-ENTRY-GUID'"), "Отеки ног");
-}
-
-TEST(Keywords, EachEditionHasItsFieldsWithTheirKindsAndLists) {
-  EXPECT_EQ(keywordFor(1, "changes")->form, ValueForm::GuidList);
-  EXPECT_EQ(keywordFor(3, "sliz")->form, ValueForm::Guid);
-  EXPECT_EQ(keywordFor(2, "tooth")->form, ValueForm::CodeList);
-  EXPECT_EQ(keywordFor(1, "birthresult")->form, ValueForm::None);
-  EXPECT_EQ(keywordFor(2, "health")->list, 2);
-  EXPECT_EQ(keywordFor(3, "health")->list, 1);
-  EXPECT_FALSE(keywordFor(1, "health"));
-  EXPECT_EQ(keywordFor(14, "pressure")->kind, 30);
-  EXPECT_FALSE(keywordFor(3, "bolezn"));
-  EXPECT_EQ(keywordFor(2, "bolezn")->kind, kKindIllness);
-  EXPECT_EQ(keywordsOf(1).size(), 15u);
-  EXPECT_EQ(keywordsOf(2).size(), 18u);
-  EXPECT_EQ(keywordsOf(3).size(), 14u);
 }
 
 }  // namespace
