@@ -11,13 +11,15 @@ constexpr std::size_t kMaxQueued = 64;
 
 }  // namespace
 
-std::optional<PushMessage> Subscriber::next(std::chrono::milliseconds timeout) {
-  std::unique_lock lock(mutex_);
-  wake_.wait_for(lock, timeout, [this] { return closed_ || !queue_.empty(); });
-  if (closed_ || queue_.empty()) return std::nullopt;
-  PushMessage m = std::move(queue_.front());
-  queue_.pop_front();
-  return m;
+Subscriber::Subscriber(std::string session, std::function<void()> wake)
+    : session_(std::move(session)), wake_(std::move(wake)) {}
+
+std::vector<PushMessage> Subscriber::take() {
+  std::lock_guard lock(mutex_);
+  std::vector<PushMessage> taken(std::make_move_iterator(queue_.begin()),
+                                 std::make_move_iterator(queue_.end()));
+  queue_.clear();
+  return taken;
 }
 
 bool Subscriber::closed() const {
@@ -31,7 +33,7 @@ void Subscriber::push(const PushMessage& m) {
     if (queue_.size() >= kMaxQueued) queue_.pop_front();
     queue_.push_back(m);
   }
-  wake_.notify_one();
+  if (wake_) wake_();
 }
 
 void Subscriber::close() {
@@ -39,16 +41,25 @@ void Subscriber::close() {
     std::lock_guard lock(mutex_);
     closed_ = true;
   }
-  wake_.notify_all();
+  if (wake_) wake_();
 }
 
-std::shared_ptr<Subscriber> EventHub::subscribe() {
-  auto s = std::make_shared<Subscriber>();
+std::shared_ptr<Subscriber> EventHub::subscribe(const std::string& session,
+                                                std::function<void()> wake) {
+  auto s = std::make_shared<Subscriber>(session, std::move(wake));
   std::lock_guard lock(mutex_);
-  if (closed_)
+  if (closed_) {
     s->close();
-  else
-    subscribers_.push_back(s);
+    return s;
+  }
+  const auto sameSession = [&](const auto& other) { return other->session() == session; };
+  if (static_cast<std::size_t>(std::ranges::count_if(subscribers_, sameSession)) >=
+      kStreamsPerSession) {
+    const auto oldest = std::ranges::find_if(subscribers_, sameSession);
+    (*oldest)->close();
+    subscribers_.erase(oldest);
+  }
+  subscribers_.push_back(s);
   return s;
 }
 
@@ -57,9 +68,19 @@ void EventHub::unsubscribe(const std::shared_ptr<Subscriber>& s) {
   std::erase(subscribers_, s);
 }
 
-void EventHub::publish(const PushMessage& m) {
+void EventHub::publish(const PushMessage& m, const Audience& audience) {
   std::lock_guard lock(mutex_);
-  for (const auto& s : subscribers_) s->push(m);
+  for (const auto& s : subscribers_)
+    if (!audience || audience(s->session())) s->push(m);
+}
+
+void EventHub::closeSession(const std::string& session) {
+  std::lock_guard lock(mutex_);
+  std::erase_if(subscribers_, [&](const auto& s) {
+    if (s->session() != session) return false;
+    s->close();
+    return true;
+  });
 }
 
 void EventHub::close() {

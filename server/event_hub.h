@@ -1,12 +1,10 @@
 // Messages that the main thread pushes to open browsers as server-sent events.
 #pragma once
 
-#include <chrono>
-#include <condition_variable>
 #include <deque>
+#include <functional>
 #include <memory>
 #include <mutex>
-#include <optional>
 #include <string>
 #include <vector>
 
@@ -17,11 +15,16 @@ struct PushMessage {
   std::string data;   // JSON text
 };
 
-// One open event stream of one browser tab.
+// One open event stream of one browser tab. Whoever writes the stream is woken by the
+// callback given at subscription and collects the messages with take().
 class Subscriber {
  public:
-  // The next message, or nullopt after the timeout or once the hub has closed.
-  std::optional<PushMessage> next(std::chrono::milliseconds timeout);
+  Subscriber(std::string session, std::function<void()> wake);
+
+  const std::string& session() const { return session_; }
+  // The messages that came since the last call, oldest first.
+  std::vector<PushMessage> take();
+  // The stream must end: the hub closed, or newer streams of the session replaced it.
   bool closed() const;
 
  private:
@@ -29,24 +32,35 @@ class Subscriber {
   void push(const PushMessage& m);
   void close();
 
+  const std::string session_;
+  const std::function<void()> wake_;
   mutable std::mutex mutex_;
-  std::condition_variable wake_;
   std::deque<PushMessage> queue_;
   bool closed_ = false;
 };
 
 class EventHub {
  public:
-  std::shared_ptr<Subscriber> subscribe();
+  // Which sessions a message is for; empty: every one.
+  using Audience = std::function<bool(const std::string& session)>;
+
+  // A new stream of the session. The session's oldest streams are closed so that it keeps at
+  // most kStreamsPerSession: a browser that reconnects over and over cannot pile them up.
+  std::shared_ptr<Subscriber> subscribe(const std::string& session, std::function<void()> wake);
   void unsubscribe(const std::shared_ptr<Subscriber>& s);
-  // To every open stream: tabs of one browser share a session, so none is left out.
-  void publish(const PushMessage& m);
+  // To every open stream of the sessions in the audience; tabs of one browser share a
+  // session, so none of them is left out.
+  void publish(const PushMessage& m, const Audience& audience = {});
+  // Ends the streams of one session.
+  void closeSession(const std::string& session);
   // Ends every stream, now and for later subscribers.
   void close();
 
+  static constexpr std::size_t kStreamsPerSession = 3;
+
  private:
   std::mutex mutex_;
-  std::vector<std::shared_ptr<Subscriber>> subscribers_;
+  std::vector<std::shared_ptr<Subscriber>> subscribers_;  // oldest first
   bool closed_ = false;
 };
 

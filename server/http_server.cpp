@@ -1,68 +1,45 @@
-// The only translation unit that sees the HTTP library.
+// The routes of the server: the web app's files, the view and event endpoints of the browser
+// sessions, and their event streams. The network side is the ConnectionLoop's.
 #include "server/http_server.h"
 
-#include <httplib.h>
-
-#include <atomic>
 #include <cctype>
-#include <cerrno>
 #include <cstdio>
-#include <cstring>
-#include <thread>
 
 #include "core/atomic_file.h"
+#include "server/compression.h"
+#include "server/connection_loop.h"
+#include "server/static_files.h"
 #include "shell/profile_cards.h"
 
 namespace lad::server {
 
 namespace {
 
-using namespace std::chrono_literals;
-
 constexpr char kSessionCookie[] = "lsid";
-constexpr auto kKeepAlivePeriod = 10s;
-constexpr std::size_t kHandlerThreads = 48;  // event streams each hold one
+constexpr char kStreamGreeting[] = "retry: 2000\n\n";
 // The app runs only its own scripts and talks only to this server.
 constexpr char kContentPolicy[] =
     "default-src 'self'; img-src 'self' data:; object-src 'none'; base-uri 'none'; "
     "frame-ancestors 'none'";
 
-std::string cookieValue(const httplib::Request& req, const std::string& name) {
-  const std::string cookies = req.get_header_value("Cookie");
-  std::size_t pos = 0;
-  while (pos < cookies.size()) {
-    std::size_t end = cookies.find(';', pos);
-    if (end == std::string::npos) end = cookies.size();
-    std::string part = cookies.substr(pos, end - pos);
-    part.erase(0, part.find_first_not_of(' '));
-    if (part.starts_with(name + "=")) return part.substr(name.size() + 1);
-    pos = end + 1;
-  }
-  return {};
-}
-
-void sendJson(httplib::Response& res, const Reply& reply) {
-  res.set_header("Cache-Control", "no-store");
-  if (reply.newSession)
-    res.set_header("Set-Cookie", std::string(kSessionCookie) + "=" + reply.session +
-                                     "; Path=/; HttpOnly; SameSite=Strict");
+HttpResponse jsonResponse(const Reply& reply) {
+  HttpResponse res;
   res.status = reply.status;
-  res.set_content(reply.body, "application/json");
-}
-
-void sendError(httplib::Response& res, int status, const std::string& message) {
-  Reply reply;
-  reply.refuse(status, message);
-  sendJson(res, reply);
+  res.setHeader("Cache-Control", "no-store");
+  if (reply.newSession)
+    res.setHeader("Set-Cookie", std::string(kSessionCookie) + "=" + reply.session +
+                                    "; Path=/; HttpOnly; SameSite=Strict");
+  res.setContent(reply.body, "application/json");
+  return res;
 }
 
 // State-changing requests must come from the app's own pages, as JSON.
-std::string crossOriginProblem(const httplib::Request& req) {
-  const std::string origin = req.get_header_value("Origin");
-  const std::string host = req.get_header_value("Host");
+std::string crossOriginProblem(const HttpRequest& req) {
+  const std::string origin = req.header("Origin");
+  const std::string host = req.header("Host");
   if (!origin.empty() && origin != "http://" + host && origin != "https://" + host)
     return "requests from other sites are refused";
-  const std::string site = req.get_header_value("Sec-Fetch-Site");
+  const std::string site = req.header("Sec-Fetch-Site");
   if (!site.empty() && site != "same-origin" && site != "none")
     return "requests from other sites are refused";
   return {};
@@ -76,8 +53,11 @@ bool isJsonContent(std::string type) {
   return type == "application/json";
 }
 
-std::string sseChunk(const PushMessage& m) {
-  return "event: " + m.event + "\ndata: " + m.data + "\n\n";
+void addSecurityHeaders(HttpResponse& res) {
+  res.setHeader("X-Content-Type-Options", "nosniff");
+  res.setHeader("Referrer-Policy", "no-referrer");
+  res.setHeader("X-Frame-Options", "DENY");
+  res.setHeader("Content-Security-Policy", kContentPolicy);
 }
 
 }  // namespace
@@ -85,118 +65,97 @@ std::string sseChunk(const PushMessage& m) {
 struct HttpServer::Impl {
   Installation& installation;
   HttpOptions options;
-  httplib::Server http;
-  // The library's stop() only reaches a running accept loop: a stop that comes earlier is
-  // remembered here and honoured by run().
-  std::atomic<bool> stopRequested = false;
-  std::atomic<bool> running = false;
+  StaticFiles files;
+  ConnectionLoop loop;
 
-  Impl(Installation& i, HttpOptions o) : installation(i), options(std::move(o)) {
-    http.new_task_queue = [] { return new httplib::ThreadPool(kHandlerThreads); };
-    http.set_payload_max_length(options.maxBodyBytes);
-    http.set_default_headers({{"X-Content-Type-Options", "nosniff"},
-                              {"Referrer-Policy", "no-referrer"},
-                              {"X-Frame-Options", "DENY"},
-                              {"Content-Security-Policy", kContentPolicy}});
+  Impl(Installation& i, HttpOptions o)
+      : installation(i),
+        options(std::move(o)),
+        loop(
+            ConnectionLimits{options.maxBodyBytes},
+            [this](const HttpRequest& r) { return handle(r); },
+            [this](const std::shared_ptr<Subscriber>& s) { installation.hub().unsubscribe(s); }) {
+    if (!options.imagesDir.empty()) files.mount("/img", options.imagesDir);
+    if (!options.webDir.empty()) files.mount("/", options.webDir);
+  }
+
+  HttpResponse handle(const HttpRequest& req) {
+    HttpResponse res;
+    try {
+      res = route(req);
+    } catch (const std::exception& e) {
+      res = HttpResponse::error(503, e.what());
+    }
+    addSecurityHeaders(res);
+    compressForRequest(req, res);
     if (options.logRequests)
-      http.set_logger([](const httplib::Request& req, const httplib::Response& res) {
-        std::fprintf(stderr, "%s %s %d\n", req.method.c_str(), req.path.c_str(), res.status);
-      });
-    http.set_error_handler([](const httplib::Request& req, httplib::Response& res) {
-      if (!res.body.empty()) return;
-      if (res.status == 413)
-        sendError(res, 413, "the request is larger than this server takes");
-      else if (res.status == 404 && req.path.starts_with("/api/"))
-        sendError(res, res.status, "no such endpoint: " + req.method + " " + req.path);
-    });
-    http.set_exception_handler(
-        [](const httplib::Request&, httplib::Response& res, std::exception_ptr e) {
-          std::string what = "internal error";
-          try {
-            if (e) std::rethrow_exception(e);
-          } catch (const std::exception& ex) {
-            what = ex.what();
-          }
-          sendError(res, 503, what);
-        });
-    routeApi();
-    mountStatic();
+      std::fprintf(stderr, "%s %s %d\n", req.method.c_str(), req.path.c_str(), res.status);
+    return res;
   }
 
-  void routeApi() {
-    http.Get("/api/view", [this](const httplib::Request& req, httplib::Response& res) {
-      sendJson(res,
-               installation.view(cookieValue(req, kSessionCookie), req.get_header_value("Host")));
-    });
-    http.Post("/api/event", [this](const httplib::Request& req, httplib::Response& res) {
-      if (auto problem = crossOriginProblem(req); !problem.empty())
-        return sendError(res, 403, problem);
-      if (!isJsonContent(req.get_header_value("Content-Type")))
-        return sendError(res, 415, "an event must be sent as application/json");
-      sendJson(res, installation.event(cookieValue(req, kSessionCookie), req.body,
-                                       req.get_header_value("Host")));
-    });
-    http.Get("/manifest.webmanifest", [this](const httplib::Request&, httplib::Response& res) {
-      res.set_content(installation.manifest(), "application/manifest+json");
-    });
-    http.Get(
-        std::string(shell::kPortraitAddress) + "([^/]+)",
-        [this](const httplib::Request& req, httplib::Response& res) { sendPortrait(req, res); });
-    http.Get("/api/events",
-             [this](const httplib::Request&, httplib::Response& res) { streamEvents(res); });
-    if (options.testClock) routeTestClock();
+  HttpResponse route(const HttpRequest& req) {
+    const bool get = req.method == "GET" || req.method == "HEAD";
+    const std::string session = req.cookie(kSessionCookie);
+    const std::string host = req.header("Host");
+    if (get && req.path == "/api/view") return jsonResponse(installation.view(session, host));
+    if (req.method == "POST" && req.path == "/api/event") return takeEvent(req, session, host);
+    if (req.method == "GET" && req.path == "/api/events") return openStream(session);
+    if (get && req.path == "/manifest.webmanifest") {
+      HttpResponse res;
+      res.setContent(installation.manifest(), "application/manifest+json");
+      return res;
+    }
+    if (get && req.path.starts_with(shell::kPortraitAddress))
+      return portrait(session, req.path.substr(std::string_view(shell::kPortraitAddress).size()));
+    if (options.testClock && req.method == "POST" && req.path == "/api/test/clock")
+      return advanceTestClock(req);
+    if (get && !req.path.starts_with("/api/"))
+      if (auto file = files.serve(req.path)) return std::move(*file);
+    return HttpResponse::error(404, "no such endpoint: " + req.method + " " + req.path);
   }
 
-  void routeTestClock() {
-    http.Post("/api/test/clock", [this](const httplib::Request& req, httplib::Response& res) {
-      const auto body = Value::fromJson(req.body);
-      const Value* advance = body && body->asMap() ? body->asMap()->find("advance") : nullptr;
-      if (!advance || advance->doubleValue() < 0)
-        return sendError(res, 400, "the test clock wants {\"advance\": seconds}");
-      options.testClock->advance(
-          std::chrono::milliseconds(static_cast<std::int64_t>(advance->doubleValue() * 1000)));
-      res.set_content(Value(Map()).toJson(), "application/json");
-    });
+  HttpResponse takeEvent(const HttpRequest& req, const std::string& session,
+                         const std::string& host) {
+    if (auto problem = crossOriginProblem(req); !problem.empty())
+      return HttpResponse::error(403, problem);
+    if (!isJsonContent(req.header("Content-Type")))
+      return HttpResponse::error(415, "an event must be sent as application/json");
+    return jsonResponse(installation.event(session, req.body, host));
+  }
+
+  // A stream belongs to a session that the app's first request opened.
+  HttpResponse openStream(const std::string& session) {
+    auto subscriber = installation.openStream(session, [this] { loop.wakeStreams(); });
+    if (!subscriber)
+      return HttpResponse::error(401, "the event stream is only for an open session");
+    HttpResponse res;
+    res.setHeader("Cache-Control", "no-store");
+    res.setContent(kStreamGreeting, "text/event-stream");
+    res.stream = std::move(subscriber);
+    return res;
   }
 
   // Kept by the browser for this page only: the next session must ask again.
-  void sendPortrait(const httplib::Request& req, httplib::Response& res) {
-    const FileReply reply =
-        installation.portrait(cookieValue(req, kSessionCookie), req.matches[1].str());
+  HttpResponse portrait(const std::string& session, const std::string& guid) {
+    const FileReply reply = installation.portrait(session, guid);
     auto bytes = reply.status == 200 ? readWholeFile(reply.file) : std::nullopt;
-    if (!bytes) return sendError(res, reply.status == 200 ? 404 : reply.status, reply.error);
-    res.set_header("Cache-Control", "private, no-store");
-    res.set_content(std::move(*bytes), "image/jpeg");
+    if (!bytes) return HttpResponse::error(reply.status == 200 ? 404 : reply.status, reply.error);
+    HttpResponse res;
+    res.setHeader("Cache-Control", "private, no-store");
+    res.setContent(std::move(*bytes), "image/jpeg");
+    return res;
   }
 
-  void streamEvents(httplib::Response& res) {
-    // Only the stream's own content type is set: the library picks compression by the first
-    // one, and a compressed stream would hold events back.
-    res.set_header("Cache-Control", "no-store");
-    auto subscriber = installation.hub().subscribe();
-    EventHub& hub = installation.hub();
-    res.set_chunked_content_provider(
-        "text/event-stream",
-        [subscriber](std::size_t offset, httplib::DataSink& sink) {
-          if (offset == 0) {
-            const std::string hello = "retry: 2000\n\n";
-            return sink.write(hello.data(), hello.size());
-          }
-          auto message = subscriber->next(kKeepAlivePeriod);
-          if (subscriber->closed()) {
-            sink.done();
-            return true;
-          }
-          const std::string chunk = message ? sseChunk(*message) : ": keep-alive\n\n";
-          return sink.write(chunk.data(), chunk.size());
-        },
-        [&hub, subscriber](bool) { hub.unsubscribe(subscriber); });
-  }
-
-  void mountStatic() {
-    const httplib::Headers noCache{{"Cache-Control", "no-cache"}};
-    if (!options.imagesDir.empty()) http.set_mount_point("/img", options.imagesDir, noCache);
-    if (!options.webDir.empty()) http.set_mount_point("/", options.webDir, noCache);
+  HttpResponse advanceTestClock(const HttpRequest& req) {
+    const auto body = Value::fromJson(req.body);
+    const Value* advance = body && body->asMap() ? body->asMap()->find("advance") : nullptr;
+    if (!advance || advance->doubleValue() < 0)
+      return HttpResponse::error(400, "the test clock wants {\"advance\": seconds}");
+    options.testClock->advance(
+        std::chrono::milliseconds(static_cast<std::int64_t>(advance->doubleValue() * 1000)));
+    HttpResponse res;
+    res.setContent(Value(Map()).toJson(), "application/json");
+    return res;
   }
 };
 
@@ -209,30 +168,20 @@ HttpServer::~HttpServer() {
 
 int HttpServer::bind(std::string* error) {
   const auto& o = impl_->options;
-  int port = o.port;
-  if (port == 0)
-    port = impl_->http.bind_to_any_port(o.host);
-  else if (!impl_->http.bind_to_port(o.host, port))
-    port = -1;
+  std::string why;
+  const int port = impl_->loop.bind(o.host, o.port, &why);
   if (port < 0 && error)
-    *error = "cannot listen on " + o.host + ":" + std::to_string(o.port) + " (" +
-             std::strerror(errno) + ")";
+    *error = "cannot listen on " + o.host + ":" + std::to_string(o.port) + " (" + why + ")";
   return port;
 }
 
 void HttpServer::run() {
-  impl_->running = true;
-  if (!impl_->stopRequested) impl_->http.listen_after_bind();
-  impl_->running = false;
+  impl_->loop.run();
 }
 
 void HttpServer::stop() {
-  impl_->stopRequested = true;
   impl_->installation.hub().close();
-  // run() may be between its check and the start of the accept loop.
-  while (impl_->running && !impl_->http.is_running())
-    std::this_thread::sleep_for(std::chrono::milliseconds(1));
-  impl_->http.stop();
+  impl_->loop.stop();
 }
 
 }  // namespace lad::server

@@ -72,6 +72,7 @@ void Installation::evictOldestSession() {
   auto oldest = sessions_.begin();
   for (auto it = sessions_.begin(); it != sessions_.end(); ++it)
     if (it->second.lastUse < oldest->second.lastUse) oldest = it;
+  hub_.closeSession(oldest->first);
   sessions_.erase(oldest);
 }
 
@@ -97,7 +98,7 @@ Reply Installation::event(const std::string& session, std::string_view body,
       reply.refuse(400, result.error);
       return reply;
     }
-    afterEvent(result);
+    afterEvent(result, reply.session);
     reply.body = viewBody(s);
     return reply;
   });
@@ -123,15 +124,31 @@ std::string Installation::manifest() {
   return loop_.call([&] { return shell::webAppManifest(app_->context()).toJson(); });
 }
 
-void Installation::afterEvent(const shell::EventResult& result) {
-  if (result.installationChanged) hub_.publish(kRefresh);
+std::shared_ptr<Subscriber> Installation::openStream(const std::string& session,
+                                                     std::function<void()> wake) {
+  return loop_.call([&]() -> std::shared_ptr<Subscriber> {
+    if (!sessions_.contains(session)) return nullptr;
+    return hub_.subscribe(session, std::move(wake));
+  });
+}
+
+void Installation::afterEvent(const shell::EventResult& result, const std::string& origin) {
+  if (result.installationChanged) refresh(origin);
   if (result.redrawAfter.count() > 0)
-    loop_.addTimer(result.redrawAfter, [this] { hub_.publish(kRefresh); });
+    loop_.addTimer(result.redrawAfter, [this, origin] { refresh(origin); });
   if (result.timer)
-    loop_.addTimer(result.timerDelay, [this, timer = result.timer] {
-      afterEvent(timer());
-      hub_.publish(kRefresh);
+    loop_.addTimer(result.timerDelay, [this, origin, timer = result.timer] {
+      afterEvent(timer(), origin);
+      refresh(origin);
     });
+}
+
+void Installation::refresh(const std::string& origin) {
+  hub_.publish(kRefresh, [&](const std::string& session) {
+    if (session == origin) return true;
+    const auto it = sessions_.find(session);
+    return it != sessions_.end() && !it->second.session->locked();
+  });
 }
 
 }  // namespace lad::server

@@ -3,6 +3,7 @@
 #pragma once
 
 #include <filesystem>
+#include <functional>
 #include <memory>
 #include <string>
 #include <string_view>
@@ -50,6 +51,8 @@ class Installation {
   // The edition's web app manifest (JSON).
   std::string manifest();
 
+  // A new event stream of a session this installation knows; nullptr for any other.
+  std::shared_ptr<Subscriber> openStream(const std::string& session, std::function<void()> wake);
   EventHub& hub() { return hub_; }
   // Ends every event stream, runs what is queued, and writes the settings. Idempotent.
   void shutdown();
@@ -68,7 +71,10 @@ class Installation {
   // Main loop only.
   shell::Session& sessionFor(const std::string& id, const std::string& host, Reply& reply);
   void evictOldestSession();
-  void afterEvent(const shell::EventResult& result);
+  void afterEvent(const shell::EventResult& result, const std::string& origin);
+  // Redraws every unlocked browser, and the one whose event or timer asked for it: a locked
+  // browser hears of nothing but its own lock.
+  void refresh(const std::string& origin);
 
   MainLoop loop_;
   EventHub hub_;

@@ -2,44 +2,75 @@
 
 #include <gtest/gtest.h>
 
-#include <chrono>
-#include <future>
+#include <atomic>
 #include <string>
-#include <thread>
 #include <vector>
 
 namespace lad::server {
 namespace {
 
-using namespace std::chrono_literals;
+std::vector<std::string> dataOf(const std::vector<PushMessage>& messages) {
+  std::vector<std::string> data;
+  for (const auto& m : messages) data.push_back(m.data);
+  return data;
+}
 
 TEST(EventHubTest, PublishesToEveryOpenStreamUntilItLeaves) {
   EventHub hub;
-  auto a = hub.subscribe();
-  auto b = hub.subscribe();
-  EXPECT_FALSE(a->next(0ms));
+  std::atomic<int> wakes = 0;
+  auto a = hub.subscribe("A", [&] { ++wakes; });
+  auto b = hub.subscribe("B", [&] { ++wakes; });
+  EXPECT_TRUE(a->take().empty());
 
   hub.publish({"notice", "{\"n\":1}"});
+  EXPECT_EQ(wakes, 2);
   for (const auto& s : {a, b}) {
-    auto m = s->next(0ms);
-    ASSERT_TRUE(m);
-    EXPECT_EQ(m->event, "notice");
-    EXPECT_EQ(m->data, "{\"n\":1}");
-    EXPECT_FALSE(s->next(0ms));  // each message once
+    auto got = s->take();
+    ASSERT_EQ(got.size(), 1u);
+    EXPECT_EQ(got[0].event, "notice");
+    EXPECT_EQ(got[0].data, "{\"n\":1}");
+    EXPECT_TRUE(s->take().empty());  // each message once
   }
 
   hub.unsubscribe(b);
   hub.publish({"refresh", "{}"});
-  EXPECT_TRUE(a->next(0ms));
-  EXPECT_FALSE(b->next(0ms));
+  EXPECT_EQ(a->take().size(), 1u);
+  EXPECT_TRUE(b->take().empty());
+}
+
+TEST(EventHubTest, AudienceChoosesTheSessions) {
+  EventHub hub;
+  auto a = hub.subscribe("A", {});
+  auto b = hub.subscribe("B", {});
+  hub.publish({"refresh", "1"}, [](const std::string& s) { return s == "B"; });
+  hub.publish({"refresh", "2"});
+  EXPECT_EQ(dataOf(a->take()), std::vector<std::string>{"2"});
+  EXPECT_EQ(dataOf(b->take()), (std::vector<std::string>{"1", "2"}));
+}
+
+TEST(EventHubTest, SessionKeepsItsNewestStreams) {
+  EventHub hub;
+  std::vector<std::shared_ptr<Subscriber>> streams;
+  for (std::size_t i = 0; i <= EventHub::kStreamsPerSession; ++i)
+    streams.push_back(hub.subscribe("A", {}));
+  auto other = hub.subscribe("B", {});
+  EXPECT_TRUE(streams[0]->closed());
+  for (std::size_t i = 1; i < streams.size(); ++i) EXPECT_FALSE(streams[i]->closed());
+  EXPECT_FALSE(other->closed());
+  hub.publish({"refresh", "{}"});
+  EXPECT_TRUE(streams[0]->take().empty());
+  EXPECT_EQ(streams[1]->take().size(), 1u);
+
+  hub.closeSession("A");
+  for (const auto& s : streams) EXPECT_TRUE(s->closed());
+  EXPECT_FALSE(other->closed());
 }
 
 TEST(EventHubTest, SlowReaderKeepsOnlyTheNewestMessages) {
   EventHub hub;
-  auto s = hub.subscribe();
+  auto s = hub.subscribe("A", {});
   for (int i = 0; i < 100; ++i) hub.publish({"notice", std::to_string(i)});
-  std::vector<std::string> got;
-  while (auto m = s->next(0ms)) got.push_back(m->data);
+  const std::vector<std::string> got = dataOf(s->take());
   ASSERT_FALSE(got.empty());
   EXPECT_LT(got.size(), 100u);
   // What is kept is the most recent run of messages, in order.
@@ -47,25 +78,18 @@ TEST(EventHubTest, SlowReaderKeepsOnlyTheNewestMessages) {
     EXPECT_EQ(got[i], std::to_string(100 - got.size() + i));
 }
 
-TEST(EventHubTest, CloseEndsWaitingAndLaterStreams) {
+TEST(EventHubTest, CloseEndsOpenAndLaterStreams) {
   EventHub hub;
-  auto s = hub.subscribe();
-  std::promise<void> started;
-  auto waiting = std::async(std::launch::async, [&] {
-    started.set_value();
-    return s->next(30s);  // returns early only if close() wakes it
-  });
-  started.get_future().wait();
-  std::this_thread::sleep_for(50ms);  // lets the reader reach its wait
+  std::atomic<int> wakes = 0;
+  auto s = hub.subscribe("A", [&] { ++wakes; });
   hub.close();
-  ASSERT_EQ(waiting.wait_for(15s), std::future_status::ready);
-  EXPECT_FALSE(waiting.get());
   EXPECT_TRUE(s->closed());
+  EXPECT_EQ(wakes, 1);  // the writer learns of it at once
 
-  auto late = hub.subscribe();
+  auto late = hub.subscribe("A", {});
   EXPECT_TRUE(late->closed());
   hub.publish({"refresh", "{}"});
-  EXPECT_FALSE(late->next(0ms));
+  EXPECT_TRUE(late->take().empty());
 }
 
 }  // namespace

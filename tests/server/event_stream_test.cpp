@@ -26,7 +26,7 @@ class EventStreamTest : public ServerTest {
 };
 
 TEST_F(EventStreamTest, StreamIsServedAsAnEventStream) {
-  StreamReader stream(port_);
+  StreamReader stream(port_, openSession());
   // The greeting comes first, and only once the stream is subscribed.
   ASSERT_TRUE(stream.waitFor("retry:"));
   EXPECT_TRUE(stream.text().starts_with("retry: ")) << stream.text();
@@ -38,8 +38,8 @@ TEST_F(EventStreamTest, StreamIsServedAsAnEventStream) {
 
 TEST_F(EventStreamTest, ChangeInOneSessionRefreshesTheStreams) {
   const std::string tapper = openSession();
-  StreamReader streamA(port_);
-  StreamReader streamB(port_);
+  StreamReader streamA(port_, openSession());
+  StreamReader streamB(port_, openSession());
   ASSERT_TRUE(streamA.waitFor("retry:"));
   ASSERT_TRUE(streamB.waitFor("retry:"));
 
@@ -61,8 +61,8 @@ TEST_F(EventStreamTest, ChangeInOneSessionRefreshesTheStreams) {
 
 TEST_F(EventStreamTest, DelayedRedrawReachesEveryStreamIncludingTheTappers) {
   const std::string b = openSession();
-  StreamReader streamA(port_);
-  StreamReader streamB(port_);  // the tapper's own
+  StreamReader streamA(port_, openSession());
+  StreamReader streamB(port_, b);  // the tapper's own
   ASSERT_TRUE(streamA.waitFor("retry:"));
   ASSERT_TRUE(streamB.waitFor("retry:"));
 
@@ -81,7 +81,7 @@ TEST_F(EventStreamTest, DelayedRedrawReachesEveryStreamIncludingTheTappers) {
 }
 
 TEST_F(EventStreamTest, StopEndsOpenStreamsAndRun) {
-  StreamReader stream(port_);
+  StreamReader stream(port_, openSession());
   ASSERT_TRUE(stream.waitFor("retry:"));
 
   EXPECT_TRUE(stopServer()) << "run() did not return after stop()";

@@ -94,13 +94,14 @@ inline std::unique_ptr<httplib::Client> newClient(int port) {
   return client;
 }
 
-// GET /api/events on its own thread, collecting the stream's text until stopped or ended.
+// GET /api/events of a session on its own thread, collecting the stream's text until stopped
+// or ended.
 class StreamReader {
  public:
-  explicit StreamReader(int port) : client_(newClient(port)) {
-    thread_ = std::thread([this] {
+  StreamReader(int port, const std::string& session) : client_(newClient(port)) {
+    thread_ = std::thread([this, headers = sessionHeaders(session)] {
       client_->Get(
-          "/api/events",
+          "/api/events", headers,
           [this](const httplib::Response& res) {
             std::lock_guard lock(mutex_);
             status_ = res.status;

@@ -26,8 +26,11 @@ function open(handlers: PushHandlers, broken: boolean): void {
   });
   source.addEventListener('error', () => {
     broken = true;
-    // The browser reconnects by itself unless the server answered with an error.
+    // The browser reconnects by itself unless the server answered with an error. The stream
+    // is refused to a session the server no longer knows (it restarted): a view request
+    // brings a new session before the next try.
     if (source.readyState === EventSource.CLOSED) {
+      handlers.refresh();
       setTimeout(() => open(handlers, true), REOPEN_DELAY_MS);
     }
   });

@@ -1,0 +1,122 @@
+// Who may hold an event stream, how many, and what a locked browser hears on it.
+#include <gtest/gtest.h>
+
+#include <memory>
+#include <string>
+#include <vector>
+
+#include "server_fixture.h"
+#include "shell/password_hash.h"
+#include "tests/support/loopback_client.h"
+
+namespace lad::server::test {
+namespace {
+
+using lad::testing::LoopbackClient;
+
+constexpr char kRefresh[] = "event: refresh\ndata: {}\n\n";
+constexpr char kMarker[] = "event: notice\ndata: {\"marker\":1}\n\n";
+
+std::string streamRequest(const std::string& cookie) {
+  std::string request = "GET /api/events HTTP/1.1\r\nHost: 127.0.0.1\r\n";
+  if (!cookie.empty()) request += "Cookie: lsid=" + cookie + "\r\n";
+  return request + "\r\n";
+}
+
+class StreamAccessTest : public ServerTest {
+ protected:
+  void pushMarker() { installation_->hub().publish({"notice", "{\"marker\":1}"}); }
+  httplib::Result tap(const std::string& session, const std::string& target) {
+    return postEvent(R"({"type":"tap","target":")" + target + "\"}", session);
+  }
+};
+
+TEST_F(StreamAccessTest, OnlyAKnownSessionGetsAStream) {
+  for (const std::string cookie : {"", "no-such-session"}) {
+    LoopbackClient raw(port_);
+    auto res = raw.exchange(streamRequest(cookie));
+    ASSERT_TRUE(res) << "no answer to a stream without a valid session: " << cookie;
+    EXPECT_EQ(res->status, 401) << res->head;
+    EXPECT_EQ(res->header("Content-Type"), "application/json");
+    EXPECT_NE(res->body.find("\"error\""), std::string::npos) << res->body;
+  }
+  StreamReader stream(port_, openSession());
+  EXPECT_TRUE(stream.waitFor("retry:"));
+  EXPECT_EQ(stream.status(), 200);
+}
+
+TEST_F(StreamAccessTest, LockedSessionHearsOnlyItsOwnLock) {
+  const std::string open = openSession();  // opened before the lock: stays open until activated
+  installation_->withContext([](Context& c) {
+    c.settings().set("pass", true);
+    c.settings().set("password", *shell::hashPassword("2468"));
+  });
+  const std::string locked = openSession();
+  StreamReader openStream(port_, open);
+  StreamReader lockedStream(port_, locked);
+  ASSERT_TRUE(openStream.waitFor("retry:"));
+  ASSERT_TRUE(lockedStream.waitFor("retry:"));
+
+  // A change of the open session's redraws the open browser only.
+  ASSERT_EQ(tap(open, "menu:51")->status, 200);
+  ASSERT_TRUE(openStream.waitFor(kRefresh));
+  // The third wrong code makes the pad wait a second, and the pad comes back with a redraw.
+  for (int i = 0; i < 12; ++i) ASSERT_EQ(tap(locked, "lock:1")->status, 200);
+  ASSERT_TRUE(lockedStream.waitFor(kRefresh)) << lockedStream.text();
+  ASSERT_TRUE(openStream.waitFor(kRefresh, 2)) << openStream.text();
+
+  pushMarker();
+  ASSERT_TRUE(lockedStream.waitFor(kMarker));
+  const std::string heard = lockedStream.text();
+  EXPECT_EQ(countOf(heard.substr(0, heard.find(kMarker)), kRefresh), 1u) << heard;
+}
+
+TEST_F(StreamAccessTest, SessionKeepsItsNewestThreeStreams) {
+  const std::string session = openSession();
+  std::vector<std::unique_ptr<StreamReader>> streams;
+  for (int i = 0; i < 4; ++i) {
+    streams.push_back(std::make_unique<StreamReader>(port_, session));
+    ASSERT_TRUE(streams.back()->waitFor("retry:"));
+  }
+  EXPECT_TRUE(streams[0]->waitForEnd()) << "the oldest stream stayed open";
+
+  ASSERT_EQ(tap(session, "menu:51")->status, 200);
+  for (int i = 1; i < 4; ++i) EXPECT_TRUE(streams[i]->waitFor(kRefresh)) << "stream " << i;
+  // Another session's streams are not counted against this one.
+  StreamReader other(port_, openSession());
+  EXPECT_TRUE(other.waitFor("retry:"));
+  for (int i = 1; i < 4; ++i) EXPECT_EQ(streams[i]->status(), 200);
+}
+
+TEST_F(StreamAccessTest, ManyOpenStreamsLeaveTapsAnswered) {
+  constexpr int kStreams = 200;
+  constexpr int kStrangers = 30;  // streams asked for without a session
+  constexpr auto kPatience = std::chrono::seconds(2);
+  std::vector<std::string> sessions;
+  for (int i = 0; i < kStreams / 3 + 1; ++i) sessions.push_back(openSession());
+
+  std::vector<std::unique_ptr<LoopbackClient>> streams;
+  for (int i = 0; i < kStreams + kStrangers; ++i) {
+    streams.push_back(std::make_unique<LoopbackClient>(port_, kPatience));
+    ASSERT_TRUE(streams.back()->connected());
+    ASSERT_TRUE(streams.back()->send(streamRequest(i < kStreams ? sessions[i / 3] : "")));
+  }
+  // The last of each kind has been answered as it should.
+  EXPECT_NE(streams[kStreams - 1]->receiveOnce().find("retry:"), std::string::npos);
+  auto refused = streams.back()->receiveResponse();
+  ASSERT_TRUE(refused) << "a stream without a session was not answered";
+  EXPECT_EQ(refused->status, 401);
+
+  auto c = client();
+  c->set_read_timeout(kPatience);
+  auto view = c->Get("/api/view", sessionHeaders(sessions[0]));
+  ASSERT_TRUE(view) << "the view was not answered with " << kStreams << " streams open";
+  EXPECT_EQ(view->status, 200);
+  auto tapped = c->Post("/api/event", sessionHeaders(sessions[0]),
+                        R"({"type":"tap","target":"menu:51"})", "application/json");
+  ASSERT_TRUE(tapped) << "the tap was not answered with " << kStreams << " streams open";
+  EXPECT_EQ(tapped->status, 200);
+}
+
+}  // namespace
+}  // namespace lad::server::test
