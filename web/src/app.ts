@@ -8,6 +8,7 @@ import { followDrags, followTilt } from './gestures.js';
 import { editorValueOf, holdsUnsentValue, markSent } from './editor.js';
 import { popupValueOf } from './popup.js';
 import { show } from './screen.js';
+import { registerWorker } from './update.js';
 import type { ClientEvent, Screen } from './view.js';
 import { onViewportChange, viewportEvent } from './viewport.js';
 
@@ -160,5 +161,5 @@ followTilt(
   () => tiltOn && pendingTaps === 0,
   (x, upsideDown) => void send({ type: 'tilt', x, upsideDown }),
 );
-if ('serviceWorker' in navigator) void navigator.serviceWorker.register('/sw.js');
+registerWorker();
 void sync();

@@ -1,8 +1,10 @@
 // Service worker: keeps the app's static files so it starts without the network.
 // Static files come from the cache first; /api/ always goes to the network, and so do the
 // user's documents under /doc/, which are never kept: the lock decides who sees them.
+// Each build has a cache of its own, filled when its worker installs; the worker of a new
+// build drops the caches of the old ones once it takes over.
 
-// Written in front of this script by build.mjs: a digest of the built files and their paths.
+// Filled in by the web build (web/tools/scripts.mjs): a digest of the built files and their paths.
 declare const BUILD: { readonly version: string; readonly assets: readonly string[] };
 
 const worker = self as unknown as ServiceWorkerGlobalScope;
@@ -29,8 +31,9 @@ worker.addEventListener('fetch', (event) => {
 
 async function precache(): Promise<void> {
   const cache = await caches.open(CACHE);
-  // One file failing to load must not keep the others out of the cache.
-  await Promise.allSettled(BUILD.assets.map((path) => cache.add(path)));
+  // One file failing to load must not keep the others out of the cache. The files are fetched
+  // past the browser's HTTP cache, which may still hold an older build's.
+  await Promise.allSettled(BUILD.assets.map((path) => cache.add(new Request(path, { cache: 'reload' }))));
 }
 
 async function dropOldCaches(): Promise<void> {

@@ -1,0 +1,102 @@
+// Browser test of the first load on a phone: what the page downloads, and its Lighthouse audit
+// (mobile, simulated slow 4G). Checks what the load's size rests on (one script, the fonts as
+// WOFF2, the worker keeping the shell); scores and bytes are recorded in OUT/audit.json and on
+// stdout, never judged.
+//   node tests/e2e/audit.test.mjs --server PATH_TO_SERVER --out OUT_DIR
+import assert from 'node:assert/strict';
+import fs from 'node:fs';
+import path from 'node:path';
+import { gzipSync } from 'node:zlib';
+import lighthouse from 'lighthouse';
+import { withDevtoolsChromium } from './devtools.mjs';
+import { PHONE, runBrowserTest } from './harness.mjs';
+
+const WOFF2_SIGNATURE = 'wOF2';
+const CATEGORIES = ['performance', 'accessibility'];
+const METRICS = ['largest-contentful-paint', 'first-contentful-paint', 'total-blocking-time', 'cumulative-layout-shift', 'total-byte-weight'];
+
+/** The page's downloads on a first visit, once its view and fonts are up, raw and gzipped (what
+ *  went over the wire is Lighthouse's to say: the service worker serves some of them). The push
+ *  channel's stream never ends, so it has no body to weigh. */
+async function firstVisit(browser, base) {
+  const context = await browser.newContext(PHONE);
+  const page = await context.newPage();
+  const responses = [];
+  page.on('response', (response) => responses.push(response));
+  await page.goto(`${base}/`);
+  await page.waitForSelector('.welcome, .row[data-id]');
+  await page.evaluate(() => document.fonts.ready);
+  const loads = [];
+  for (const response of responses.filter((r) => !r.headers()['content-type']?.startsWith('text/event-stream'))) {
+    const body = await response.body();
+    loads.push({
+      path: new URL(response.url()).pathname,
+      type: response.request().resourceType(),
+      contentType: response.headers()['content-type'] ?? '',
+      signature: body.subarray(0, 4).toString('latin1'),
+      raw: body.length,
+      gzipped: gzipSync(body).length,
+    });
+  }
+  const precached = await page.evaluate(async () => {
+    await navigator.serviceWorker.ready;
+    const cache = await caches.open((await caches.keys())[0]);
+    return (await cache.keys()).map((request) => new URL(request.url).pathname);
+  });
+  await context.close();
+  return { loads, precached };
+}
+
+function checkLoads({ loads, precached }) {
+  const scripts = loads.filter((load) => load.type === 'script');
+  assert.deepEqual(scripts.map((s) => s.path), ['/app.js'], 'the page loads one script');
+  const fonts = loads.filter((load) => load.type === 'font');
+  assert.ok(fonts.length > 0, 'the page loads its font');
+  for (const font of fonts) {
+    assert.match(font.path, /\.woff2$/, 'font file name');
+    assert.equal(font.contentType, 'font/woff2', `${font.path}: content type`);
+    assert.equal(font.signature, WOFF2_SIGNATURE, `${font.path}: a WOFF2 file`);
+  }
+  for (const shell of ['/', '/app.js', '/style.css', ...fonts.map((f) => f.path)]) {
+    assert.ok(precached.includes(shell), `the service worker keeps ${shell} (it keeps ${precached.join(', ')})`);
+  }
+}
+
+/** Lighthouse's mobile audit of the start page, in a browser of its own; its whole report is
+ *  kept as OUT/lighthouse.json. */
+async function audit(base, outDir) {
+  const result = await withDevtoolsChromium((port) =>
+    lighthouse(`${base}/`, { port, output: 'json', logLevel: 'error', onlyCategories: CATEGORIES }),
+  );
+  fs.writeFileSync(path.join(outDir, 'lighthouse.json'), result.report);
+  const { lhr } = result;
+  assert.equal(lhr.runtimeError, undefined, `Lighthouse could not audit the page: ${lhr.runtimeError?.message}`);
+  const failing = Object.values(lhr.audits).filter(
+    (a) => a.score !== null && a.score < 1 && lhr.categories.accessibility.auditRefs.some((ref) => ref.id === a.id),
+  );
+  return {
+    scores: Object.fromEntries(CATEGORIES.map((c) => [c, lhr.categories[c].score])),
+    metrics: Object.fromEntries(METRICS.map((m) => [m, lhr.audits[m].numericValue])),
+    accessibilityFailures: failing.map((a) => ({
+      id: a.id,
+      title: a.title,
+      items: (a.details?.items ?? []).map((item) => ({ node: item.node?.snippet, why: item.node?.explanation })),
+    })),
+  };
+}
+
+const sum = (loads, key) => loads.reduce((total, load) => total + load[key], 0);
+
+// Lighthouse comes first: the installation's first page is the greeting a new user sees.
+runBrowserTest('audit', async ({ browser, base, outDir }) => {
+  const lighthouseReport = await audit(base, outDir);
+  const visit = await firstVisit(browser, base);
+  checkLoads(visit);
+  const firstLoad = { raw: sum(visit.loads, 'raw'), gzipped: sum(visit.loads, 'gzipped') };
+  const report = { firstLoad, files: visit.loads, precached: visit.precached, lighthouse: lighthouseReport };
+  fs.writeFileSync(path.join(outDir, 'audit.json'), `${JSON.stringify(report, null, 2)}\n`);
+  const { scores, metrics } = report.lighthouse;
+  console.log(`first load: ${firstLoad.raw} bytes raw, ${firstLoad.gzipped} gzipped`);
+  console.log(`lighthouse: ${CATEGORIES.map((c) => `${c} ${scores[c]}`).join(', ')}; LCP ${Math.round(metrics['largest-contentful-paint'])} ms, ${metrics['total-byte-weight']} bytes transferred`);
+  for (const failure of report.lighthouse.accessibilityFailures) console.log(`accessibility: ${failure.title}: ${JSON.stringify(failure.items)}`);
+});
