@@ -6,7 +6,7 @@
 #include <vector>
 
 #include "server_fixture.h"
-#include "shell/password_hash.h"
+#include "shell/lock/password_hash.h"
 #include "tests/support/loopback_client.h"
 
 namespace lad::server::test {
