@@ -132,12 +132,24 @@ async function checkCounter(browser, base, outDir) {
   await row.locator('button.delete').click();
   await page.waitForFunction(() => document.querySelectorAll('.ring-page .list .row').length === 3);
   await waitForText(page, '[data-info="trend"]', TOO_FEW);
+  assert.deepEqual(errors, [], 'no uncaught errors in the page');
+  await context.close();
+}
+
+/** A second phone times a contraction across its locked screen. */
+async function checkLockedScreen(browser, base) {
+  const { context, page, errors } = await openPastGreeting(browser, base);
+  await page.goto(`${base}/?shortcut=SCHVATKI`);
+  await page.waitForSelector(START);
   await timeAcrossTheLock(page);
   assert.deepEqual(errors, [], 'no uncaught errors in the page');
   await context.close();
 }
 
-await runBrowserTest('contractions', ({ browser, base, outDir }) => checkCounter(browser, base, outDir), {
+await runBrowserTest('contractions', async ({ browser, base, outDir }) => {
+  await checkCounter(browser, base, outDir);
+  await checkLockedScreen(browser, base);
+}, {
   extraArgs: ['--fake-clock'],
   env: { ...process.env, LADANEYA_TEST_MODE: '1' },
 });
