@@ -61,8 +61,6 @@ void launch(Context& context) {
                              [&](std::string_view s) { return context.translate(s); });
   v.versionTag = context.version();
   std::replace(v.versionTag.begin(), v.versionTag.end(), '.', '-');
-  v.homePage = homePageOf(v.tabMenu);
-  v.markAllPagesDirty();
   settings.synchronize();
 }
 

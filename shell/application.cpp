@@ -48,8 +48,6 @@ Activation Application::becomeActive() {
   if (count % kReviewEvery == 0 && askReview_) askReview_();
   ProcessValues& values = context_->values();
   values.pushArrived = true;
-  values.markAllPagesDirty();
-  values.menuNeedsUpdate = true;
   return {lockDue()};
 }
 

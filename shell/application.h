@@ -41,8 +41,9 @@ class Application {
   // version, once, and afterwards nothing.
   std::optional<Greeting> takeVersionRecord();
 
-  // A browser became visible: counts the activation (asking for a review at every tenth),
-  // marks every page for rebuilding, and tells whether the lock is due.
+  // A browser became visible: counts the activation (asking for a review at every tenth) and
+  // tells whether the lock is due. Pages load again whenever they come up; the page in front
+  // stays as it was, and so does what the user is in the middle of.
   Activation becomeActive();
   // A browser was hidden: the moment is kept for the lock's grace time.
   void resignActive();

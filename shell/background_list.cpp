@@ -24,8 +24,6 @@ void changeBackground(Context& context, int backgroundId) {
   ProcessValues& values = context.values();
   values.backgroundId = backgroundId;
   correctBackground(values, backgroundId);
-  values.menuNeedsUpdate = true;
-  values.markAllPagesDirty();
 }
 
 Value BackgroundList::view() {

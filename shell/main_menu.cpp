@@ -22,23 +22,20 @@ struct SwitchSetting {
   bool ProcessValues::*shared;
   bool inverted;
   bool built;                             // its effect exists in this build
-  int dirtyPage;                          // page that rebuilds after a change, or kNoPage
   std::chrono::milliseconds redrawAfter;  // a later redraw of every browser, or zero
 };
 
 namespace {
 
 constexpr std::string_view kTargetPrefix = "menu:";
-constexpr int kNoPage = -1;
-constexpr int kDiaryPage = 8;
 
 const SwitchSetting kSwitches[] = {
-    {51, "emptyNote", nullptr, false, true, kDiaryPage, 0ms},
-    {52, "pass", nullptr, false, false, kNoPage, 0ms},
-    {53, "accStop", &ProcessValues::accStop, true, true, kNoPage, 0ms},
-    {54, "pillsAlarm", &ProcessValues::pillsAlarm, false, false, kNoPage, 0ms},
-    {55, "chatIndi", &ProcessValues::chatIndi, false, true, kNoPage, 1s},
-    {56, "showRec", &ProcessValues::showRec, false, true, kNoPage, 0ms},
+    {51, "emptyNote", nullptr, false, true, 0ms},
+    {52, "pass", nullptr, false, false, 0ms},
+    {53, "accStop", &ProcessValues::accStop, true, true, 0ms},
+    {54, "pillsAlarm", &ProcessValues::pillsAlarm, false, false, 0ms},
+    {55, "chatIndi", &ProcessValues::chatIndi, false, true, 1s},
+    {56, "showRec", &ProcessValues::showRec, false, true, 0ms},
 };
 
 const SwitchSetting* switchFor(int id) {
@@ -166,7 +163,6 @@ EventResult MainMenu::toggleSwitch(const SwitchSetting& s) {
   if (s.shared) context_.values().*s.shared = stored;
   context_.settings().set(s.key, stored);
   context_.settings().synchronize();
-  if (s.dirtyPage != kNoPage) context_.values().pageDirty[s.dirtyPage] = 1;
   EventResult result;
   result.installationChanged = true;
   result.redrawAfter = s.redrawAfter;

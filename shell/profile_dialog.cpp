@@ -148,7 +148,6 @@ std::string ProfileDialog::finish(std::string* photoError) {
   const std::string gid = code_ == kNewProfile ? newID() : gid_.value_or("");
   Store& store = app_.store();
   saveSetupData(store, kSetupFromEditor, setupArrayToDic(store, rows_, gid, photoError), gid);
-  app_.context().values().menuNeedsUpdate = true;
   return gid;
 }
 

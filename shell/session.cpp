@@ -31,8 +31,6 @@ bool isShortcut(const std::string& name) {
 }
 
 constexpr std::string_view kToMenu = "ring:menu";
-// Pages that depend on the profile rebuild when another profile opens them.
-constexpr int kFirstProfilePage = 16, kLastProfilePage = 18;
 
 // A command whose whole effect is a screen shown over the present one.
 std::function<EventResult()> showing(std::function<void()> show) {
@@ -214,11 +212,6 @@ Value Session::ringView() {
 EventResult Session::openTab(int page) {
   auto screen = makePage(page, app_, menu_.activeId(), metrics_.scaleX);
   if (!screen || !ring_.open(page)) return EventResult::refused("no page " + std::to_string(page));
-  if (pageProfile_ != menu_.activeId()) {
-    auto& dirty = app_.context().values().pageDirty;
-    for (int i = kFirstProfilePage; i <= kLastProfilePage; ++i) dirty[i] = 1;
-    pageProfile_ = menu_.activeId();
-  }
   page_ = std::move(screen);
   // The page behind is prepared once, as the front one comes; it is rebuilt when it comes next.
   const auto back = ring_.back();
@@ -365,7 +358,7 @@ EventResult Session::becomeVisible() {
 }
 
 bool Session::atRoot() const {
-  return !lock_ && stack_.empty() && !message_ && !popup_ && app_.context().values().modalOpen == 0;
+  return !lock_ && stack_.empty() && !message_ && !popup_;
 }
 
 // Both shortcuts act on the active pregnancy. The contractions page opens when this build has

@@ -99,7 +99,6 @@ class Session : public ScreenHost {
   PageRing ring_;
   std::shared_ptr<Screen> page_;    // the screen of the front page
   std::shared_ptr<Screen> next_;    // the page waiting behind it, when it is another one
-  std::string pageProfile_;         // the profile the pages were last opened for
   std::uint64_t pagesVersion_ = 0;  // the installation's data version they were built at
   TiltNavigator tilt_;
   std::vector<std::shared_ptr<Screen>> stack_;  // screens over the menu and pages, top last

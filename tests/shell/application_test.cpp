@@ -40,17 +40,15 @@ TEST_F(ApplicationTest, TheChildDiaryGreetsAnUpdateOnceItsFileExists) {
   EXPECT_EQ(app->takeVersionRecord(), Greeting::Update);
 }
 
-TEST_F(ApplicationTest, EveryTenthActivationAsksForAReviewAndAllPagesRebuild) {
+TEST_F(ApplicationTest, EveryTenthActivationAsksForAReview) {
   launchApp();
   int asked = 0;
   app->onReviewRequest([&] { ++asked; });
   for (int i = 0; i < 9; ++i) app->becomeActive();
   EXPECT_EQ(asked, 0);
-  app->context().values().pageDirty.fill(0);
   app->becomeActive();
   EXPECT_EQ(asked, 1);
   EXPECT_EQ(settings().integerForKey("becomeActive"), 10);
-  EXPECT_TRUE(app->context().values().pageDirty[8]);
   for (int i = 0; i < 10; ++i) app->becomeActive();
   EXPECT_EQ(asked, 2);
 }

@@ -14,7 +14,6 @@ class MainMenuTest : public testing::ApplicationTest {
   MainMenuTest() {
     launchApp();
     context = &app->context();
-    context->values().pageDirty.fill(0);
   }
 
   // The rows of the view's last list: the common items.
@@ -103,7 +102,6 @@ TEST_F(MainMenuTest, SwitchesStoreTheirSettingAndSharedValue) {
   EXPECT_TRUE(r.installationChanged);
   EXPECT_EQ(r.redrawAfter, 0ms);
   EXPECT_TRUE(reread().boolForKey("emptyNote"));
-  EXPECT_EQ(context->values().pageDirty[8], 1);  // the diary page rebuilds
   EXPECT_TRUE(checkedInView("menu:51"));
 
   // The tilt switch shows the opposite of the stored accStop.

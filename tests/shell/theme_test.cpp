@@ -44,12 +44,9 @@ TEST_F(ThemeTest, ChoosingABackgroundStoresItRedrawsEverythingAndOutlivesALaunch
     EXPECT_FALSE(tap(list, bad).ok()) << bad;
   EXPECT_FALSE(list.closed());
 
-  values().pageDirty.fill(0);
   EXPECT_TRUE(tap(list, backgroundTarget(8)).installationChanged);
   EXPECT_TRUE(list.closed());
   EXPECT_EQ(settings().integerForKey("backgroundId"), 8);
-  EXPECT_EQ(values().pageDirty[0], 1);
-  EXPECT_EQ(values().pageDirty[kPageDirtyCount - 1], 1);
   EXPECT_TRUE(values().themeDarkIcons);
 
   launchApp();

@@ -2,7 +2,7 @@
 // its field's new value; app.ts reads it through editorValueOf. Rows that open a picker or a
 // chooser on the server are plain tap targets.
 import { element } from './dom.js';
-import { renderIcon } from './render.js';
+import { renderIcon } from './pictures.js';
 import { RowKind, type EditorNode, type EditorRow } from './view.js';
 
 /** An input the user types in. */

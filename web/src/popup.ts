@@ -2,7 +2,7 @@
 // A popup's confirming button carries what was typed or picked; app.ts reads it through
 // popupValueOf when it sends the tap.
 import { element } from './dom.js';
-import { renderIcon } from './render.js';
+import { renderIcon } from './pictures.js';
 import type { PopupButton, PopupNode, PickerNode, QuestionNode, WheelNode } from './view.js';
 
 const values = new WeakMap<HTMLElement, () => unknown>();

@@ -1,5 +1,6 @@
 // Turns a view description into DOM. All text shown comes from the description itself.
 import { element } from './dom.js';
+import { renderIcon, renderPicture } from './pictures.js';
 import { renderEditor } from './editor.js';
 import { renderRing } from './ring.js';
 import type {
@@ -121,21 +122,6 @@ function renderCard(node: CardNode): HTMLElement {
     card.tabIndex = 0;
   }
   return card;
-}
-
-/** One of the program's pictures, by name. */
-export function renderIcon(name: string, className: string): HTMLElement {
-  return renderPicture(`/img/${encodeURIComponent(name)}`, className);
-}
-
-/** A picture at an address of this server. */
-function renderPicture(address: string, className: string): HTMLElement {
-  const img = element('img', className);
-  img.alt = '';
-  // A missing picture leaves its slot empty so the rows stay aligned.
-  img.addEventListener('error', () => img.classList.add('broken'), { once: true });
-  img.src = address;
-  return img;
 }
 
 function renderSwitch(checked: boolean, label: string): HTMLElement {
