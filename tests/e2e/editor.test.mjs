@@ -211,7 +211,7 @@ async function pickDateOnTheWheel(browser, base, outDir, device, name) {
 await runBrowserTest('editor', async ({ browser, base, outDir }) => {
   await pickDateOnTheWheel(browser, base, outDir, PHONE, 'phone');
   await pickDateOnTheWheel(browser, base, outDir, TABLET, 'tablet');
-  const { context, page, errors } = await openPastGreeting(browser, base);
+  const { context, page, errors } = await openPastGreeting(browser, base, { serviceWorkers: 'block' });
   await page.tap('.card[data-id]');
   await openSettings(page);
   await typeThroughRedraws(page);

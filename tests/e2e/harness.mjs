@@ -116,9 +116,12 @@ export async function onNewInstallation(executable, run, { lang = 'ru', extraArg
 }
 
 /** A page at the device's size (a phone unless told) with the greeting closed, if the launch
- *  brought one, and the page errors it collects; `prepare(page)` runs before the first load. */
-export async function openPastGreeting(browser, base, { device = PHONE, prepare = async () => {} } = {}) {
-  const context = await browser.newContext(device);
+ *  brought one, and the page errors it collects; `prepare(page)` runs before the first load.
+ *  A test that intercepts the page's requests blocks the service worker (`serviceWorkers:
+ *  'block'`): requests that the worker forwards pass the interception by, once it has taken
+ *  the page over, and when that happens depends on the machine's speed. */
+export async function openPastGreeting(browser, base, { device = PHONE, prepare = async () => {}, serviceWorkers = 'allow' } = {}) {
+  const context = await browser.newContext({ ...device, serviceWorkers });
   const page = await context.newPage();
   page.setDefaultTimeout(STEP_TIMEOUT_MS);
   const errors = [];

@@ -81,7 +81,7 @@ async function checkWheels(page, state, outDir) {
 }
 
 async function checkInBrowser(browser, base, outDir) {
-  const { context, page, errors } = await openPastGreeting(browser, base);
+  const { context, page, errors } = await openPastGreeting(browser, base, { serviceWorkers: 'block' });
   const state = { popup: null, taps: [] };
   await overlayPopups(page, state);
   await checkMenu(page, state, outDir);
