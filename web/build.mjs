@@ -17,7 +17,12 @@ async function main() {
   if (args.length !== 1) throw new BuildError('usage: node web/build.mjs OUTDIR');
   const out = path.resolve(args[0]);
   const stage = `${out}.stage`; // what is kept between builds, beside OUTDIR
-  const [, fonts, app, statics] = await Promise.all([typeCheck(stage), subsetFonts(stage), bundleApp(), staticFiles()]);
+  const [, fonts, app, statics] = await Promise.all([
+    typeCheck(stage),
+    subsetFonts(stage),
+    bundleApp(),
+    staticFiles(),
+  ]);
 
   // Served path (relative to OUTDIR) -> content.
   const files = new Map([['app.js', app], ...statics]);
@@ -30,7 +35,10 @@ async function main() {
 
   const build = {
     version: digest.digest('hex').slice(0, 16),
-    assets: [...files.keys()].filter(isShell).sort().map((rel) => (rel === 'index.html' ? '/' : `/${rel}`)),
+    assets: [...files.keys()]
+      .filter(isShell)
+      .sort()
+      .map((rel) => (rel === 'index.html' ? '/' : `/${rel}`)),
   };
   await writeIfChanged(path.join(out, 'sw.js'), await bundleWorker(build));
   await pruneStale(out, new Set([...files.keys(), 'sw.js']));

@@ -7,7 +7,10 @@ import { fileURLToPath, pathToFileURL } from 'node:url';
 const ICONS = path.join(path.dirname(fileURLToPath(import.meta.url)), 'static', 'icons');
 const SIZES = [192, 512];
 
-const browser = await chromium.launch({ executablePath: '/usr/bin/chromium', args: ['--headless', '--no-sandbox'] });
+const browser = await chromium.launch({
+  executablePath: '/usr/bin/chromium',
+  args: ['--headless', '--no-sandbox'],
+});
 try {
   for (const size of SIZES) {
     const page = await browser.newPage({ viewport: { width: size, height: size } });

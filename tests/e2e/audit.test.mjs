@@ -13,7 +13,13 @@ import { PHONE, runBrowserTest } from './harness.mjs';
 
 const WOFF2_SIGNATURE = 'wOF2';
 const CATEGORIES = ['performance', 'accessibility'];
-const METRICS = ['largest-contentful-paint', 'first-contentful-paint', 'total-blocking-time', 'cumulative-layout-shift', 'total-byte-weight'];
+const METRICS = [
+  'largest-contentful-paint',
+  'first-contentful-paint',
+  'total-blocking-time',
+  'cumulative-layout-shift',
+  'total-byte-weight',
+];
 
 /** The page's downloads on a first visit, once its view and fonts are up, raw and gzipped (what
  *  went over the wire is Lighthouse's to say: the service worker serves some of them). The push
@@ -27,7 +33,9 @@ async function firstVisit(browser, base) {
   await page.waitForSelector('.welcome, .row[data-id]');
   await page.evaluate(() => document.fonts.ready);
   const loads = [];
-  for (const response of responses.filter((r) => !r.headers()['content-type']?.startsWith('text/event-stream'))) {
+  for (const response of responses.filter(
+    (r) => !r.headers()['content-type']?.startsWith('text/event-stream'),
+  )) {
     const body = await response.body();
     loads.push({
       path: new URL(response.url()).pathname,
@@ -49,7 +57,11 @@ async function firstVisit(browser, base) {
 
 function checkLoads({ loads, precached }) {
   const scripts = loads.filter((load) => load.type === 'script');
-  assert.deepEqual(scripts.map((s) => s.path), ['/app.js'], 'the page loads one script');
+  assert.deepEqual(
+    scripts.map((s) => s.path),
+    ['/app.js'],
+    'the page loads one script',
+  );
   const fonts = loads.filter((load) => load.type === 'font');
   assert.ok(fonts.length > 0, 'the page loads its font');
   for (const font of fonts) {
@@ -58,7 +70,10 @@ function checkLoads({ loads, precached }) {
     assert.equal(font.signature, WOFF2_SIGNATURE, `${font.path}: a WOFF2 file`);
   }
   for (const shell of ['/', '/app.js', '/style.css', ...fonts.map((f) => f.path)]) {
-    assert.ok(precached.includes(shell), `the service worker keeps ${shell} (it keeps ${precached.join(', ')})`);
+    assert.ok(
+      precached.includes(shell),
+      `the service worker keeps ${shell} (it keeps ${precached.join(', ')})`,
+    );
   }
 }
 
@@ -70,9 +85,16 @@ async function audit(base, outDir) {
   );
   fs.writeFileSync(path.join(outDir, 'lighthouse.json'), result.report);
   const { lhr } = result;
-  assert.equal(lhr.runtimeError, undefined, `Lighthouse could not audit the page: ${lhr.runtimeError?.message}`);
+  assert.equal(
+    lhr.runtimeError,
+    undefined,
+    `Lighthouse could not audit the page: ${lhr.runtimeError?.message}`,
+  );
   const failing = Object.values(lhr.audits).filter(
-    (a) => a.score !== null && a.score < 1 && lhr.categories.accessibility.auditRefs.some((ref) => ref.id === a.id),
+    (a) =>
+      a.score !== null &&
+      a.score < 1 &&
+      lhr.categories.accessibility.auditRefs.some((ref) => ref.id === a.id),
   );
   return {
     scores: Object.fromEntries(CATEGORIES.map((c) => [c, lhr.categories[c].score])),
@@ -80,7 +102,10 @@ async function audit(base, outDir) {
     accessibilityFailures: failing.map((a) => ({
       id: a.id,
       title: a.title,
-      items: (a.details?.items ?? []).map((item) => ({ node: item.node?.snippet, why: item.node?.explanation })),
+      items: (a.details?.items ?? []).map((item) => ({
+        node: item.node?.snippet,
+        why: item.node?.explanation,
+      })),
     })),
   };
 }
@@ -93,10 +118,18 @@ runBrowserTest('audit', async ({ browser, base, outDir }) => {
   const visit = await firstVisit(browser, base);
   checkLoads(visit);
   const firstLoad = { raw: sum(visit.loads, 'raw'), gzipped: sum(visit.loads, 'gzipped') };
-  const report = { firstLoad, files: visit.loads, precached: visit.precached, lighthouse: lighthouseReport };
+  const report = {
+    firstLoad,
+    files: visit.loads,
+    precached: visit.precached,
+    lighthouse: lighthouseReport,
+  };
   fs.writeFileSync(path.join(outDir, 'audit.json'), `${JSON.stringify(report, null, 2)}\n`);
   const { scores, metrics } = report.lighthouse;
   console.log(`first load: ${firstLoad.raw} bytes raw, ${firstLoad.gzipped} gzipped`);
-  console.log(`lighthouse: ${CATEGORIES.map((c) => `${c} ${scores[c]}`).join(', ')}; LCP ${Math.round(metrics['largest-contentful-paint'])} ms, ${metrics['total-byte-weight']} bytes transferred`);
-  for (const failure of report.lighthouse.accessibilityFailures) console.log(`accessibility: ${failure.title}: ${JSON.stringify(failure.items)}`);
+  console.log(
+    `lighthouse: ${CATEGORIES.map((c) => `${c} ${scores[c]}`).join(', ')}; LCP ${Math.round(metrics['largest-contentful-paint'])} ms, ${metrics['total-byte-weight']} bytes transferred`,
+  );
+  for (const failure of report.lighthouse.accessibilityFailures)
+    console.log(`accessibility: ${failure.title}: ${JSON.stringify(failure.items)}`);
 });

@@ -6,8 +6,10 @@ import assert from 'node:assert/strict';
 import path from 'node:path';
 import { boxesOf, openPastGreeting, runBrowserTest } from './harness.mjs';
 
-const TOO_FEW = 'Данных мало. Нужно минимум 4 схватки (3 интервала между ними), чтобы начать определение тенденции.';
-const NO_DATA = 'Пока нет данных для отображения графиков. Нажмите на кнопку СТАРТ при начале схватки.';
+const TOO_FEW =
+  'Данных мало. Нужно минимум 4 схватки (3 интервала между ними), чтобы начать определение тенденции.';
+const NO_DATA =
+  'Пока нет данных для отображения графиков. Нажмите на кнопку СТАРТ при начале схватки.';
 const ALARM_START = 'Внимание! Частота схваток увеличивается. И как минимум 3 из них';
 const START = '[data-id="contractions:start"]';
 const STOP = '[data-id="contractions:stop"]';
@@ -37,7 +39,10 @@ async function waitForText(page, selector, expected, prefix = false) {
       [selector, expected, prefix],
     )
     .catch(async () => {
-      const shown = await page.evaluate((sel) => document.querySelector(sel)?.textContent, selector);
+      const shown = await page.evaluate(
+        (sel) => document.querySelector(sel)?.textContent,
+        selector,
+      );
       throw new Error(`${selector} shows "${shown}", not "${expected}"`);
     });
 }
@@ -65,7 +70,11 @@ async function swipe(page, locator, dx) {
   const box = await locator.boundingBox();
   const [x, y] = [box.x + box.width - 20, box.y + box.height / 2];
   const cdp = await page.context().newCDPSession(page);
-  const touch = (type, at) => cdp.send('Input.dispatchTouchEvent', { type, touchPoints: at === undefined ? [] : [{ x: at, y }] });
+  const touch = (type, at) =>
+    cdp.send('Input.dispatchTouchEvent', {
+      type,
+      touchPoints: at === undefined ? [] : [{ x: at, y }],
+    });
   const pageMove = () => page.evaluate(() => document.querySelector('.ring-page').style.transform);
   await touch('touchStart', x);
   let moved = '';
@@ -98,7 +107,9 @@ async function timeAcrossTheLock(page) {
   await page.tap(STOP);
   await page.waitForSelector(START);
   await page.waitForFunction(() =>
-    [...document.querySelectorAll('.ring-page .list .row .caption')].some((c) => c.textContent === '01:00'),
+    [...document.querySelectorAll('.ring-page .list .row .caption')].some(
+      (c) => c.textContent === '01:00',
+    ),
   );
 }
 
@@ -115,12 +126,20 @@ async function checkCounter(browser, base, outDir) {
   await timeOne(page, 300, 45);
   await timeOne(page, 290, 50);
   await waitForText(page, '[data-info="trend"]', TOO_FEW);
-  assert.equal(await page.$$eval('.ring-page .list .row', (rows) => rows.length), 3, 'three rows in the list');
+  assert.equal(
+    await page.$$eval('.ring-page .list .row', (rows) => rows.length),
+    3,
+    'three rows in the list',
+  );
   await page.screenshot({ path: path.join(outDir, 'contractions-three.png'), fullPage: true });
 
   await timeOne(page, 280, 55);
   await waitForText(page, '[data-info="trend"]', ALARM_START, true);
-  assert.equal(await page.getAttribute('[data-info="trend"]', 'data-regim'), '3', 'the trend is an alarm');
+  assert.equal(
+    await page.getAttribute('[data-info="trend"]', 'data-regim'),
+    '3',
+    'the trend is an alarm',
+  );
   await page.screenshot({ path: path.join(outDir, 'contractions-trend.png'), fullPage: true });
 
   // A swipe to the left offers the delete button; tapping it removes the row. The running view
@@ -146,10 +165,14 @@ async function checkLockedScreen(browser, base) {
   await context.close();
 }
 
-await runBrowserTest('contractions', async ({ browser, base, outDir }) => {
-  await checkCounter(browser, base, outDir);
-  await checkLockedScreen(browser, base);
-}, {
-  extraArgs: ['--fake-clock'],
-  env: { ...process.env, LADANEYA_TEST_MODE: '1' },
-});
+await runBrowserTest(
+  'contractions',
+  async ({ browser, base, outDir }) => {
+    await checkCounter(browser, base, outDir);
+    await checkLockedScreen(browser, base);
+  },
+  {
+    extraArgs: ['--fake-clock'],
+    env: { ...process.env, LADANEYA_TEST_MODE: '1' },
+  },
+);

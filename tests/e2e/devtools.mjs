@@ -11,7 +11,12 @@ import { CHROMIUM_ARGS, sleep, START_TIMEOUT_MS, STOP_TIMEOUT_MS } from './harne
  */
 export async function withDevtoolsChromium(use) {
   const profile = fs.mkdtempSync(path.join(os.tmpdir(), 'ladaneya-e2e-chromium-'));
-  const args = [...CHROMIUM_ARGS, '--remote-debugging-port=0', `--user-data-dir=${profile}`, 'about:blank'];
+  const args = [
+    ...CHROMIUM_ARGS,
+    '--remote-debugging-port=0',
+    `--user-data-dir=${profile}`,
+    'about:blank',
+  ];
   // A group of its own, so that its helper processes end with it.
   const child = spawn('/usr/bin/chromium', args, { stdio: 'ignore', detached: true });
   const signal = (name) => {
@@ -42,5 +47,7 @@ async function debuggingPort(profile, exited) {
     if (port > 0) return port;
     await sleep(100);
   }
-  throw new Error(gone ? 'chromium exited before listening' : 'chromium did not open its DevTools port');
+  throw new Error(
+    gone ? 'chromium exited before listening' : 'chromium did not open its DevTools port',
+  );
 }

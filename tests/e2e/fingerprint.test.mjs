@@ -52,7 +52,8 @@ await runBrowserTest('fingerprint', async ({ browser, base, outDir, server }) =>
   await page.reload();
   await page.waitForSelector(KEY);
   await until('the first check to fail', () =>
-    /Authentication Failed|User pressed Cancel button/.test(server.log));
+    /Authentication Failed|User pressed Cancel button/.test(server.log),
+  );
   assert.equal(await page.textContent('.lock-caption'), 'Введите пароль');
   assert.equal(await page.$('.row'), null, 'nothing of the diary behind the lock');
   await page.screenshot({ path: path.join(outDir, 'fingerprint-key.png') });

@@ -24,8 +24,25 @@ export const STOP_TIMEOUT_MS = 10000;
 export const STEP_TIMEOUT_MS = 20000;
 
 /** A running server process with its output kept for failure reports. */
-export function startServer(executable, dataDir, port, lang = 'ru', extraArgs = [], env = process.env, host = '127.0.0.1') {
-  const args = ['serve', '--data', dataDir, '--listen', `${host}:${port}`, '--lang', lang, ...extraArgs];
+export function startServer(
+  executable,
+  dataDir,
+  port,
+  lang = 'ru',
+  extraArgs = [],
+  env = process.env,
+  host = '127.0.0.1',
+) {
+  const args = [
+    'serve',
+    '--data',
+    dataDir,
+    '--listen',
+    `${host}:${port}`,
+    '--lang',
+    lang,
+    ...extraArgs,
+  ];
   const child = spawn(executable, args, { stdio: ['ignore', 'pipe', 'pipe'], env });
   const server = { child, log: '', exit: null };
   const keep = (chunk) => (server.log = (server.log + chunk).slice(-8000));
@@ -58,7 +75,9 @@ export function freePort() {
 export const sleep = (ms) => new Promise((resolve) => setTimeout(resolve, ms));
 
 export function describeExit(exit) {
-  return exit.error ? `failed to start: ${exit.error.message}` : `exited (code ${exit.code}, signal ${exit.signal})`;
+  return exit.error
+    ? `failed to start: ${exit.error.message}`
+    : `exited (code ${exit.code}, signal ${exit.signal})`;
 }
 
 // Probes with the manifest: the first view of a launch belongs to the browser, which is greeted.
@@ -66,15 +85,28 @@ export async function waitUntilServing(server, base) {
   const deadline = Date.now() + START_TIMEOUT_MS;
   while (Date.now() < deadline) {
     if (server.exit) throw new Error(`server ${describeExit(server.exit)} before answering`);
-    const status = await fetch(`${base}/manifest.webmanifest`).then((r) => r.status, () => 0);
+    const status = await fetch(`${base}/manifest.webmanifest`).then(
+      (r) => r.status,
+      () => 0,
+    );
     if (status === 200) return;
     await sleep(100);
   }
   throw new Error(`the server did not answer within ${START_TIMEOUT_MS / 1000} s`);
 }
 
-export const PHONE = { viewport: { width: 390, height: 844 }, isMobile: true, hasTouch: true, deviceScaleFactor: 2 };
-export const TABLET = { viewport: { width: 820, height: 1180 }, isMobile: true, hasTouch: true, deviceScaleFactor: 2 };
+export const PHONE = {
+  viewport: { width: 390, height: 844 },
+  isMobile: true,
+  hasTouch: true,
+  deviceScaleFactor: 2,
+};
+export const TABLET = {
+  viewport: { width: 820, height: 1180 },
+  isMobile: true,
+  hasTouch: true,
+  deviceScaleFactor: 2,
+};
 
 export async function stopServer(server) {
   server.child.kill('SIGTERM');
@@ -88,7 +120,11 @@ export async function stopServer(server) {
  * data folder and a free port, stopped cleanly afterwards (unless `run` stopped it), its folder
  * removed. A failure carries the server's last output as `serverLog`.
  */
-export async function onNewInstallation(executable, run, { lang = 'ru', extraArgs = [], env = process.env, name = 'second' } = {}) {
+export async function onNewInstallation(
+  executable,
+  run,
+  { lang = 'ru', extraArgs = [], env = process.env, name = 'second' } = {},
+) {
   const dataDir = fs.mkdtempSync(path.join(os.tmpdir(), `ladaneya-e2e-${name}-`));
   const port = await freePort();
   const server = startServer(executable, dataDir, port, lang, extraArgs, env);
@@ -120,7 +156,11 @@ export async function onNewInstallation(executable, run, { lang = 'ru', extraArg
  *  A test that intercepts the page's requests blocks the service worker (`serviceWorkers:
  *  'block'`): requests that the worker forwards pass the interception by, once it has taken
  *  the page over, and when that happens depends on the machine's speed. */
-export async function openPastGreeting(browser, base, { device = PHONE, prepare = async () => {}, serviceWorkers = 'allow' } = {}) {
+export async function openPastGreeting(
+  browser,
+  base,
+  { device = PHONE, prepare = async () => {}, serviceWorkers = 'allow' } = {},
+) {
   const context = await browser.newContext({ ...device, serviceWorkers });
   const page = await context.newPage();
   page.setDefaultTimeout(STEP_TIMEOUT_MS);
@@ -139,7 +179,9 @@ export async function pickOnWheels(page, target, texts) {
   await page.tap(`button[data-id="${target}"]`);
   await page.waitForSelector('.popup-cover .wheel');
   // The wheels scroll to their old rows in the next frame: turn them after that.
-  await page.evaluate(() => new Promise((done) => requestAnimationFrame(() => requestAnimationFrame(done))));
+  await page.evaluate(
+    () => new Promise((done) => requestAnimationFrame(() => requestAnimationFrame(done))),
+  );
   await page.evaluate((wanted) => {
     document.querySelectorAll('.popup-cover .wheel').forEach((wheel, i) => {
       const rows = [...wheel.querySelectorAll('.wheel-row')];
@@ -158,7 +200,10 @@ export async function pickOnWheels(page, target, texts) {
  */
 export function boxesOf(page, selector) {
   return page.evaluate(
-    (s) => [...document.querySelectorAll(s)].map((e) => e.getBoundingClientRect()).map(({ left, top, width, height }) => ({ left, top, width, height })),
+    (s) =>
+      [...document.querySelectorAll(s)]
+        .map((e) => e.getBoundingClientRect())
+        .map(({ left, top, width, height }) => ({ left, top, width, height })),
     selector,
   );
 }
@@ -179,7 +224,10 @@ export async function typeCode(page, code) {
 
 /** Waits until the lock's caption reads `text`. */
 export async function captionIs(page, text) {
-  await page.waitForFunction((t) => document.querySelector('.lock-caption')?.textContent === t, text);
+  await page.waitForFunction(
+    (t) => document.querySelector('.lock-caption')?.textContent === t,
+    text,
+  );
 }
 
 /**
@@ -188,8 +236,14 @@ export async function captionIs(page, text) {
  * executable, server, dataDir })`. Reports "<name>: 1 passed, 0 failed" or the failure with the server's
  * last output, stops the server cleanly and removes the data folder.
  */
-export async function runBrowserTest(name, check, { lang = 'ru', extraArgs = [], env = process.env } = {}) {
-  const { values } = parseArgs({ options: { server: { type: 'string' }, out: { type: 'string' } } });
+export async function runBrowserTest(
+  name,
+  check,
+  { lang = 'ru', extraArgs = [], env = process.env } = {},
+) {
+  const { values } = parseArgs({
+    options: { server: { type: 'string' }, out: { type: 'string' } },
+  });
   if (!values.server || !values.out) {
     console.error(`usage: node tests/e2e/${name}.test.mjs --server PATH --out DIR`);
     process.exit(2);
@@ -201,7 +255,8 @@ export async function runBrowserTest(name, check, { lang = 'ru', extraArgs = [],
     browser = await chromium.launch({ executablePath: '/usr/bin/chromium', args: CHROMIUM_ARGS });
     await onNewInstallation(
       executable,
-      ({ base, server, dataDir }) => check({ browser, base, outDir: values.out, executable, server, dataDir }),
+      ({ base, server, dataDir }) =>
+        check({ browser, base, outDir: values.out, executable, server, dataDir }),
       { lang, extraArgs, env, name },
     );
     console.log(`${name}: 1 passed, 0 failed`);

@@ -4,7 +4,17 @@
 //   node tests/e2e/journey.test.mjs --server PATH_TO_SERVER --out SCREENSHOT_DIR
 import assert from 'node:assert/strict';
 import path from 'node:path';
-import { PHONE, STEP_TIMEOUT_MS, TABLET, boxesOf, captionIs, onNewInstallation, pickOnWheels, runBrowserTest, typeCode } from './harness.mjs';
+import {
+  PHONE,
+  STEP_TIMEOUT_MS,
+  TABLET,
+  boxesOf,
+  captionIs,
+  onNewInstallation,
+  pickOnWheels,
+  runBrowserTest,
+  typeCode,
+} from './harness.mjs';
 
 const CODE = '2468';
 const NAME = 'Мира';
@@ -34,9 +44,13 @@ async function createPregnancy(page, outDir, device) {
   await pickOnWheels(page, 'field:sdat1', ['1', 'мая', '2026']);
   // The server keeps the dates consistent: the due date follows the last period.
   const due = 'button[data-id="field:sbirthdate"] .editor-picker-value';
-  await page.waitForFunction((sel) => document.querySelector(sel)?.textContent === '05.02.2027', due).catch(async () => {
-    throw new Error(`the due date shows ${await page.textContent(due)}, not 280 days after the last period`);
-  });
+  await page
+    .waitForFunction((sel) => document.querySelector(sel)?.textContent === '05.02.2027', due)
+    .catch(async () => {
+      throw new Error(
+        `the due date shows ${await page.textContent(due)}, not 280 days after the last period`,
+      );
+    });
   await page.fill('input[data-field="field:name"]', NAME);
   await page.locator('input[data-field="field:name"]').blur();
   await page.tap('.segment:nth-child(3)');
@@ -55,12 +69,18 @@ async function checkCard(page, outDir, device) {
   assert.ok(lines.length >= 2 && lines[1].length > 0, 'a state line under the dates');
   assert.notEqual(lines[1], 'Срок указан неправильно', 'the dates are sound');
   assert.match(await card.locator('.card-sex').getAttribute('src'), /w-pic\.png/, 'a girl');
-  const overflow = await page.evaluate(() => document.documentElement.scrollWidth - window.innerWidth);
+  const overflow = await page.evaluate(
+    () => document.documentElement.scrollWidth - window.innerWidth,
+  );
   assert.ok(overflow <= 0, `nothing wider than the screen (${overflow}px over)`);
   // The first pregnancy and the new one: one above the other on a phone, side by side on a tablet.
   const tops = (await boxesOf(page, '.card')).map((box) => Math.round(box.top));
   assert.equal(tops.length, 2, 'two pregnancy cards');
-  assert.equal(tops[0] === tops[1], device === 'tablet', `cards side by side only on a tablet (${tops})`);
+  assert.equal(
+    tops[0] === tops[1],
+    device === 'tablet',
+    `cards side by side only on a tablet (${tops})`,
+  );
   await shot(page, outDir, device, 'card');
   await card.tap();
   await page.waitForSelector('.card.open');
@@ -129,5 +149,7 @@ async function journey(browser, base, outDir, device, name) {
 
 await runBrowserTest('journey', async ({ browser, base, outDir, executable }) => {
   await journey(browser, base, outDir, PHONE, 'phone');
-  await onNewInstallation(executable, ({ base: tabletBase }) => journey(browser, tabletBase, outDir, TABLET, 'tablet'));
+  await onNewInstallation(executable, ({ base: tabletBase }) =>
+    journey(browser, tabletBase, outDir, TABLET, 'tablet'),
+  );
 });

@@ -4,7 +4,14 @@ import assert from 'node:assert/strict';
 import fs from 'node:fs';
 import os from 'node:os';
 import path from 'node:path';
-import { freePort, openPastGreeting, runBrowserTest, startServer, typeCode, captionIs } from './harness.mjs';
+import {
+  freePort,
+  openPastGreeting,
+  runBrowserTest,
+  startServer,
+  typeCode,
+  captionIs,
+} from './harness.mjs';
 
 const CODE = '1357';
 const PASSWORD_SWITCH = 'menu:52';
@@ -47,7 +54,15 @@ async function changeBackground(page, outDir) {
 async function refusedWithoutPassword(executable) {
   const dataDir = fs.mkdtempSync(path.join(os.tmpdir(), 'ladaneya-e2e-open-'));
   try {
-    const server = startServer(executable, dataDir, await freePort(), 'ru', [], process.env, '0.0.0.0');
+    const server = startServer(
+      executable,
+      dataDir,
+      await freePort(),
+      'ru',
+      [],
+      process.env,
+      '0.0.0.0',
+    );
     const exit = await server.exited;
     assert.equal(exit.code, 2, 'a listen beyond loopback without a password is refused');
     assert.match(server.log, /password/, 'the refusal says why');

@@ -33,7 +33,9 @@ async function chooseBackground(page, id) {
 function looksOf(page) {
   return page.evaluate(() => {
     const style = (selector) => getComputedStyle(document.querySelector(selector));
-    const boxes = [...document.querySelectorAll('.row, .card, .page-header')].map((e) => e.getBoundingClientRect());
+    const boxes = [...document.querySelectorAll('.row, .card, .page-header')].map((e) =>
+      e.getBoundingClientRect(),
+    );
     return {
       body: style('body').color,
       row: style('.row .caption').color,
@@ -59,32 +61,45 @@ function checkReadable(looks, where) {
   const light = brightness(channels(looks.row)) > 127.5;
   for (const surface of ['list', 'card']) {
     const [r, g, b, a = 1] = channels(looks[surface]);
-    assert.ok(a > 0 && a < 1, `${where}: the ${surface} lets the picture through (${looks[surface]})`);
-    assert.equal(brightness([r, g, b]) < 127.5, light, `${where}: the ${surface} is tinted against the text`);
+    assert.ok(
+      a > 0 && a < 1,
+      `${where}: the ${surface} lets the picture through (${looks[surface]})`,
+    );
+    assert.equal(
+      brightness([r, g, b]) < 127.5,
+      light,
+      `${where}: the ${surface} is tinted against the text`,
+    );
   }
 }
 
 function checkFits(looks, where) {
-  assert.ok(looks.scrollWidth <= looks.innerWidth, `${where}: no sideways scrolling (${looks.scrollWidth})`);
-  assert.ok(looks.widest <= looks.innerWidth && looks.leftmost >= 0, `${where}: nothing is cut at the sides`);
+  assert.ok(
+    looks.scrollWidth <= looks.innerWidth,
+    `${where}: no sideways scrolling (${looks.scrollWidth})`,
+  );
+  assert.ok(
+    looks.widest <= looks.innerWidth && looks.leftmost >= 0,
+    `${where}: nothing is cut at the sides`,
+  );
 }
 
 /** The portrait on the open card, and the tablet's column and type. */
 async function checkMenu(page, device, name) {
-  await page.waitForFunction(
-    (address) => {
-      const img = document.querySelector('.card.open .card-picture');
-      return img?.getAttribute('src') === address && img.complete && img.naturalWidth > 0;
-    },
-    PORTRAIT,
-  );
+  await page.waitForFunction((address) => {
+    const img = document.querySelector('.card.open .card-picture');
+    return img?.getAttribute('src') === address && img.complete && img.naturalWidth > 0;
+  }, PORTRAIT);
   for (const theme of THEMES) {
     await chooseBackground(page, theme.id);
     const looks = await looksOf(page);
     const where = `${name}, background ${theme.id}`;
     assert.deepEqual([looks.body, looks.row], [theme.text, theme.text], `${where}: texts`);
     assert.equal(looks.title, theme.caption, `${where}: the title`);
-    assert.ok(looks.openCard.includes(theme.accent), `${where}: the open card's mark ${looks.openCard}`);
+    assert.ok(
+      looks.openCard.includes(theme.accent),
+      `${where}: the open card's mark ${looks.openCard}`,
+    );
     checkReadable(looks, where);
     checkFits(looks, where);
     if (device === TABLET) {
@@ -113,11 +128,19 @@ async function checkCounterPage(page, base, outDir) {
   await page.waitForSelector('.ring-page [data-info="trend"]');
   const sizes = await page.evaluate(() => ({
     scrollWidth: document.documentElement.scrollWidth,
-    charts: [...document.querySelectorAll('.ring-page .chart')].map((c) => c.getBoundingClientRect().right),
+    charts: [...document.querySelectorAll('.ring-page .chart')].map(
+      (c) => c.getBoundingClientRect().right,
+    ),
   }));
   const width = TABLET.viewport.width;
-  assert.ok(sizes.scrollWidth <= width, `the counter: no sideways scrolling (${sizes.scrollWidth})`);
-  assert.ok(sizes.charts.length === 2 && sizes.charts.every((right) => right <= width), 'the counter: charts fit');
+  assert.ok(
+    sizes.scrollWidth <= width,
+    `the counter: no sideways scrolling (${sizes.scrollWidth})`,
+  );
+  assert.ok(
+    sizes.charts.length === 2 && sizes.charts.every((right) => right <= width),
+    'the counter: charts fit',
+  );
   await page.screenshot({ path: path.join(outDir, 'looks-tablet-counter.png'), fullPage: true });
 }
 
@@ -126,7 +149,10 @@ async function checkLandscapeTablet(page, outDir) {
   await page.waitForFunction((w) => window.innerWidth === w, TABLET.viewport.height);
   const looks = await looksOf(page);
   checkFits(looks, 'tablet landscape');
-  assert.ok(looks.rowWidth <= COLUMN_MAX_PX, `tablet landscape: the column keeps a readable width (${looks.rowWidth})`);
+  assert.ok(
+    looks.rowWidth <= COLUMN_MAX_PX,
+    `tablet landscape: the column keeps a readable width (${looks.rowWidth})`,
+  );
   await page.screenshot({ path: path.join(outDir, 'looks-tablet-landscape.png'), fullPage: true });
 }
 
@@ -142,17 +168,23 @@ async function placePortrait(page, dataDir) {
   });
   const folder = path.join(dataDir, 'Documents', 'picture');
   fs.mkdirSync(folder, { recursive: true });
-  fs.writeFileSync(path.join(folder, `child-${GUID}.jpg`), Buffer.from(data.split(',')[1], 'base64'));
+  fs.writeFileSync(
+    path.join(folder, `child-${GUID}.jpg`),
+    Buffer.from(data.split(',')[1], 'base64'),
+  );
 }
 
-const portraitStatus = (page) => page.evaluate((address) => fetch(address).then((r) => r.status), PORTRAIT);
+const portraitStatus = (page) =>
+  page.evaluate((address) => fetch(address).then((r) => r.status), PORTRAIT);
 
 /** With the lock on, a browser the installation has not seen gets the portrait only once it
  *  has typed the code. */
 async function checkPortraitBehindLock(page) {
   await page.tap(PASSWORD_SWITCH);
   await typeCode(page, CODE);
-  await page.waitForFunction(() => document.querySelector('.lock-caption')?.textContent === 'Введите пароль еще раз');
+  await page.waitForFunction(
+    () => document.querySelector('.lock-caption')?.textContent === 'Введите пароль еще раз',
+  );
   await typeCode(page, CODE);
   await page.tap('.message button');
   await page.context().clearCookies();

@@ -2,7 +2,15 @@
 //   node tests/e2e/menu.test.mjs --server PATH_TO_SERVER --out SCREENSHOT_DIR
 import assert from 'node:assert/strict';
 import path from 'node:path';
-import { PHONE, boxesOf, onNewInstallation, runBrowserTest, sleep, STEP_TIMEOUT_MS, stopServer } from './harness.mjs';
+import {
+  PHONE,
+  boxesOf,
+  onNewInstallation,
+  runBrowserTest,
+  sleep,
+  STEP_TIMEOUT_MS,
+  stopServer,
+} from './harness.mjs';
 
 const PREGNANCY_MENU = [
   'Сегодня',
@@ -28,7 +36,9 @@ async function checkManifest(base) {
   assert.equal(response.status, 200, 'GET /manifest.webmanifest');
   const manifest = JSON.parse(await response.text());
   assert.equal(manifest.start_url, '/', 'manifest start_url');
-  const shortcuts = manifest.shortcuts.map((s) => new URL(s.url, base).searchParams.get('shortcut'));
+  const shortcuts = manifest.shortcuts.map((s) =>
+    new URL(s.url, base).searchParams.get('shortcut'),
+  );
   assert.deepEqual(shortcuts, ['SCHVATKI', 'NEWNOTE'], 'manifest shortcuts in order');
   for (const icon of manifest.icons) {
     const status = (await fetch(new URL(icon.src, base))).status;
@@ -90,16 +100,32 @@ function rowsOf(node) {
 /** Opens the first pregnancy's card, which brings its pages and commands under it. */
 async function openCard(page) {
   await page.waitForSelector('.card[data-id]');
-  assert.equal(await page.getAttribute('.card[data-id]', 'aria-expanded'), 'false', 'cards start closed');
+  assert.equal(
+    await page.getAttribute('.card[data-id]', 'aria-expanded'),
+    'false',
+    'cards start closed',
+  );
   await page.tap('.card[data-id]');
   await page.waitForSelector(`[data-id="${NOT_BUILT_ROW}"]`);
-  assert.equal(await page.getAttribute('.card[data-id]', 'aria-expanded'), 'true', 'the card is open');
+  assert.equal(
+    await page.getAttribute('.card[data-id]', 'aria-expanded'),
+    'true',
+    'the card is open',
+  );
 }
 
 async function checkMenuRows(page) {
   await openCard(page);
-  const view = await page.evaluate(() => fetch('/api/view').then((r) => r.json()).then((b) => b.view));
-  const expected = rowsOf(view).map((row) => ({ id: row.id, text: rowText(row), enabled: row.enabled }));
+  const view = await page.evaluate(() =>
+    fetch('/api/view')
+      .then((r) => r.json())
+      .then((b) => b.view),
+  );
+  const expected = rowsOf(view).map((row) => ({
+    id: row.id,
+    text: rowText(row),
+    enabled: row.enabled,
+  }));
   const drawn = await page.$$eval('.row', (rows) =>
     rows.map((row) => ({
       id: row.dataset.id,
@@ -108,7 +134,11 @@ async function checkMenuRows(page) {
     })),
   );
   assert.deepEqual(drawn, expected, 'rows drawn as the server described them');
-  assert.deepEqual(drawn.slice(0, PREGNANCY_MENU.length).map((r) => r.text), PREGNANCY_MENU, 'menu rows');
+  assert.deepEqual(
+    drawn.slice(0, PREGNANCY_MENU.length).map((r) => r.text),
+    PREGNANCY_MENU,
+    'menu rows',
+  );
   assert.equal(await page.textContent('.page-title'), view.title, 'page title from the server');
   assert.equal(view.title, 'Ладанея', 'page title');
   assert.equal(await page.title(), view.title, 'document title follows the page');
@@ -120,7 +150,10 @@ async function checkMenuRows(page) {
   assert.ok(switchRow.enabled, `${SWITCH_ROW} is enabled`);
 
   const heights = (await boxesOf(page, '.row')).map((box) => box.height);
-  assert.ok(Math.min(...heights) >= 48, `rows are at least 48px tall (smallest ${Math.min(...heights)})`);
+  assert.ok(
+    Math.min(...heights) >= 48,
+    `rows are at least 48px tall (smallest ${Math.min(...heights)})`,
+  );
 }
 
 async function checkDisabledTapSendsNothing(page) {
@@ -137,7 +170,11 @@ async function checkDisabledTapSendsNothing(page) {
 async function checkRing(page, outDir) {
   await page.tap('[data-id="menu:3"]');
   await page.waitForSelector('.ring-page .page-title');
-  assert.equal(await page.textContent('.ring-page .page-title'), 'Графики ребенка', 'the page title');
+  assert.equal(
+    await page.textContent('.ring-page .page-title'),
+    'Графики ребенка',
+    'the page title',
+  );
   await page.screenshot({ path: path.join(outDir, 'ring-page.png') });
   const box = { y: (await boxesOf(page, '.ring-page'))[0].top + 300 };
   await page.mouse.move(40, box.y);
@@ -152,7 +189,9 @@ async function checkRing(page, outDir) {
 async function checkFont(page) {
   const font = await page.evaluate(async () => {
     await document.fonts.ready;
-    const faces = [...document.fonts].filter((f) => f.family.replace(/["']/g, '') === 'DejaVu Sans');
+    const faces = [...document.fonts].filter(
+      (f) => f.family.replace(/["']/g, '') === 'DejaVu Sans',
+    );
     return {
       family: getComputedStyle(document.querySelector('.row .caption')).fontFamily,
       check: document.fonts.check('16px "DejaVu Sans"'),

@@ -25,7 +25,10 @@ const WHEELS = {
   caption: 'Дозировка',
   wheels: [
     { rows: ['1/8', '1/4', '1/2', ...numbers(1, 200)], selected: 9 },
-    { rows: ['мл.', 'мг.', 'шт.', 'мерн.лож.', 'ч.лож.', 'ст.лож.', 'куб.см.', 'впрыск', 'капля'], selected: 2 },
+    {
+      rows: ['мл.', 'мг.', 'шт.', 'мерн.лож.', 'ч.лож.', 'ст.лож.', 'куб.см.', 'впрыск', 'капля'],
+      selected: 2,
+    },
   ],
   buttons: BUTTONS,
 };
@@ -45,13 +48,18 @@ async function overlayPopups(page, state) {
     if (!String(event.target ?? '').startsWith('popup:')) return overlay(route);
     state.taps.push(event);
     state.popup = null;
-    return overlay(route, { url: route.request().url().replace('/api/event', '/api/view'), method: 'GET' });
+    return overlay(route, {
+      url: route.request().url().replace('/api/event', '/api/view'),
+      method: 'GET',
+    });
   });
 }
 
 async function showPopup(page, state, popup) {
   state.popup = popup;
-  const activated = page.waitForRequest((r) => r.url().endsWith('/api/event') && r.postData()?.includes('"visible"'));
+  const activated = page.waitForRequest(
+    (r) => r.url().endsWith('/api/event') && r.postData()?.includes('"visible"'),
+  );
   await page.reload();
   await activated;
   await page.waitForSelector('.popup-cover');
@@ -68,20 +76,32 @@ async function checkMenu(page, state, outDir) {
   await page.screenshot({ path: path.join(outDir, 'popup-menu.png') });
   await page.tap('[data-id="popup:2"]');
   await page.waitForSelector('.popup-cover', { state: 'detached' });
-  assert.deepEqual(state.taps.pop(), { type: 'tap', target: 'popup:2' }, 'a menu item sends its tap alone');
+  assert.deepEqual(
+    state.taps.pop(),
+    { type: 'tap', target: 'popup:2' },
+    'a menu item sends its tap alone',
+  );
 }
 
 async function checkWheels(page, state, outDir) {
   await showPopup(page, state, WHEELS);
-  await page.waitForFunction(() => [...document.querySelectorAll('.wheel')].every((w) => w.scrollTop > 0));
+  await page.waitForFunction(() =>
+    [...document.querySelectorAll('.wheel')].every((w) => w.scrollTop > 0),
+  );
   await page.screenshot({ path: path.join(outDir, 'picker-wheels.png') });
   await page.tap('[data-id="popup:1"]');
   await page.waitForSelector('.popup-cover', { state: 'detached' });
-  assert.deepEqual(state.taps.pop(), { type: 'tap', target: 'popup:1', value: [9, 2] }, 'the wheels keep their rows');
+  assert.deepEqual(
+    state.taps.pop(),
+    { type: 'tap', target: 'popup:1', value: [9, 2] },
+    'the wheels keep their rows',
+  );
 }
 
 async function checkInBrowser(browser, base, outDir) {
-  const { context, page, errors } = await openPastGreeting(browser, base, { serviceWorkers: 'block' });
+  const { context, page, errors } = await openPastGreeting(browser, base, {
+    serviceWorkers: 'block',
+  });
   const state = { popup: null, taps: [] };
   await overlayPopups(page, state);
   await checkMenu(page, state, outDir);
@@ -90,4 +110,6 @@ async function checkInBrowser(browser, base, outDir) {
   await context.close();
 }
 
-await runBrowserTest('popups', ({ browser, base, outDir }) => checkInBrowser(browser, base, outDir));
+await runBrowserTest('popups', ({ browser, base, outDir }) =>
+  checkInBrowser(browser, base, outDir),
+);

@@ -6,7 +6,14 @@ import assert from 'node:assert/strict';
 import fs from 'node:fs';
 import os from 'node:os';
 import path from 'node:path';
-import { openPastGreeting, runBrowserTest, startServer, stopServer, until, waitUntilServing } from './harness.mjs';
+import {
+  openPastGreeting,
+  runBrowserTest,
+  startServer,
+  stopServer,
+  until,
+  waitUntilServing,
+} from './harness.mjs';
 
 const SHELL = ['/', '/app.js', '/style.css', '/fonts/DejaVuSans.woff2'];
 // The build's web app lies beside its programs: build/app/ladaneya, build/web-app.
@@ -16,7 +23,8 @@ const MARK = '<meta name="build" content="next">';
 /** Which paths the page's reload got from the service worker, and which from the server. */
 async function reloadSources(page) {
   const fromWorker = new Map();
-  const record = (response) => fromWorker.set(new URL(response.url()).pathname, response.fromServiceWorker());
+  const record = (response) =>
+    fromWorker.set(new URL(response.url()).pathname, response.fromServiceWorker());
   page.on('response', record);
   await page.reload();
   await page.waitForSelector('.row[data-id]');
@@ -41,10 +49,13 @@ function nextBuild(executable) {
 
 runBrowserTest('worker', async ({ browser, base, executable, server, dataDir }) => {
   const { context, page, errors } = await openPastGreeting(browser, base);
-  await until('the worker controls the page', () => page.evaluate(() => navigator.serviceWorker.controller !== null));
+  await until('the worker controls the page', () =>
+    page.evaluate(() => navigator.serviceWorker.controller !== null),
+  );
 
   const sources = await reloadSources(page);
-  for (const shell of SHELL) assert.equal(sources.get(shell), true, `${shell} from the worker's cache`);
+  for (const shell of SHELL)
+    assert.equal(sources.get(shell), true, `${shell} from the worker's cache`);
   assert.equal(sources.get('/api/view'), false, '/api/view from the server');
 
   await stopServer(server);
@@ -55,7 +66,10 @@ runBrowserTest('worker', async ({ browser, base, executable, server, dataDir }) 
     await page.reload(); // the browser looks for a new worker whenever it opens a page
     await page.waitForFunction(() => document.querySelector('meta[name="build"]') !== null);
     await page.waitForSelector('.row[data-id]');
-    await until('the old build\'s cache is gone', async () => (await page.evaluate(() => caches.keys())).length === 1);
+    await until(
+      "the old build's cache is gone",
+      async () => (await page.evaluate(() => caches.keys())).length === 1,
+    );
     await stopServer(next);
   } finally {
     if (!next.exit) next.child.kill('SIGKILL');

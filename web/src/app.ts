@@ -84,7 +84,11 @@ function retryLater(): void {
 function startListening(): void {
   if (listening) return;
   listening = true;
-  listen({ refresh: () => void request(fetchView), notice: showNotice, reconnected: () => void sync() });
+  listen({
+    refresh: () => void request(fetchView),
+    notice: showNotice,
+    reconnected: () => void sync(),
+  });
 }
 
 let tapChain: Promise<unknown> = Promise.resolve();
@@ -109,7 +113,9 @@ function tap(control: HTMLElement): void {
   const id = control.dataset.id;
   if (id === undefined || control.classList.contains('disabled')) return;
   const value = popupValueOf(control);
-  queue(async () => (value === undefined ? { type: 'tap', target: id } : { type: 'tap', target: id, value }));
+  queue(async () =>
+    value === undefined ? { type: 'tap', target: id } : { type: 'tap', target: id, value },
+  );
 }
 
 /** An editor's input that the user changed sends its field's new value. */

@@ -23,7 +23,9 @@ export function editorValueOf(input: HTMLElement): Promise<unknown> | undefined 
 export function carryUnsentInputs(shown: ParentNode, next: ParentNode): () => void {
   const carried: Array<[Typed, Typed]> = [];
   let refocus = (): void => {};
-  for (const input of shown.querySelectorAll<Typed>('input[data-rendered], textarea[data-rendered]')) {
+  for (const input of shown.querySelectorAll<Typed>(
+    'input[data-rendered], textarea[data-rendered]',
+  )) {
     const field = input.dataset.field;
     const redrawn = field ? next.querySelector<Typed>(`[data-field="${CSS.escape(field)}"]`) : null;
     if (!redrawn) continue;
@@ -35,7 +37,8 @@ export function carryUnsentInputs(shown: ParentNode, next: ParentNode): () => vo
   }
   return () => {
     // Read once the old inputs are off the page: taking the one in use away may have sent it.
-    for (const [from, to] of carried) if (from.dataset.sent !== undefined) to.dataset.sent = from.dataset.sent;
+    for (const [from, to] of carried)
+      if (from.dataset.sent !== undefined) to.dataset.sent = from.dataset.sent;
     refocus();
   };
 }
@@ -63,7 +66,8 @@ export function holdsUnsentValue(input: HTMLElement): boolean {
 
 /** Marks what a typed input sent, so that leaving it does not send it twice. */
 export function markSent(input: HTMLElement): void {
-  if (input instanceof HTMLInputElement || input instanceof HTMLTextAreaElement) input.dataset.sent = input.value;
+  if (input instanceof HTMLInputElement || input instanceof HTMLTextAreaElement)
+    input.dataset.sent = input.value;
 }
 
 export function renderEditor(node: EditorNode): HTMLElement {
@@ -258,7 +262,7 @@ function choiceList(row: EditorRow): HTMLElement {
   for (const [box] of boxes) {
     bind(box, row, () => {
       const ticked = boxes.filter(([b]) => b.checked).map(([, id]) => id);
-      return many ? ticked : ticked[0] ?? '';
+      return many ? ticked : (ticked[0] ?? '');
     });
   }
   return list;

@@ -6,7 +6,10 @@ const TILT_INTERVAL_MS = 300;
 const GRAVITY = 9.81;
 
 /** Drags of the front page: calls `ended` with how far its left edge moved and the width. */
-export function followDrags(root: HTMLElement, ended: (offset: number, width: number) => void): void {
+export function followDrags(
+  root: HTMLElement,
+  ended: (offset: number, width: number) => void,
+): void {
   let startX = 0;
   let startY = 0;
   let page: HTMLElement | null = null;
@@ -26,7 +29,8 @@ export function followDrags(root: HTMLElement, ended: (offset: number, width: nu
     draggedJustNow = false;
     // A row that is swiped to delete keeps its gesture to itself.
     const target = event.target instanceof Element ? event.target : null;
-    page = target && !target.closest('.swipeable') ? target.closest<HTMLElement>('.ring-page') : null;
+    page =
+      target && !target.closest('.swipeable') ? target.closest<HTMLElement>('.ring-page') : null;
     startX = event.clientX;
     startY = event.clientY;
     dragging = false;
@@ -62,7 +66,10 @@ export function followDrags(root: HTMLElement, ended: (offset: number, width: nu
 }
 
 /** Sideways acceleration in g every 0.3 s while `wanted` says tilting moves pages. */
-export function followTilt(wanted: () => boolean, sample: (x: number, upsideDown: boolean) => void): void {
+export function followTilt(
+  wanted: () => boolean,
+  sample: (x: number, upsideDown: boolean) => void,
+): void {
   if (typeof DeviceMotionEvent === 'undefined') return;
   let last = 0;
   window.addEventListener('devicemotion', (event) => {

@@ -24,7 +24,11 @@ export function renderPopup(node: PopupNode): HTMLElement {
       fillQuestion(sheet, node);
       break;
     case 'popupMenu':
-      sheet.append(...node.items.map((item) => (item.gap ? element('div', 'sheet-gap') : button(item, 'sheet-item'))));
+      sheet.append(
+        ...node.items.map((item) =>
+          item.gap ? element('div', 'sheet-gap') : button(item, 'sheet-item'),
+        ),
+      );
       break;
     case 'listChoice':
       sheet.append(...node.entries.map((entry) => button(entry, 'sheet-item')));
@@ -39,7 +43,10 @@ export function renderPopup(node: PopupNode): HTMLElement {
 }
 
 function fillQuestion(sheet: HTMLElement, node: QuestionNode): void {
-  sheet.append(element('h2', 'message-caption', node.caption), element('p', 'message-text', node.text));
+  sheet.append(
+    element('h2', 'message-caption', node.caption),
+    element('p', 'message-text', node.text),
+  );
   const buttons = node.buttons.map((b) => button(b, 'action'));
   if (node.input !== undefined) {
     const input = element('input', 'sheet-input');
@@ -55,7 +62,10 @@ function fillQuestion(sheet: HTMLElement, node: QuestionNode): void {
 
 function fillPicker(sheet: HTMLElement, node: PickerNode): void {
   const header = element('div', 'picker-header');
-  const [close, ok] = [button(node.buttons[0], 'picker-button picker-close'), button(node.buttons[1], 'picker-button picker-ok')];
+  const [close, ok] = [
+    button(node.buttons[0], 'picker-button picker-close'),
+    button(node.buttons[1], 'picker-button picker-ok'),
+  ];
   header.append(close, element('h2', 'picker-caption', node.caption), ok);
   sheet.append(header);
   const wheels = node.wheels.map(renderWheel);
@@ -84,7 +94,8 @@ function renderWheel(node: WheelNode): Wheel {
   rows.forEach((row, index) => row.addEventListener('click', () => centre(index, 'smooth')));
   return {
     element: wheel,
-    position: () => Math.min(rows.length - 1, Math.max(0, Math.round(wheel.scrollTop / rowHeight()))),
+    position: () =>
+      Math.min(rows.length - 1, Math.max(0, Math.round(wheel.scrollTop / rowHeight()))),
     scrollToSelected: () => centre(node.selected, 'instant'),
   };
 }

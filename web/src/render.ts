@@ -109,7 +109,11 @@ function renderRow(node: RowNode): HTMLElement {
 
 function renderCard(node: CardNode): HTMLElement {
   const card = element('div', node.open ? 'card open' : 'card');
-  card.append(node.portrait ? renderPicture(node.portrait, 'card-picture') : renderIcon(node.picture, 'card-picture'));
+  card.append(
+    node.portrait
+      ? renderPicture(node.portrait, 'card-picture')
+      : renderIcon(node.picture, 'card-picture'),
+  );
   const text = element('div', 'card-text');
   const name = element('div', 'card-name', node.name);
   if (node.sex) name.append(renderIcon(node.sex, 'card-sex'));
@@ -136,7 +140,10 @@ function renderWelcome(node: WelcomeNode): HTMLElement {
   const welcome = element('div', 'welcome');
   welcome.dataset.accent = node.accent;
   const body = element('main', 'welcome-body');
-  body.append(renderIcon(node.icon, 'welcome-icon'), element('h1', 'welcome-caption', node.caption));
+  body.append(
+    renderIcon(node.icon, 'welcome-icon'),
+    element('h1', 'welcome-caption', node.caption),
+  );
   body.append(...renderAll(node.children));
   const footer = element('footer', 'welcome-footer');
   footer.append(renderButton(node.close));
@@ -190,7 +197,10 @@ function renderLock(node: LockNode): HTMLElement {
 
 /** A key of the pad; left of zero stands the fingerprint key when it is offered. */
 function renderPadKey(node: LockNode, key: string): HTMLElement {
-  if (key === '') return node.fingerprint ? renderFingerprintKey(node.fingerprint, node.wait) : element('span', 'lock-gap');
+  if (key === '')
+    return node.fingerprint
+      ? renderFingerprintKey(node.fingerprint, node.wait)
+      : element('span', 'lock-gap');
   const button = element('button', 'lock-key');
   button.type = 'button';
   const erase = key === 'delete';

@@ -3,7 +3,10 @@
 import { element } from './dom.js';
 import type { PageNode, RingNode } from './view.js';
 
-export function renderRing(node: RingNode, renderPage: (page: PageNode) => HTMLElement): HTMLElement {
+export function renderRing(
+  node: RingNode,
+  renderPage: (page: PageNode) => HTMLElement,
+): HTMLElement {
   const ring = element('div', 'ring');
   const menu = element('div', 'ring-menu');
   menu.setAttribute('aria-hidden', 'true');

@@ -7,12 +7,17 @@ import type { PopupNode, Screen } from './view.js';
 export function show(root: HTMLElement, view: Screen): void {
   const next = render(view);
   const scroll = next && rowIds(root) === rowIds(next) ? window.scrollY : 0;
-  const popup = view.popup ? keptPopup(root, view.popup) ?? renderPopup(view.popup) : null;
+  const popup = view.popup ? (keptPopup(root, view.popup) ?? renderPopup(view.popup)) : null;
   const message = view.message ? render(view.message) : null;
   // Taking a kept popup out of the page loses its wheels' places: they are put back.
-  const wheels = Array.from(popup?.querySelectorAll<HTMLElement>('.wheel') ?? [], (w) => [w, w.scrollTop] as const);
+  const wheels = Array.from(
+    popup?.querySelectorAll<HTMLElement>('.wheel') ?? [],
+    (w) => [w, w.scrollTop] as const,
+  );
   const refocus = next ? carryUnsentInputs(root, next) : null;
-  root.replaceChildren(...[next, popup, message].filter((node): node is HTMLElement => node !== null));
+  root.replaceChildren(
+    ...[next, popup, message].filter((node): node is HTMLElement => node !== null),
+  );
   refocus?.();
   for (const [wheel, top] of wheels) wheel.scrollTop = top;
   window.scrollTo(0, scroll);

@@ -33,7 +33,9 @@ async function precache(): Promise<void> {
   const cache = await caches.open(CACHE);
   // One file failing to load must not keep the others out of the cache. The files are fetched
   // past the browser's HTTP cache, which may still hold an older build's.
-  await Promise.allSettled(BUILD.assets.map((path) => cache.add(new Request(path, { cache: 'reload' }))));
+  await Promise.allSettled(
+    BUILD.assets.map((path) => cache.add(new Request(path, { cache: 'reload' }))),
+  );
 }
 
 async function dropOldCaches(): Promise<void> {

@@ -324,6 +324,12 @@ export type ClientEvent =
   | { type: 'tilt'; x: number; upsideDown: boolean }
   | { type: 'authenticator'; available: boolean }
   | { type: 'fingerprint'; error: string }
-  | { type: 'fingerprint'; id: string; clientDataJSON: string; authenticatorData: string; signature: string }
+  | {
+      type: 'fingerprint';
+      id: string;
+      clientDataJSON: string;
+      authenticatorData: string;
+      signature: string;
+    }
   | { type: 'fingerprintRegister'; error: string }
   | { type: 'fingerprintRegister'; clientDataJSON: string; attestationObject: string };

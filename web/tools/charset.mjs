@@ -38,7 +38,8 @@ const TEXT_SOURCES = [
 export async function textSources() {
   const files = [];
   for (const [dir, ending] of TEXT_SOURCES) {
-    for (const file of (await listFiles(path.join(ROOT, dir))).values()) if (ending.test(file)) files.push(file);
+    for (const file of (await listFiles(path.join(ROOT, dir))).values())
+      if (ending.test(file)) files.push(file);
   }
   return files.sort();
 }

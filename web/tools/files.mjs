@@ -22,7 +22,8 @@ export async function listFiles(dir, prefix = '') {
   for (const entry of entries) {
     const file = path.join(dir, entry.name);
     const rel = prefix + entry.name;
-    if (entry.isDirectory()) for (const pair of await listFiles(file, `${rel}/`)) files.set(...pair);
+    if (entry.isDirectory())
+      for (const pair of await listFiles(file, `${rel}/`)) files.set(...pair);
     else if (entry.isFile()) files.set(rel, file);
   }
   return files;

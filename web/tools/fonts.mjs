@@ -17,7 +17,9 @@ const OPTIONS = ['--flavor=woff2', '--layout-features=*', '--notdef-outline'];
 export async function subsetFonts(stage) {
   const dir = path.join(stage, 'fonts');
   const sources = await textSources();
-  const tools = ['fonts.mjs', 'charset.mjs'].map((name) => fileURLToPath(new URL(name, import.meta.url)));
+  const tools = ['fonts.mjs', 'charset.mjs'].map((name) =>
+    fileURLToPath(new URL(name, import.meta.url)),
+  );
   const stamp = await digestOf([...tools, ...FONTS.map(ttf), ...sources], OPTIONS);
   await unlessStamped(dir, stamp, async () => {
     const list = path.join(dir, 'unicodes.txt');

@@ -14,9 +14,22 @@ const TARGET = 'es2020'; // as the tsconfig's
 /** Type-checks the app and the service worker, unless nothing they read changed since. */
 export async function typeCheck(stage) {
   const sources = [...(await listFiles(path.join(WEB, 'src'))).values()].sort();
-  const stamp = await digestOf([path.join(TSC, '..', '..', 'package.json'), ...CONFIGS, ...sources]);
+  const stamp = await digestOf([
+    path.join(TSC, '..', '..', 'package.json'),
+    ...CONFIGS,
+    ...sources,
+  ]);
   await unlessStamped(path.join(stage, 'types'), stamp, () =>
-    Promise.all(CONFIGS.map((config) => run(`type check (${path.relative(ROOT, config)})`, process.execPath, [TSC, '--noEmit', '-p', config]))),
+    Promise.all(
+      CONFIGS.map((config) =>
+        run(`type check (${path.relative(ROOT, config)})`, process.execPath, [
+          TSC,
+          '--noEmit',
+          '-p',
+          config,
+        ]),
+      ),
+    ),
   );
 }
 
@@ -34,7 +47,9 @@ export function bundleWorker(build) {
 export async function minifyStyle(file) {
   const css = String(await read(file));
   const sourcefile = path.relative(ROOT, file);
-  const result = await esbuild.transform(css, { loader: 'css', minify: true, sourcefile, logLevel: 'silent' }).catch(reportFailure);
+  const result = await esbuild
+    .transform(css, { loader: 'css', minify: true, sourcefile, logLevel: 'silent' })
+    .catch(reportFailure);
   await failOnWarnings(result);
   return result.code;
 }
