@@ -9,6 +9,7 @@
 #include "server/compression.h"
 #include "server/connection_loop.h"
 #include "server/static_files.h"
+#include "shell/diary/day_cells.h"
 #include "shell/profile_cards.h"
 
 namespace lad::server {
@@ -106,7 +107,11 @@ struct HttpServer::Impl {
       return res;
     }
     if (get && req.path.starts_with(shell::kPortraitAddress))
-      return portrait(session, req.path.substr(std::string_view(shell::kPortraitAddress).size()));
+      return picture(installation.portrait(
+          session, req.path.substr(std::string_view(shell::kPortraitAddress).size())));
+    if (get && req.path.starts_with(shell::kPictureAddress))
+      return picture(installation.dayPicture(
+          session, req.path.substr(std::string_view(shell::kPictureAddress).size())));
     if (options.testClock && req.method == "POST" && req.path == "/api/test/clock")
       return advanceTestClock(req);
     if (get && !req.path.starts_with("/api/"))
@@ -136,8 +141,7 @@ struct HttpServer::Impl {
   }
 
   // Kept by the browser for this page only: the next session must ask again.
-  HttpResponse portrait(const std::string& session, const std::string& guid) {
-    const FileReply reply = installation.portrait(session, guid);
+  HttpResponse picture(const FileReply& reply) {
     auto bytes = reply.status == 200 ? readWholeFile(reply.file) : std::nullopt;
     if (!bytes) return HttpResponse::error(reply.status == 200 ? 404 : reply.status, reply.error);
     HttpResponse res;

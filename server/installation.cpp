@@ -5,6 +5,7 @@
 #include "core/ids.h"
 #include "shell/app_manifest.h"
 #include "shell/lock/password_lock.h"
+#include "store/day_photo.h"
 #include "store/folders.h"
 
 namespace lad::server {
@@ -104,15 +105,32 @@ Reply Installation::event(const std::string& session, std::string_view body,
   });
 }
 
-FileReply Installation::portrait(const std::string& session, const std::string& guid) {
+// A file of the diary, shown only to a session that is open and unlocked.
+FileReply Installation::privateFile(const std::string& session,
+                                    const std::function<FileReply()>& find) {
   return loop_.call([&]() -> FileReply {
     const auto it = sessions_.find(session);
     if (it == sessions_.end() || it->second.session->locked())
-      return {403, {}, "the portrait is shown only to an unlocked session"};
+      return {403, {}, "the diary's pictures are shown only to an unlocked session"};
+    FileReply reply = find();
+    if (reply.status == 200 && !std::filesystem::is_regular_file(reply.file))
+      return {404, {}, "no such picture"};
+    return reply;
+  });
+}
+
+FileReply Installation::portrait(const std::string& session, const std::string& guid) {
+  return privateFile(session, [&]() -> FileReply {
     if (!isID(guid)) return {400, {}, "not a profile identifier"};
-    std::filesystem::path file = portraitFile(app_->context(), guid);
-    if (!std::filesystem::is_regular_file(file)) return {404, {}, "the profile has no portrait"};
-    return {200, std::move(file), {}};
+    return {200, portraitFile(app_->context(), guid), {}};
+  });
+}
+
+FileReply Installation::dayPicture(const std::string& session, const std::string& name) {
+  return privateFile(session, [&]() -> FileReply {
+    if (!isDayPictureName(name)) return {400, {}, "not the name of a day's picture"};
+    const std::filesystem::path documents = app_->context().documentsDir();
+    return {200, typeFilePath(documents, name) / name, {}};
   });
 }
 

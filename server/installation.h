@@ -46,6 +46,9 @@ class Installation {
   // A profile's portrait for a browser session: 403 to a session that is unknown or locked,
   // 400 for a guid that is not an identifier, 404 when the profile has no portrait.
   FileReply portrait(const std::string& session, const std::string& guid);
+  // A picture of a diary day ("dd-MM-yyyy.jpg", its "-s.jpg" small copy, or either with a
+  // child's guid before the date), under the same rule; 400 for any other name.
+  FileReply dayPicture(const std::string& session, const std::string& name);
   // The lock is on with a code: only then may other machines be served.
   bool passwordSet();
   // The edition's web app manifest (JSON).
@@ -68,6 +71,7 @@ class Installation {
     std::unique_ptr<shell::Session> session;
     std::uint64_t lastUse = 0;
   };
+  FileReply privateFile(const std::string& session, const std::function<FileReply()>& find);
   // Main loop only.
   shell::Session& sessionFor(const std::string& id, const std::string& host, Reply& reply);
   void evictOldestSession();

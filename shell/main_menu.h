@@ -37,9 +37,10 @@ class MainMenu : public Screen {
   // The open profile, or "" while every card is closed.
   const std::string& activeId() const { return activeId_; }
   void setActiveId(std::string gid) { activeId_ = std::move(gid); }
+  // Whether profiles are chosen by their cards (the pregnancy editions).
+  bool hasCards() const;
 
  private:
-  bool hasCards() const;
   List cardViews();
   EventResult tapCard(const std::string& guid);
   bool isBuilt(int id) const;

@@ -6,18 +6,32 @@
 #include <string>
 
 #include "shell/application.h"
+#include "shell/diary/diary_state.h"
 #include "shell/screen.h"
+#include "shell/screen_host.h"
 
 namespace lad::shell {
 
 inline constexpr int kTitlePage = 3;
 inline constexpr int kContractionsPage = 6;
+inline constexpr int kDiaryPage = 8;
+
+// What a page is made with: the installation, the session that shows it (for the screens it
+// opens), the profile, the browser's scale, and the diary's state in this session.
+struct PageArgs {
+  Application& app;
+  ScreenHost& host;
+  std::string gid;
+  double scale;
+  DiaryState& diary;
+  bool fromMenu;  // the user brought the page up, rather than a change of data
+};
 
 // Page ids (menu ids below 21) with a screen in this build.
 const std::set<int>& builtPages();
 
 // The screen of a built page for a profile, drawn at the browser's scale; nullptr for a page
 // without one.
-std::shared_ptr<Screen> makePage(int page, Application& app, const std::string& gid, double scale);
+std::shared_ptr<Screen> makePage(int page, const PageArgs& args);
 
 }  // namespace lad::shell

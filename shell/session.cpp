@@ -4,6 +4,7 @@
 #include <functional>
 
 #include "core/ids.h"
+#include "shell/diary/day_editor.h"
 #include "shell/pages.h"
 #include "shell/profile_editor.h"
 #include "shell/theme.h"
@@ -209,14 +210,25 @@ Value Session::ringView() {
       .toValue();
 }
 
-EventResult Session::openTab(int page) {
-  auto screen = makePage(page, app_, menu_.activeId(), metrics_.scaleX);
+// The profile the pages show: the open card of a pregnancy; the child's and the woman's
+// diaries have no cards yet, so theirs is the first profile, or the woman's fixed one.
+std::string Session::profileId() {
+  if (!menu_.activeId().empty() || menu_.hasCards()) return menu_.activeId();
+  const List profiles = loadProfils(app_.store());
+  return profiles.empty() ? newID2(1, 1) : profiles.front()["guid"].text();
+}
+
+std::shared_ptr<Screen> Session::pageScreen(int page, bool fromMenu) {
+  return makePage(page, {app_, *this, profileId(), metrics_.scaleX, diary_, fromMenu});
+}
+
+EventResult Session::openTab(int page, bool fromMenu) {
+  auto screen = pageScreen(page, fromMenu);
   if (!screen || !ring_.open(page)) return EventResult::refused("no page " + std::to_string(page));
   page_ = std::move(screen);
   // The page behind is prepared once, as the front one comes; it is rebuilt when it comes next.
   const auto back = ring_.back();
-  next_ =
-      back && *back != page ? makePage(*back, app_, menu_.activeId(), metrics_.scaleX) : nullptr;
+  next_ = back && *back != page ? pageScreen(*back, true) : nullptr;
   pagesVersion_ = app_.dataVersion();
   return {};
 }
@@ -225,7 +237,7 @@ EventResult Session::openTab(int page) {
 // of the user's work in progress lives with the installation, so a page built again loses
 // nothing.
 void Session::reopenPages() {
-  if (auto front = ring_.front()) openTab(*front);
+  if (auto front = ring_.front()) openTab(*front, false);
 }
 
 void Session::gotoNextPage() {
@@ -361,18 +373,23 @@ bool Session::atRoot() const {
   return !lock_ && stack_.empty() && !message_ && !popup_;
 }
 
-// Both shortcuts act on the active pregnancy. The contractions page opens when this build has
-// it; the new note waits for the diary screens, so it only chooses the pregnancy.
+// In the pregnancy editions both shortcuts act on the active pregnancy: the contraction counter
+// opens, or today's day of the diary. The other editions offer the new note only.
 void Session::quickStart() {
   Context& context = app_.context();
-  auto active = getActivePregnancy(app_.store(), context.clock().now());
-  if (!active) {
-    showMessage(
-        MessageBox::make(context, "Активная беременность не найдена", "Активная беременность"));
-    return;
+  if (isPregnancyEdition(context.values().appid)) {
+    auto active = getActivePregnancy(app_.store(), context.clock().now());
+    if (!active) {
+      showMessage(
+          MessageBox::make(context, "Активная беременность не найдена", "Активная беременность"));
+      return;
+    }
+    menu_.setActiveId(*active);
   }
-  menu_.setActiveId(*active);
-  if (pendingShortcut_ == "SCHVATKI") openTab(kContractionsPage);
+  if (pendingShortcut_ == "SCHVATKI")
+    openTab(kContractionsPage);
+  else
+    push(std::make_shared<DayEditor>(app_, *this, profileId(), context.clock().now()));
 }
 
 }  // namespace lad::shell

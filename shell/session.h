@@ -11,6 +11,7 @@
 
 #include "shell/application.h"
 #include "shell/background_list.h"
+#include "shell/diary/diary_state.h"
 #include "shell/lock/password_lock.h"
 #include "shell/main_menu.h"
 #include "shell/message_box.h"
@@ -86,7 +87,9 @@ class Session : public ScreenHost {
   EventResult becomeVisible();
   EventResult drag(const Value& event);
   EventResult tilt(const Value& event);
-  EventResult openTab(int page);
+  EventResult openTab(int page, bool fromMenu = true);
+  std::shared_ptr<Screen> pageScreen(int page, bool fromMenu);
+  std::string profileId();
   void reopenPages();
   void gotoNextPage();
   void gotoMenu();
@@ -109,6 +112,7 @@ class Session : public ScreenHost {
   PopupAction popupAction_;
   std::string pendingShortcut_;
   ScreenMetrics metrics_;
+  DiaryState diary_;
   bool appeared_ = false;
   bool lockDue_ = false;
 };

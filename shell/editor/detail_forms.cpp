@@ -67,6 +67,7 @@ bool formRows(const Context& c, const DetailForm& f, List& rows, Map& values) {
     case 2:
     case 8:
       rows.push_back(dictionaryList(c, f, f.parentflag == 1 ? 2 : 1, f.parentflag == 8 ? 2 : 1));
+      if (f.edit) rows.push_back(detailRow(c, kButton, "Добавить тип", kAddEntryField));
       values.set("list", f.dat);
       return true;
     case 3:

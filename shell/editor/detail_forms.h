@@ -18,6 +18,9 @@ struct DetailForm {
   bool edit = false;     // the list row may add entries
 };
 
+// The field of the button under a list that adds an entry to its dictionary.
+inline constexpr std::string_view kAddEntryField = "add";
+
 // The editor of the form; nullopt for a form number that has none.
 std::optional<FieldEditor> detailPrepare(const Context& context, const DetailForm& form);
 

@@ -26,6 +26,8 @@ Value corrected(const Map& row) {
       return source.isNull() ? source : Value(source.intValue());
     case kLongText:
       return Value(source.text());
+    case kList:
+      return source.asList() ? Value(tickedText(source)) : source;
     case kPhoto:
       return source.asBytes() ? source : Value();
     default:
@@ -34,6 +36,14 @@ Value corrected(const Map& row) {
 }
 
 }  // namespace
+
+std::string tickedText(const Value& source) {
+  const List* ticked = source.asList();
+  if (!ticked) return source.text();
+  std::string text;
+  for (const Value& id : *ticked) text += (text.empty() ? "" : "<tr>") + id.text();
+  return text;
+}
 
 void correctField(List& rows) {
   for (Value& row : rows) {

@@ -9,6 +9,10 @@
 
 namespace lad::shell {
 
+// The ticked entries of a list row (a list of ids as the browser sends them, or a text already)
+// joined by "<tr>", the way values keep them.
+std::string tickedText(const Value& source);
+
 // Scales write a value above 0 with the decimals of their type and empty anything else;
 // segments keep their number, long texts a text (never null), photographs their bytes only.
 void correctField(List& rows);

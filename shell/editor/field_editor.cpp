@@ -45,6 +45,13 @@ bool FieldEditor::change(std::string_view field, Value source) {
   return true;
 }
 
+bool FieldEditor::setEntries(std::string_view field, List entries) {
+  Map* m = field.empty() ? nullptr : find(field);
+  if (!m) return false;
+  m->set("listdata", std::move(entries));
+  return true;
+}
+
 std::optional<MessageBox> FieldEditor::close() {
   correctField(rows_);
   return checkField(context_, rows_);

@@ -24,6 +24,8 @@ class FieldEditor {
 
   // The user changed a field; false for a field the form does not have.
   bool change(std::string_view field, Value source);
+  // Gives a list row the entries it offers (maps with "id", "caption", "checked").
+  bool setEntries(std::string_view field, List entries);
 
   // Normalises the rows and checks them: the message of the first required row left empty,
   // or nullopt when the rows are ready to be taken.

@@ -1,5 +1,5 @@
-// A profile's portrait is served from the documents folder only to an unlocked session, and
-// only for a well-formed profile identifier.
+// A profile's portrait and the photos of diary days are served from the documents folder only
+// to an unlocked session, and only under the names the diary gives them.
 #include <gtest/gtest.h>
 
 #include "server_fixture.h"
@@ -73,6 +73,27 @@ TEST_F(PortraitRouteTest, OnlyAProfileIdentifierNamesAFile) {
   EXPECT_EQ(fetch("/doc/portrait/not-a-guid", session)->status, 400);
   EXPECT_EQ(fetch("/doc/portrait/00000000-0000-0000-0001-000000000002", session)->status, 404);
   EXPECT_EQ(settingsNow(), settings);
+}
+
+TEST_F(PortraitRouteTest, ADaysPhotoIsServedUnderItsOwnNamesOnly) {
+  const auto small = installation_->withContext(
+      [](Context& c) { return c.documentsDir() / "picture-s" / "23-11-2026-s.jpg"; });
+  std::filesystem::create_directories(small.parent_path());
+  writeFile(small, kJpeg);
+  const std::string session = openSession();
+  auto shown = fetch("/doc/picture/23-11-2026-s.jpg?v=1", session);
+  ASSERT_TRUE(shown);
+  EXPECT_EQ(shown->status, 200);
+  EXPECT_EQ(shown->body, kJpeg);
+  EXPECT_EQ(fetch("/doc/picture/23-11-2026-s.jpg", "")->status, 403);
+  for (const char* name : {"..%2Fpicture-s%2F23-11-2026-s.jpg", "23-11-26-s.jpg", "x23-11-2026.jpg",
+                           "23-11-2026.png", "child-23-11-2026.jpg", "%00"}) {
+    auto res = fetch(std::string("/doc/picture/") + name, session);
+    ASSERT_TRUE(res) << name;
+    EXPECT_EQ(res->status, 400) << name;
+  }
+  EXPECT_EQ(fetch("/doc/picture/24-11-2026.jpg", session)->status, 404);
+  EXPECT_EQ(fetch("/doc/picture/ABC-1-23-11-2026-s.jpg", session)->status, 404);
 }
 
 }  // namespace

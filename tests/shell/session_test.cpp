@@ -112,6 +112,9 @@ TEST_F(SessionTest, PagesOpenFromAnOpenCardAndLeaveByDragOrTilt) {
   EXPECT_EQ(s->frontPage(), 3);
   ASSERT_TRUE(s->handle(event(R"({"type":"drag","offset":-90,"width":320})")).ok());
   EXPECT_EQ(s->frontPage(), 6);
+  EXPECT_EQ(s->view()["next"]["title"].text(), "Дневник");
+  ASSERT_TRUE(s->handle(event(R"({"type":"drag","offset":-90,"width":320})")).ok());
+  EXPECT_EQ(s->frontPage(), 8);
   EXPECT_EQ(s->view()["next"]["title"].text(), "Графики ребенка");  // the ring wraps
   ASSERT_TRUE(s->handle(event(R"({"type":"drag","offset":-90,"width":320})")).ok());
   EXPECT_EQ(s->frontPage(), 3);

@@ -138,8 +138,19 @@ root.addEventListener('click', (event) => {
   const control = controlOf(event.target);
   if (control) tap(control);
 });
+// Inputs marked submit-only (the search) send on their form's submission alone.
 root.addEventListener('change', (event) => {
-  if (event.target instanceof HTMLElement) changed(event.target);
+  if (event.target instanceof HTMLElement && event.target.dataset.submitOnly === undefined) {
+    changed(event.target);
+  }
+});
+root.addEventListener('submit', (event) => {
+  event.preventDefault();
+  const input =
+    event.target instanceof HTMLFormElement
+      ? event.target.querySelector<HTMLElement>('[data-field]')
+      : null;
+  if (input) changed(input);
 });
 root.addEventListener('focusout', (event) => {
   if (event.target instanceof HTMLElement && holdsUnsentValue(event.target)) changed(event.target);

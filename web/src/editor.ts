@@ -143,13 +143,22 @@ function labelled(row: EditorRow, input: HTMLElement): HTMLElement {
 }
 
 function bind(input: HTMLElement, row: EditorRow, read: () => unknown): void {
-  if (row.id) input.dataset.field = row.id;
+  bindInput(input, row.id, read);
+}
+
+/** Makes an input send its value to the target when it changes; read gives the value. */
+export function bindInput(
+  input: HTMLElement,
+  target: string | undefined,
+  read: () => unknown,
+): void {
+  if (target) input.dataset.field = target;
   readers.set(input, async () => read());
 }
 
 /** A typed input remembers the value it was drawn with, so that a redraw can tell it was changed. */
-function bindTyped(input: Typed, row: EditorRow, read: () => unknown): void {
-  bind(input, row, read);
+export function bindTyped(input: Typed, target: string | undefined, read: () => unknown): void {
+  bindInput(input, target, read);
   input.dataset.rendered = input.value;
 }
 
@@ -161,7 +170,7 @@ function timeInput(row: EditorRow): HTMLInputElement {
   const input = element('input', 'editor-input');
   input.type = 'time';
   input.value = sourceText(row);
-  bindTyped(input, row, () => input.value);
+  bindTyped(input, row.id, () => input.value);
   return input;
 }
 
@@ -171,7 +180,7 @@ function textInput(row: EditorRow, mode: 'text' | 'decimal'): HTMLInputElement {
   input.inputMode = mode;
   input.value = sourceText(row);
   if (row.editcap) input.placeholder = row.editcap;
-  bindTyped(input, row, () => input.value);
+  bindTyped(input, row.id, () => input.value);
   return input;
 }
 
@@ -179,7 +188,7 @@ function longText(row: EditorRow): HTMLTextAreaElement {
   const area = element('textarea', 'editor-input editor-long');
   area.value = sourceText(row);
   if (row.editcap) area.placeholder = row.editcap;
-  bindTyped(area, row, () => area.value);
+  bindTyped(area, row.id, () => area.value);
   return area;
 }
 
@@ -223,7 +232,7 @@ function photo(row: EditorRow): HTMLElement {
 
 /** The picture upright and no larger than the server needs, as a JPEG data URL. A picture
  *  the browser cannot decode goes as it is, for the server to say why it cannot take it. */
-async function photoDataUrl(file: Blob): Promise<string> {
+export async function photoDataUrl(file: Blob): Promise<string> {
   const bitmap = await createImageBitmap(file).catch(() => null);
   if (!bitmap) return fileDataUrl(file);
   const scale = Math.min(1, PHOTO_MAX_SIDE / Math.max(bitmap.width, bitmap.height));

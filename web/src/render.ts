@@ -1,10 +1,11 @@
 // Turns a view description into DOM. All text shown comes from the description itself.
+import { addSwipeToDelete, renderButton } from './controls.js';
+import { renderDayEditor, renderDiary } from './diary.js';
 import { element } from './dom.js';
 import { renderIcon, renderPicture } from './pictures.js';
 import { renderEditor } from './editor.js';
 import { renderRing } from './ring.js';
 import type {
-  ButtonNode,
   ButtonsNode,
   CardNode,
   FingerprintKeyNode,
@@ -45,7 +46,13 @@ export function render(node: ViewNode): HTMLElement | null {
     case 'card':
       return renderCard(node);
     case 'ring':
-      return renderRing(node, renderPage);
+      return renderRing(node, (page) =>
+        page.kind === 'diary' ? renderDiary(page) : renderPage(page),
+      );
+    case 'diary':
+      return renderDiary(node);
+    case 'dayEditor':
+      return renderDayEditor(node);
     case 'lock':
       return renderLock(node);
     case 'editor':
@@ -157,15 +164,6 @@ function renderButtons(node: ButtonsNode): HTMLElement {
   return row;
 }
 
-/** A button that sends a tap with its id; a disabled one sends nothing. */
-function renderButton(node: ButtonNode): HTMLElement {
-  const button = element('button', 'action', node.caption);
-  button.type = 'button';
-  button.dataset.id = node.id;
-  button.disabled = node.enabled === false;
-  return button;
-}
-
 function renderMessage(node: MessageNode): HTMLElement {
   const cover = element('div', 'modal');
   const box = element('div', 'message');
@@ -254,25 +252,4 @@ function renderTimer(node: TimerNode): HTMLElement {
   timer.classList.toggle('running', node.running);
   timer.hidden = !node.visible;
   return timer;
-}
-
-const SWIPE_DISTANCE_PX = 40;
-
-/**
- * A swipe to the left reveals the row's delete button; one to the right hides it again. The
- * row owns the sideways gestures that start on it: the page does not follow them (gestures.ts).
- */
-function addSwipeToDelete(row: HTMLElement, target: string, caption: string): void {
-  const remove = renderButton({ id: target, caption });
-  remove.classList.add('delete');
-  row.classList.add('swipeable');
-  row.append(remove);
-  let startX: number | null = null;
-  row.addEventListener('pointerdown', (event) => (startX = event.clientX));
-  row.addEventListener('pointerup', (event) => {
-    if (startX === null) return;
-    const dx = event.clientX - startX;
-    startX = null;
-    if (Math.abs(dx) >= SWIPE_DISTANCE_PX) row.classList.toggle('swiped', dx < 0);
-  });
 }

@@ -6,7 +6,10 @@ import type { PopupNode, Screen } from './view.js';
 
 export function show(root: HTMLElement, view: Screen): void {
   const next = render(view);
-  const scroll = next && rowIds(root) === rowIds(next) ? window.scrollY : 0;
+  // The same rows, or more of them after the list grew: the place on the page stays.
+  const shown = rowIds(root);
+  const same = next !== null && shown !== '' && rowIds(next).startsWith(shown);
+  const scroll = same || (next && shown === '' && rowIds(next) === '') ? window.scrollY : 0;
   const popup = view.popup ? (keptPopup(root, view.popup) ?? renderPopup(view.popup)) : null;
   const message = view.message ? render(view.message) : null;
   // Taking a kept popup out of the page loses its wheels' places: they are put back.
@@ -21,8 +24,11 @@ export function show(root: HTMLElement, view: Screen): void {
   refocus?.();
   for (const [wheel, top] of wheels) wheel.scrollTop = top;
   window.scrollTo(0, scroll);
+  // A new list opens at the row it names, the day edited last or today.
+  if (!same)
+    root.querySelector<HTMLElement>('[data-scroll-to]')?.scrollIntoView({ block: 'center' });
   applyTheme(view);
-  if (view.kind === 'page') document.title = view.title;
+  if (view.kind === 'page' || view.kind === 'diary') document.title = view.title;
   if (view.kind === 'welcome') document.title = view.caption;
   (message ?? popup)?.querySelector<HTMLElement>('input, button')?.focus();
 }
@@ -49,8 +55,12 @@ function isLight(colour: string): boolean {
   return 0.299 * r + 0.587 * g + 0.114 * b > 127.5;
 }
 
+/** The rows the user can reach: those of the pages behind the front one (inert) are left out. */
 function rowIds(node: ParentNode): string {
-  return Array.from(node.querySelectorAll<HTMLElement>('.row'), (row) => row.dataset.id).join('\n');
+  return Array.from(node.querySelectorAll<HTMLElement>('.row'))
+    .filter((row) => !row.closest('[inert]'))
+    .map((row) => row.dataset.id)
+    .join('\n');
 }
 
 /** The popup on screen if it is the one described: what the user typed or scrolled stays. */

@@ -105,8 +105,8 @@ export interface CardNode {
 /** A page of the ring in front of the menu, the page waiting behind it, and the menu. */
 export interface RingNode {
   kind: 'ring';
-  page: PageNode;
-  next?: PageNode;
+  page: PageNode | DiaryNode;
+  next?: PageNode | DiaryNode;
   menu: PageNode;
   /** The tap that slides the page aside to uncover the menu. */
   toMenu: string;
@@ -283,6 +283,79 @@ export interface HelpHintNode {
   id: string;
 }
 
+/** One line of a multi-line field of a day; in the day editor a target for its entry. */
+export interface DayLine {
+  time: string;
+  text: string;
+  id?: string;
+}
+
+/** A field of a day: its icon and text or lines; weight and height carry an in-place number. */
+export interface DayRow {
+  id?: string;
+  icon: string;
+  caption: string;
+  text: string;
+  lines: DayLine[];
+  enabled: boolean;
+  number?: string;
+}
+
+export interface DiarySectionNode {
+  kind: 'diarySection';
+  caption: string;
+  span: string;
+}
+
+/** A day in the diary's list: tapping opens it, a swipe to the left offers to delete it. */
+export interface DayCellNode {
+  kind: 'dayCell';
+  id: string;
+  day: string;
+  weekday: string;
+  state: string;
+  today: boolean;
+  illness: boolean;
+  rows: DayRow[];
+  photo: string;
+  deleteTarget: string;
+  deleteCaption: string;
+}
+
+/** The diary: search, year, "+" and the days under their sections; `more` asks for more days. */
+export interface DiaryNode {
+  kind: 'diary';
+  title: string;
+  add: string;
+  search: string;
+  searchTarget: string;
+  searchHint: string;
+  year?: { caption: string; back: ButtonNode; forward: ButtonNode };
+  message: string;
+  items: Array<DiarySectionNode | DayCellNode>;
+  more: string;
+  scrollTo: string;
+}
+
+/** The editor of one day: its date with the ways to other days, its fields and its photograph. */
+export interface DayEditorNode {
+  kind: 'dayEditor';
+  title: string;
+  close: ButtonNode;
+  prev: ButtonNode;
+  next: ButtonNode;
+  date: ButtonNode;
+  rows: DayRow[];
+  photo: {
+    caption: string;
+    picture: string;
+    change: string;
+    camera: ButtonNode;
+    album: ButtonNode;
+    clear: ButtonNode;
+  };
+}
+
 export type PopupNode = QuestionNode | PopupMenuNode | ListChoiceNode | PickerNode;
 
 export type ViewNode =
@@ -299,7 +372,11 @@ export type ViewNode =
   | LockNode
   | SvgNode
   | TimerNode
-  | EditorNode;
+  | EditorNode
+  | DiaryNode
+  | DiarySectionNode
+  | DayCellNode
+  | DayEditorNode;
 
 /**
  * What the server sends: the screen on top, with a popup and a message over it while open,

@@ -1,0 +1,27 @@
+// What the diary list keeps for a browser across its rebuilds: the year shown, the search, the
+// day last edited, and how far the list has been scrolled open.
+#pragma once
+
+#include <optional>
+#include <string>
+
+#include "core/dates.h"
+
+namespace lad::shell {
+
+struct DiaryState {
+  std::string gid;                 // the profile the rest belongs to
+  int year = 0;                    // child: year of life from 1; woman: calendar year; 0 unset
+  std::string search;              // the text of the last search, "" for none
+  std::optional<Date> lastEdited;  // the list comes back to this day once
+  std::size_t shown = 0;           // how many days the browser has been sent
+
+  // Starts afresh for another profile.
+  void keepFor(const std::string& profile) {
+    if (profile == gid) return;
+    *this = DiaryState();
+    gid = profile;
+  }
+};
+
+}  // namespace lad::shell

@@ -1,0 +1,175 @@
+// Browser test of the diary in each of the three editions, on a fresh installation at phone
+// size: a day recorded with a weight, a pressure where the edition keeps one, a note, an entry
+// of the dictionary and a photo; seen in the list under its section; found by search in either
+// case; edited; left for the next day and back; deleted with its photo files. Screenshots of the
+// list and the editor at phone and tablet size.
+//   node tests/e2e/diary.test.mjs --server PATH_TO_SERVER --out SCREENSHOT_DIR
+import assert from 'node:assert/strict';
+import fs from 'node:fs';
+import path from 'node:path';
+import { TABLET, onNewInstallation, openPastGreeting, runBrowserTest } from './harness.mjs';
+
+const EDITIONS = [
+  { program: 'ladaneya', pressure: true, dictionaryRow: 'ne-doctor.png', section: /неделя/ },
+  { program: 'krohomir', pressure: false, dictionaryRow: 'ne-doctor.png', section: /месяц/ },
+  { program: 'lunoveya', pressure: false, dictionaryRow: 'ne-health128.png', section: /^\p{Lu}/u },
+];
+
+/** The field row of the day editor with this icon. */
+const fieldRow = (icon) => `.day-field:has(img[src$="/${icon}"])`;
+
+/** Waits until every event the page sent has its answer drawn. */
+async function settled(page) {
+  await page.waitForFunction(() => !document.getElementById('app')?.classList.contains('busy'));
+}
+
+/** The diary page of the installation: a pregnancy's opens under its card. */
+async function openDiary(page) {
+  const card = await page.$('.card[data-id]');
+  if (card) await card.tap();
+  await page.tap('[data-id="menu:8"]');
+  await page.waitForSelector('.diary .day-cell, .diary-message');
+}
+
+/** Opens a field's form from the day editor, runs `fill`, and commits it. */
+async function editField(page, icon, fill) {
+  await page.tap(`${fieldRow(icon)}`);
+  await page.waitForSelector('.editor');
+  await fill();
+  await page.tap('.editor-ok');
+  await page.waitForSelector('.day-editor');
+}
+
+async function recordDay(page, edition, photo) {
+  await page.tap('.diary-add');
+  await page.waitForSelector('.day-editor');
+  const weight = page.locator(`${fieldRow('ne-weight.png')} input`);
+  await weight.fill('60,5');
+  await weight.blur();
+  await settled(page);
+  if (edition.pressure) {
+    await editField(page, 'ne-pressure.png', async () => {
+      await page.fill('[data-field="field:pressure1"]', '120');
+      await page.fill('[data-field="field:pressure2"]', '80');
+    });
+    await page.waitForSelector(`${fieldRow('ne-pressure.png')} .day-line`);
+  }
+  await editField(page, 'ne-notepad.png', () =>
+    page.fill('[data-field="field:text"]', 'Первое шевеление'),
+  );
+  await editField(page, edition.dictionaryRow, () => page.tap('.editor-entry >> nth=0'));
+  await page.setInputFiles('.day-photo-input:not(:first-child) input', photo);
+  await page.waitForSelector('.day-photo-picture[src^="data:image/jpeg"]');
+}
+
+async function searchFinds(page, text) {
+  await page.fill('.diary-search-input', text);
+  await page.press('.diary-search-input', 'Enter');
+  await page.waitForFunction(
+    (t) =>
+      document.querySelector('.diary-search-input')?.value === t &&
+      document.querySelectorAll('.day-cell').length === 1,
+    text,
+  );
+}
+
+/** A photo file of the day's, full size or small, kept among the pictures. */
+function dayPictures(dataDir) {
+  const found = [];
+  const walk = (dir) => {
+    for (const entry of fs.readdirSync(dir, { withFileTypes: true })) {
+      const full = path.join(dir, entry.name);
+      if (entry.isDirectory()) walk(full);
+      else if (/\d\d-\d\d-\d{4}(-s)?\.jpg$/.test(entry.name)) found.push(full);
+    }
+  };
+  walk(dataDir);
+  return found;
+}
+
+async function checkEdition(browser, executable, edition, outDir) {
+  const server = path.join(path.dirname(executable), edition.program);
+  await onNewInstallation(
+    server,
+    async ({ base, dataDir }) => {
+      const { context, page, errors } = await openPastGreeting(browser, base);
+      const photo = path.join(dataDir, 'photo.png');
+      fs.writeFileSync(photo, await page.screenshot());
+      await openDiary(page);
+      await recordDay(page, edition, photo);
+      await page.screenshot({ path: path.join(outDir, `diary-${edition.program}-editor.png`) });
+      await page.tap('.day-editor .editor-ok');
+      await page.waitForSelector('.diary .day-cell.today');
+
+      // The day under its section, with what was recorded.
+      const today = page.locator('.day-cell.today');
+      assert.match(await today.textContent(), /Первое шевеление/);
+      assert.equal(await today.locator('.day-thumbnail').count(), 1);
+      const section = await page.evaluate(() => {
+        let node = document.querySelector('.day-cell.today');
+        while (node && !node.matches('.diary-section')) node = node.previousElementSibling;
+        return node?.firstChild?.textContent ?? '';
+      });
+      assert.match(section, edition.section);
+      assert.equal(dayPictures(dataDir).length, 2, 'the photo and its small copy');
+      await page.screenshot({ path: path.join(outDir, `diary-${edition.program}-list.png`) });
+
+      await searchFinds(page, 'вес');
+      await searchFinds(page, 'ВЕС');
+      await page.tap('.diary-search-cancel');
+      await page.waitForFunction(() => document.querySelectorAll('.day-cell').length > 1);
+
+      // Edited, then to the next day and back: the change was kept.
+      await page.tap('.day-cell.today .day-rows');
+      await page.waitForSelector('.day-editor');
+      await editField(page, 'ne-notepad.png', () =>
+        page.fill('[data-field="field:text"]', 'Шевеление стало сильнее'),
+      );
+      const date = await page.textContent('.day-editor-date');
+      await page.tap('.day-editor-header button:nth-child(3)');
+      await page.waitForFunction(
+        (d) => document.querySelector('.day-editor-date')?.textContent !== d,
+        date,
+      );
+      await page.tap('.day-editor-header button:nth-child(1)');
+      await page.waitForFunction(
+        (d) => document.querySelector('.day-editor-date')?.textContent === d,
+        date,
+      );
+      assert.match(await page.textContent(fieldRow('ne-notepad.png')), /Шевеление стало сильнее/);
+      await page.tap('.day-editor .editor-ok');
+      await page.waitForSelector('.diary .day-cell.today');
+
+      // A swipe to the left offers the deletion; it is asked, and the photo files go.
+      const box = await today.boundingBox();
+      await today.dispatchEvent('pointerdown', { clientX: box.x + box.width - 20 });
+      await today.dispatchEvent('pointerup', { clientX: box.x + 40 });
+      await page.tap('.day-cell.today .delete');
+      await page.waitForSelector('.popup-cover');
+      await page.tap('.popup-cover button[data-id="popup:1"]');
+      await page.waitForFunction(
+        () => !/Шевеление/.test(document.querySelector('.day-cell.today')?.textContent ?? ''),
+      );
+      assert.deepEqual(dayPictures(dataDir), []);
+      assert.deepEqual(errors, []);
+      await context.close();
+
+      const tablet = await openPastGreeting(browser, base, { device: TABLET });
+      await openDiary(tablet.page);
+      await tablet.page.screenshot({
+        path: path.join(outDir, `diary-${edition.program}-list-tablet.png`),
+      });
+      await tablet.page.tap('.diary-add');
+      await tablet.page.waitForSelector('.day-editor');
+      await tablet.page.screenshot({
+        path: path.join(outDir, `diary-${edition.program}-editor-tablet.png`),
+      });
+      await tablet.context.close();
+    },
+    { name: edition.program },
+  );
+}
+
+await runBrowserTest('diary', async ({ browser, executable, outDir }) => {
+  for (const edition of EDITIONS) await checkEdition(browser, executable, edition, outDir);
+});

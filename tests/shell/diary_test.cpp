@@ -1,0 +1,239 @@
+// The diary as a browser drives it: days recorded in the day editor, found in the list and by
+// search, moved between, deleted with their files, and the refusals that keep a day intact.
+#include <gtest/gtest.h>
+
+#include <filesystem>
+
+#include "core/atomic_file.h"
+#include "core/base64.h"
+#include "core/text_fold.h"
+#include "platform/images.h"
+#include "shell/session.h"
+#include "store/day_photo.h"
+#include "store/records.h"
+#include "store/store.h"
+#include "tests/shell/application_fixture.h"
+
+namespace lad::shell {
+namespace {
+
+class DiaryTest : public lad::testing::ApplicationTest {
+ protected:
+  DiaryTest() { launchApp(); }
+
+  Value event(const std::string& type, const std::string& target, Value value = Value()) {
+    Map m;
+    m.set("type", type);
+    m.set("target", target);
+    if (!value.isNull()) m.set("value", std::move(value));
+    return Value(std::move(m));
+  }
+  EventResult tap(Session& s, const std::string& target) { return s.handle(event("tap", target)); }
+  EventResult change(Session& s, const std::string& target, Value value) {
+    return s.handle(event("change", target, std::move(value)));
+  }
+
+  std::unique_ptr<Session> greeted() {
+    auto s = std::make_unique<Session>(*app);
+    if (s->view()["kind"].text() == "welcome") {
+      EXPECT_TRUE(tap(*s, "welcome:close").ok());
+    }
+    return s;
+  }
+  // Today's day editor, through the home-screen shortcut.
+  std::unique_ptr<Session> todayEditor() {
+    auto s = greeted();
+    EXPECT_TRUE(s->handle(*Value::fromJson(R"({"type":"shortcut","name":"NEWNOTE"})")).ok());
+    EXPECT_TRUE(s->handle(*Value::fromJson(R"({"type":"visible"})")).ok());
+    EXPECT_EQ(s->view()["kind"].text(), "dayEditor");
+    return s;
+  }
+  // The target of the editor's row whose icon is given.
+  static std::string rowTarget(Session& s, const std::string& icon, const char* prefix = nullptr) {
+    const Value view = s.view();
+    for (const Value& row : *view["rows"].asList())
+      if (row["icon"].text() == icon) {
+        const std::string id = row["id"].text();
+        return prefix ? prefix + id.substr(id.rfind(':') + 1) : id;
+      }
+    ADD_FAILURE() << "no row " << icon;
+    return "";
+  }
+  std::string stored(const std::string& type) {
+    StoreBracket bracket = app->store().connectToBase();
+    return getDateValue(app->store(), bracket, clock->now(), type, gid());
+  }
+  std::string gid() {
+    StoreBracket bracket = app->store().connectToBase();
+    auto q = bracket.db()->prepare("select pregguid from preg where deleted=0");
+    return q.step() ? q.columnText(0).value_or("") : "";
+  }
+  // The diary page in front of the menu, its days' cells.
+  static Value diary(Session& s) { return s.view()["page"]; }
+  static std::vector<std::string> cellDays(Session& s) {
+    std::vector<std::string> days;
+    const Value page = diary(s);
+    for (const Value& item : *page["items"].asList())
+      if (item["kind"].text() == "dayCell") days.push_back(item["id"].text());
+    return days;
+  }
+  static std::string jpegUrl() {
+    Image image{400, 200, std::vector<std::uint8_t>(400 * 200 * 3, 128)};
+    const auto jpeg = encodeJpeg(image, 80);
+    return "data:image/jpeg;base64," + base64Encode(Bytes(jpeg.begin(), jpeg.end()));
+  }
+};
+
+TEST_F(DiaryTest, ADayRecordedInTheEditorIsListedUnderItsWeekAndFoundBySearch) {
+  auto s = todayEditor();
+  ASSERT_TRUE(change(*s, rowTarget(*s, "ne-weight.png", "day:number:"), Value("60,5")).ok());
+
+  ASSERT_TRUE(tap(*s, rowTarget(*s, "ne-notepad.png")).ok());
+  ASSERT_EQ(s->view()["kind"].text(), "editor");
+  ASSERT_TRUE(change(*s, "field:text", Value("Первое шевеление")).ok());
+  ASSERT_TRUE(tap(*s, "editor:ok").ok());
+
+  // An illness the dictionary lacks is added from the list and ticked at once.
+  ASSERT_TRUE(tap(*s, rowTarget(*s, "ne-doctor.png")).ok());
+  ASSERT_TRUE(tap(*s, "field:add").ok());
+  ASSERT_TRUE(change(*s, "field:name", Value("Ветрянка")).ok());
+  ASSERT_TRUE(tap(*s, "editor:ok").ok());
+  ASSERT_TRUE(tap(*s, "editor:ok").ok());
+  EXPECT_EQ(s->view()["kind"].text(), "dayEditor");
+  EXPECT_EQ(stored("ves"), "") << "nothing is stored before the day is left";
+
+  const EventResult closed = tap(*s, "day:close");
+  ASSERT_TRUE(closed.ok());
+  EXPECT_TRUE(closed.installationChanged);
+  EXPECT_EQ(stored("ves"), "60.500");
+  EXPECT_EQ(stored("note"), "Первое шевеление");
+  EXPECT_FALSE(stored("bolezn").empty());
+
+  settings().set("emptyNote", true);  // "don't show empty days"
+  ASSERT_TRUE(tap(*s, "menu:8").ok());
+  const Value page = diary(*s);
+  ASSERT_EQ(page["kind"].text(), "diary");
+  const List& items = *page["items"].asList();
+  ASSERT_EQ(items.size(), 2u);
+  EXPECT_EQ(items[0]["kind"].text(), "diarySection");
+  EXPECT_NE(items[0]["caption"].text().find("неделя"), std::string::npos);
+  std::string texts;
+  for (const Value& row : *items[1]["rows"].asList()) texts += row["text"].text() + "|";
+  EXPECT_NE(texts.find("Первое шевеление"), std::string::npos) << texts;
+  EXPECT_NE(texts.find("Ветрянка"), std::string::npos) << texts;
+  EXPECT_EQ(page["scrollTo"].text(), items[1]["id"].text());
+
+  // Searches: a field's name in any case, a word of a text with "ё" for "е", and a miss.
+  for (const char* found : {"вес", "ВЕС", "болезнь", "шевеление", "ВЕТРЯНКА"}) {
+    ASSERT_TRUE(change(*s, "diary:search", Value(found)).ok());
+    EXPECT_EQ(cellDays(*s).size(), 1u) << found;
+  }
+  for (const char* missed : {"температура", "ёлка"}) {
+    ASSERT_TRUE(change(*s, "diary:search", Value(missed)).ok());
+    EXPECT_TRUE(cellDays(*s).empty()) << missed;
+    EXPECT_EQ(diary(*s)["message"].text(),
+              "Нет данных. Для добавление записей или фотографий нажмите на кнопку +.");
+  }
+  ASSERT_TRUE(change(*s, "diary:search", Value("")).ok());
+  EXPECT_EQ(cellDays(*s).size(), 1u);
+}
+
+TEST_F(DiaryTest, RefusedValuesStoreNothingAndAnUnchangedDayIsNotWritten) {
+  auto s = todayEditor();
+  const std::string weight = rowTarget(*s, "ne-weight.png", "day:number:");
+  ASSERT_TRUE(change(*s, weight, Value("шестьдесят")).ok());
+  EXPECT_EQ(s->view()["message"]["caption"].text(), "Ошибка");
+  ASSERT_TRUE(tap(*s, "message:ok").ok());
+  ASSERT_TRUE(change(*s, "day:photo", Value("data:image/jpeg;base64,AAAA")).ok());
+  EXPECT_EQ(s->view()["message"]["text"].text(), "Не удалось прочитать фотографию");
+  ASSERT_TRUE(tap(*s, "message:ok").ok());
+  EXPECT_FALSE(s->view()["photo"]["picture"].text().starts_with("data:"));
+
+  // Nothing took: moving on writes nothing, and the day before and back show the same day.
+  const std::string title = s->view()["title"].text();
+  const EventResult next = tap(*s, "day:next");
+  EXPECT_FALSE(next.installationChanged);
+  ASSERT_TRUE(tap(*s, "day:prev").ok());
+  EXPECT_EQ(s->view()["title"].text(), title);
+  EXPECT_EQ(stored("ves"), "");
+  EXPECT_FALSE(tap(*s, "day:row:999").ok());
+  EXPECT_FALSE(change(*s, "day:number:0", Value("1")).ok()) << "row 0 is not a number";
+}
+
+TEST_F(DiaryTest, TheDayPhotoIsWrittenWithItsSmallCopyAndGoesWithTheDeletedDay) {
+  auto s = todayEditor();
+  ASSERT_TRUE(change(*s, "day:photo", Value(jpegUrl())).ok());
+  EXPECT_TRUE(s->view()["photo"]["picture"].text().starts_with("data:image/jpeg"));
+  ASSERT_TRUE(tap(*s, "day:close").ok());
+  const DayPhotoFiles files = dayPhotoFiles(app->context(), clock->now(), gid());
+  std::string why;
+  const std::string bytes = readWholeFile(files.small).value_or("");
+  const auto small =
+      decodeImage({reinterpret_cast<const std::uint8_t*>(bytes.data()), bytes.size()}, &why);
+  ASSERT_TRUE(small) << why;
+  EXPECT_EQ(small->width, 160);
+  EXPECT_EQ(small->height, 80);
+  ASSERT_TRUE(std::filesystem::exists(files.full));
+
+  const std::vector<std::string> everyDay = (tap(*s, "menu:8"), cellDays(*s));
+  EXPECT_GT(everyDay.size(), 1u) << "by default the days without entries are listed too";
+  settings().set("emptyNote", true);
+  ASSERT_TRUE(tap(*s, "ring:menu").ok());
+  ASSERT_TRUE(tap(*s, "menu:8").ok());
+  const std::vector<std::string> days = cellDays(*s);
+  ASSERT_EQ(days.size(), 1u) << "a day with only a photo is listed";
+  const std::string day = days[0].substr(days[0].rfind(':') + 1);
+  ASSERT_TRUE(tap(*s, "diary:delete:" + day).ok());
+  ASSERT_TRUE(tap(*s, "popup:0").ok());  // "Нет" keeps it
+  EXPECT_TRUE(std::filesystem::exists(files.small));
+  ASSERT_TRUE(tap(*s, "diary:delete:" + day).ok());
+  const EventResult deleted = tap(*s, "popup:1");
+  EXPECT_TRUE(deleted.installationChanged);
+  EXPECT_FALSE(std::filesystem::exists(files.full));
+  EXPECT_FALSE(std::filesystem::exists(files.small));
+  EXPECT_TRUE(cellDays(*s).empty());
+}
+
+TEST_F(DiaryTest, ADayDeletedInAnotherBrowserIsNotBroughtBackWithoutAsking) {
+  auto first = todayEditor();
+  ASSERT_TRUE(change(*first, rowTarget(*first, "ne-weight.png", "day:number:"), Value("61")).ok());
+  ASSERT_TRUE(tap(*first, "day:close").ok());
+
+  auto editing = todayEditor();
+  ASSERT_TRUE(
+      change(*editing, rowTarget(*editing, "ne-weight.png", "day:number:"), Value("62")).ok());
+  noteDeleteValue(app->store(), clock->now(), std::nullopt, gid());  // the other browser
+
+  ASSERT_TRUE(tap(*editing, "day:close").ok());
+  EXPECT_EQ(editing->view()["popup"]["kind"].text(), "question");
+  EXPECT_EQ(stored("ves"), "");
+  ASSERT_TRUE(tap(*editing, "popup:0").ok());  // "Нет": the deletion stands
+  EXPECT_EQ(stored("ves"), "");
+  EXPECT_NE(editing->view()["kind"].text(), "dayEditor");
+}
+
+TEST_F(DiaryTest, TheChildsDiaryYearStaysBetweenTheFirstAndTheFourteenth) {
+  launchApp(2);
+  auto s = greeted();
+  ASSERT_TRUE(tap(*s, "menu:8").ok());
+  EXPECT_EQ(diary(*s)["year"]["caption"].text(), "1-й год");
+  EXPECT_FALSE(tap(*s, "diary:year:back").ok());
+  for (int year = 2; year <= 14; ++year) ASSERT_TRUE(tap(*s, "diary:year:forward").ok()) << year;
+  EXPECT_EQ(diary(*s)["year"]["caption"].text(), "14-й год");
+  EXPECT_FALSE(diary(*s)["year"]["forward"]["enabled"].boolValue());
+  EXPECT_FALSE(tap(*s, "diary:year:forward").ok());
+}
+
+TEST(TextFold, LatinAndRussianLettersFoldAndYoReadsAsYe) {
+  const std::pair<const char*, const char*> cases[] = {{"ВЕС", "вес"},
+                                                       {"АБВГДЕЖЗИЙКЛМНОП", "абвгдежзийклмноп"},
+                                                       {"РСТУФХЦЧШЩЪЫЬЭЮЯ", "рстуфхцчшщъыьэюя"},
+                                                       {"Ёлка ёж", "елка еж"},
+                                                       {"Week 5 ДЕНЬ", "week 5 день"},
+                                                       {"\xD0", "\xD0"},
+                                                       {"ü Ü", "ü Ü"}};
+  for (const auto& [text, folded] : cases) EXPECT_EQ(foldCase(text), folded) << text;
+}
+
+}  // namespace
+}  // namespace lad::shell

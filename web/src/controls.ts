@@ -1,0 +1,33 @@
+// Controls shared by the screens: buttons that send a tap, rows that a swipe offers to delete.
+import { element } from './dom.js';
+import type { ButtonNode } from './view.js';
+
+/** A button that sends a tap with its id; a disabled one sends nothing. */
+export function renderButton(node: ButtonNode): HTMLElement {
+  const button = element('button', 'action', node.caption);
+  button.type = 'button';
+  button.dataset.id = node.id;
+  button.disabled = node.enabled === false;
+  return button;
+}
+
+const SWIPE_DISTANCE_PX = 40;
+
+/**
+ * A swipe to the left reveals the row's delete button; one to the right hides it again. The
+ * row owns the sideways gestures that start on it: the page does not follow them (gestures.ts).
+ */
+export function addSwipeToDelete(row: HTMLElement, target: string, caption: string): void {
+  const remove = renderButton({ id: target, caption });
+  remove.classList.add('delete');
+  row.classList.add('swipeable');
+  row.append(remove);
+  let startX: number | null = null;
+  row.addEventListener('pointerdown', (event) => (startX = event.clientX));
+  row.addEventListener('pointerup', (event) => {
+    if (startX === null) return;
+    const dx = event.clientX - startX;
+    startX = null;
+    if (Math.abs(dx) >= SWIPE_DISTANCE_PX) row.classList.toggle('swiped', dx < 0);
+  });
+}
