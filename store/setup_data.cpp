@@ -1,5 +1,6 @@
 #include "store/setup_data.h"
 
+#include <span>
 #include <system_error>
 
 #include "core/context.h"
@@ -7,6 +8,7 @@
 #include "core/ids.h"
 #include "store/folders.h"
 #include "store/store.h"
+#include "store/tables.h"
 
 namespace lad {
 
@@ -15,80 +17,103 @@ namespace {
 constexpr int kPregnancyDays = 280;
 constexpr int kConceptionDays = 14;
 
-// A text column kept in the dictionary only when it holds a value.
-void setText(Map& setup, std::string_view key, const std::optional<std::string>& text) {
-  if (text) setup.set(key, *text);
-}
-
-// A "yyyy-MM-dd" column: its text under one key and its date under another.
-void setDay(Map& setup, const DateCodec& dates, std::string_view textKey, std::string_view dateKey,
-            const std::optional<std::string>& text) {
-  if (!text) return;
-  setup.set(textKey, *text);
-  if (auto date = dates.dateFromStringFormat(*text, "yyyy-MM-dd")) setup.set(dateKey, *date);
-}
-
-void overlayPregnancy(const Context& context, const SqliteStatement& row, Map& setup) {
-  const DateCodec& dates = context.dates();
-  if (!row.isNull(0)) setup.set("metrics", row.columnInt(0));
-  if (!row.isNull(1)) setup.set("bodytype", row.columnInt(1));
-  if (!row.isNull(2)) setup.set("sex", row.columnInt(2));
-  setText(setup, "ves", row.columnText(3));
-  setText(setup, "rost", row.columnText(4));
-  setText(setup, "name", row.columnText(5));
-  // The row's presence shows in "sdat1", also where the column is empty.
-  setup.set("sdat1", row.columnText(6).value_or(""));
-  setDay(setup, dates, "sdat1", "dat1", row.columnText(6));
-  setDay(setup, dates, "sdat2", "dat2", row.columnText(7));
-  setDay(setup, dates, "sbirthdate", "birthdate", row.columnText(8));
-  setDay(setup, dates, "sbirthdate2", "birthdate2", row.columnText(9));
-  if (auto result = row.columnText(10))
-    setup.set("birthresult", *result);
-  else
-    setup.erase("birthresult");
-}
-
-void overlayChild(const Context& context, const SqliteStatement& row, Map& setup) {
-  const DateCodec& dates = context.dates();
-  setText(setup, "name", row.columnText(0));
-  setup.set("sbirthdate", row.columnText(1).value_or(""));
-  setDay(setup, dates, "sbirthdate", "birthdate", row.columnText(1));
-  if (!row.isNull(2)) setup.set("sex", row.columnInt(2));
-  setText(setup, "blood", row.columnText(3));
-  setText(setup, "ves", row.columnText(4));
-  setText(setup, "rost", row.columnText(5));
-  setText(setup, "allerg", row.columnText(6));
-  if (auto time = row.columnText(7)) {
-    setup.set("sbirthtime", *time);
-    if (auto moment = dates.dateFromStringFormat(*time, "yyyy-MM-dd HH:mm:ss"))
-      setup.set("birthtime", *moment);
-  }
-  setText(setup, "documents", row.columnText(8));
-}
-
-void overlayWoman(const Context& context, const SqliteStatement& row, Map& setup) {
-  setDay(setup, context.dates(), "sbirthdate", "birthdate", row.columnText(0));
-  if (!row.isNull(1)) setup.set("bodytype", row.columnInt(1));
-  setText(setup, "rost", row.columnText(2));
-}
-
-struct ProfileQuery {
-  const char* sql;
-  void (*overlay)(const Context&, const SqliteStatement&, Map&);
+// How a column of the profile row travels in the setup dictionary.
+enum class Carry {
+  Number,     // an integer under the key, absent when null; a missing key is written as 0
+  AlwaysOne,  // read like Number, always written as 1
+  Text,       // its text under the key, absent when null; a missing key is written as null
+  Day,        // "yyyy-MM-dd" text under the key and its date under dateKey; written from the
+              // text, else from the date
+  Moment,     // text under the key and, when it reads as "yyyy-MM-dd HH:mm:ss", the moment under
+              // dateKey; written from the text
 };
 
-ProfileQuery profileQuery(int appid) {
-  if (isChildEdition(appid))
-    return {
-        "select chname, sbirthdate, sex, blood, ves, rost, allergen, sbirthtime, documents "
-        "from child where childguid=?",
-        overlayChild};
-  if (isCycleEdition(appid))
-    return {"select sbirthdate, body, height from woman where womguid=?", overlayWoman};
-  return {
-      "select metrics, bodytype, sex, ves, rost, childname, sdat1, sdat2, sbirthdate, "
-      "sbirthdate2, birthresult from preg where pregguid=?",
-      overlayPregnancy};
+struct ProfileColumn {
+  const char* column;
+  const char* key;
+  Carry carry;
+  const char* dateKey = nullptr;
+  // The profile editor does not show the key: a save from it keeps what is stored.
+  bool hiddenInEditor = false;
+};
+
+// One edition's profile row: its columns, and the key that is there exactly when the row exists
+// (null for the woman, whose row is only read).
+struct ProfileTable {
+  std::span<const ProfileColumn> columns;
+  const char* presenceKey;
+};
+
+constexpr ProfileColumn kPregnancyColumns[] = {
+    {"metrics", "metrics", Carry::AlwaysOne},
+    {"bodytype", "bodytype", Carry::Number},
+    {"sex", "sex", Carry::Number},
+    {"ves", "ves", Carry::Text},
+    {"rost", "rost", Carry::Text},
+    {"childname", "name", Carry::Text},
+    {"sdat1", "sdat1", Carry::Day, "dat1"},
+    {"sdat2", "sdat2", Carry::Day, "dat2"},
+    {"sbirthdate", "sbirthdate", Carry::Day, "birthdate"},
+    {"sbirthdate2", "sbirthdate2", Carry::Day, "birthdate2", true},
+    {"birthresult", "birthresult", Carry::Text, nullptr, true},
+};
+
+constexpr ProfileColumn kChildColumns[] = {
+    {"chname", "name", Carry::Text},
+    {"sbirthdate", "sbirthdate", Carry::Day, "birthdate"},
+    {"sex", "sex", Carry::Number},
+    {"blood", "blood", Carry::Text},
+    {"ves", "ves", Carry::Text},
+    {"rost", "rost", Carry::Text},
+    {"allergen", "allerg", Carry::Text, nullptr, true},
+    {"sbirthtime", "sbirthtime", Carry::Moment, "birthtime"},
+    {"documents", "documents", Carry::Text},
+};
+
+constexpr ProfileColumn kWomanColumns[] = {
+    {"sbirthdate", "sbirthdate", Carry::Day, "birthdate"},
+    {"body", "bodytype", Carry::Number},
+    {"height", "rost", Carry::Text},
+};
+
+ProfileTable profileTable(int appid) {
+  if (isChildEdition(appid)) return {kChildColumns, "sbirthdate"};
+  if (isCycleEdition(appid)) return {kWomanColumns, nullptr};
+  return {kPregnancyColumns, "sdat1"};
+}
+
+// The columns joined by ", ", each followed by suffix.
+std::string columnList(const ProfileTable& table, std::string_view suffix) {
+  std::string list;
+  for (const ProfileColumn& c : table.columns) {
+    if (!list.empty()) list += ", ";
+    list += c.column;
+    list += suffix;
+  }
+  return list;
+}
+
+void overlay(const Context& context, const ProfileTable& table, const SqliteStatement& row,
+             Map& setup) {
+  const DateCodec& dates = context.dates();
+  int index = 0;
+  for (const ProfileColumn& c : table.columns) {
+    const int i = index++;
+    if (row.isNull(i)) continue;
+    if (c.carry == Carry::Number || c.carry == Carry::AlwaysOne) {
+      setup.set(c.key, row.columnInt(i));
+      continue;
+    }
+    const std::string text = row.columnText(i).value_or("");
+    setup.set(c.key, text);
+    const char* format = c.carry == Carry::Day      ? "yyyy-MM-dd"
+                         : c.carry == Carry::Moment ? "yyyy-MM-dd HH:mm:ss"
+                                                    : nullptr;
+    if (format)
+      if (auto date = dates.dateFromStringFormat(text, format)) setup.set(c.dateKey, *date);
+  }
+  // The row's presence shows also where that column is empty.
+  if (table.presenceKey && !setup.contains(table.presenceKey)) setup.set(table.presenceKey, "");
 }
 
 // The text of a day column: the text the editor gave, else the date formatted, else null.
@@ -111,69 +136,58 @@ std::int64_t numberOf(const Map& setup, std::string_view key) {
   return v ? v->intValue() : 0;
 }
 
-void writePregnancy(const Context& context, const SqliteConnection& db, const Map& setup,
-                    const std::string& gid, bool exists) {
+// An update of the profile's row, or an insert of it; both bind the columns in table order.
+void writeProfile(const Context& context, const SqliteConnection& db, const ProfileTable& table,
+                  const Map& setup, const std::string& gid, bool exists) {
+  const EditionTables& names = tablesFor(context.values().appid);
+  std::string marks;
+  for (std::size_t i = 0; i <= table.columns.size(); ++i) marks += i ? ", ?" : "?";
   SqliteStatement st = db.prepare(
-      exists ? "update preg set sdat1=?, sdat2=?, sbirthdate=?, sex=?, rost=?, ves=?, metrics=?, "
-               "childname=?, bodytype=?, birthresult=?, sbirthdate2=? where pregguid=?"
-             : "insert into preg (sdat1,sdat2,sbirthdate,sex,rost,ves,metrics,childname, "
-               "bodytype,birthresult,sbirthdate2,pregguid) values (?,?,?,?,?,?,?,?,?,?,?,?)");
-  st.bindText(1, dayText(context, setup, "sdat1", "dat1"));
-  st.bindText(2, dayText(context, setup, "sdat2", "dat2"));
-  st.bindText(3, dayText(context, setup, "sbirthdate", "birthdate"));
-  st.bindInt(4, numberOf(setup, "sex"));
-  st.bindText(5, textOf(setup, "rost"));
-  st.bindText(6, textOf(setup, "ves"));
-  st.bindInt(7, 1);
-  st.bindText(8, textOf(setup, "name"));
-  st.bindInt(9, numberOf(setup, "bodytype"));
-  st.bindText(10, textOf(setup, "birthresult"));
-  st.bindText(11, dayText(context, setup, "sbirthdate2", "birthdate2"));
-  st.bindText(12, gid);
-  st.run();
-}
-
-void writeChild(const Context& context, const SqliteConnection& db, const Map& setup,
-                const std::string& gid, bool exists) {
-  SqliteStatement st = db.prepare(
-      exists ? "update child set chname=?, sbirthdate=?, sex=?, blood=?, ves=?, rost=?, "
-               "sbirthtime=?, allergen=?, documents=? where childguid=?"
-             : "insert into child (chname, sbirthdate, sex, blood, ves,rost,sbirthtime,allergen,"
-               "documents, childguid) values(?,?,?,?,?,?,?,?,?,?)");
-  st.bindText(1, textOf(setup, "name"));
-  st.bindText(2, dayText(context, setup, "sbirthdate", "birthdate"));
-  st.bindInt(3, numberOf(setup, "sex"));
-  st.bindText(4, textOf(setup, "blood"));
-  st.bindText(5, textOf(setup, "ves"));
-  st.bindText(6, textOf(setup, "rost"));
-  st.bindText(7, textOf(setup, "sbirthtime"));
-  st.bindText(8, textOf(setup, "allerg"));
-  st.bindText(9, textOf(setup, "documents"));
-  st.bindText(10, gid);
+      exists ? "update " + std::string(names.profile) + " set " + columnList(table, "=?") +
+                   " where " + names.guid + "=?"
+             : "insert into " + std::string(names.profile) + " (" + columnList(table, "") + ", " +
+                   names.guid + ") values (" + marks + ")");
+  int index = 1;
+  for (const ProfileColumn& c : table.columns) {
+    switch (c.carry) {
+      case Carry::Number:
+        st.bindInt(index++, numberOf(setup, c.key));
+        break;
+      case Carry::AlwaysOne:
+        st.bindInt(index++, 1);
+        break;
+      case Carry::Day:
+        st.bindText(index++, dayText(context, setup, c.key, c.dateKey));
+        break;
+      case Carry::Text:
+      case Carry::Moment:
+        st.bindText(index++, textOf(setup, c.key));
+        break;
+    }
+  }
+  st.bindText(index, gid);
   st.run();
 }
 
 // The editor does not show these keys: they stay as stored.
-void keepHiddenKeys(int appid, const Map& stored, Map& setup) {
-  const std::initializer_list<const char*> pregnancy = {"birthresult", "sbirthdate2"};
-  const std::initializer_list<const char*> child = {"allerg"};
-  for (const char* key : isPregnancyEdition(appid) ? pregnancy : child) {
-    if (const Value* v = stored.find(key))
-      setup.set(key, *v);
+void keepHiddenKeys(const ProfileTable& table, const Map& stored, Map& setup) {
+  for (const ProfileColumn& c : table.columns) {
+    if (!c.hiddenInEditor) continue;
+    if (const Value* v = stored.find(c.key))
+      setup.set(c.key, *v);
     else
-      setup.erase(key);
+      setup.erase(c.key);
   }
 }
 
 void removeProfile(Store& store, const std::string& gid) {
   const Context& context = store.context();
-  const bool pregnancy = isPregnancyEdition(context.values().appid);
+  const EditionTables& names = tablesFor(context.values().appid);
   {
     StoreBracket bracket = store.connectToBase();
     if (!bracket.db()) return;
-    SqliteStatement st =
-        bracket.db()->prepare(pregnancy ? "update preg set deleted=1 where pregguid=?"
-                                        : "update child set deleted=1 where childguid=?");
+    SqliteStatement st = bracket.db()->prepare("update " + std::string(names.profile) +
+                                               " set deleted=1 where " + names.guid + "=?");
     st.bindText(1, gid);
     st.run();
     bracket.markChanged();
@@ -217,10 +231,13 @@ Map loadSetupData(Store& store, const std::optional<std::string>& gid) {
   {
     StoreBracket bracket = store.connectToBase();
     if (bracket.db()) {
-      const ProfileQuery query = profileQuery(context.values().appid);
-      SqliteStatement row = bracket.db()->prepare(query.sql);
+      const int appid = context.values().appid;
+      const ProfileTable table = profileTable(appid);
+      const EditionTables& names = tablesFor(appid);
+      SqliteStatement row = bracket.db()->prepare("select " + columnList(table, "") + " from " +
+                                                  names.profile + " where " + names.guid + "=?");
       row.bindText(1, *gid);
-      if (row.step()) query.overlay(context, row, setup);
+      if (row.step()) overlay(context, table, row, setup);
     }
   }
   setup.set("active", true);
@@ -231,17 +248,15 @@ void saveSetupData(Store& store, SetupRegime regime, Map setup, const std::strin
   const Context& context = store.context();
   const int appid = context.values().appid;
   if (!isPregnancyEdition(appid) && !isChildEdition(appid)) return;
+  const ProfileTable table = profileTable(appid);
   const Map stored = loadSetupData(store, gid);
-  const bool exists = stored.contains(isPregnancyEdition(appid) ? "sdat1" : "sbirthdate");
-  if (regime == kSetupFromEditor) keepHiddenKeys(appid, stored, setup);
+  const bool exists = stored.contains(table.presenceKey);
+  if (regime == kSetupFromEditor) keepHiddenKeys(table, stored, setup);
   const Value* active = setup.find("active");
   if (active && active->boolValue()) {
     StoreBracket bracket = store.connectToBase();
     if (!bracket.db()) return;
-    if (isPregnancyEdition(appid))
-      writePregnancy(context, *bracket.db(), setup, gid, exists);
-    else
-      writeChild(context, *bracket.db(), setup, gid, exists);
+    writeProfile(context, *bracket.db(), table, setup, gid, exists);
     bracket.markChanged();
   } else if (exists) {
     removeProfile(store, gid);
