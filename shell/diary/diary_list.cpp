@@ -27,11 +27,13 @@ namespace {
 constexpr std::string_view kAdd = "diary:add";
 constexpr std::string_view kSearch = "diary:search";
 constexpr std::string_view kMore = "diary:more";
+constexpr std::string_view kEarlier = "diary:earlier";
 constexpr std::string_view kYearBack = "diary:year:back";
 constexpr std::string_view kYearForward = "diary:year:forward";
 constexpr std::string_view kDayPrefix = "diary:day:";
 constexpr std::string_view kDeletePrefix = "diary:delete:";
 constexpr std::size_t kCellsAtOnce = 30;  // about three phone screens of days
+constexpr std::size_t kCellsBefore = 5;   // sent above the day the list opens at
 constexpr int kOldestChildYear = 14;
 constexpr int kConsent = 1;  // "Да"
 
@@ -83,8 +85,8 @@ DiaryList::DiaryList(Application& app, ScreenHost& host, std::string gid, DiaryS
   load();
 }
 
-// Every day of the period with its strings made in date order, since an illness or a diet runs
-// on from the day it starts.
+// Every day of the period with its strings made in date order (where the load left them to be
+// made), since an illness or a diet runs on from the day it starts.
 void DiaryList::load() {
   Context& context = app_.context();
   listData_ = loadConstList(app_.store(), 0, std::nullopt);
@@ -94,7 +96,8 @@ void DiaryList::load() {
       loadNoteData(app_.store(), regim, state_.year, first ? *first : context.clock().now(), gid_);
   Map running = setup_;
   for (Value& day : days_)
-    if (Map* m = day.asMap()) updateNoteStrings(app_.store(), *m, running, regim, false);
+    if (Map* m = day.asMap(); m && !(*m)["compliteOK"].boolValue())
+      updateNoteStrings(app_.store(), *m, running, regim, false);
   rows_.assign(days_.size(), std::nullopt);
   updateSearch();
 }
@@ -133,28 +136,41 @@ std::size_t DiaryList::scrollPlace() const {
   return std::min(place + static_cast<std::size_t>(row), matches_.size());
 }
 
-// The sections and the cells of the days sent so far; scrollIndex gets the place to show.
-List DiaryList::items(std::size_t* scrollIndex) {
+// The window of days sent opens around the place to show, unless that lies in it already; the
+// browser widens it at either end as the user scrolls.
+void DiaryList::placeWindow(std::size_t place) {
+  if (state_.count == 0 || place < state_.first || place >= state_.first + state_.count ||
+      state_.first >= matches_.size()) {
+    state_.first = place > kCellsBefore ? place - kCellsBefore : 0;
+    state_.count = kCellsAtOnce;
+  }
+  state_.count = std::min(state_.count, matches_.size() - std::min(state_.first, matches_.size()));
+}
+
+// The cells of the window, each section's heading before its first day in it.
+List DiaryList::items() {
   const Context& context = app_.context();
-  const std::size_t place = scrollPlace();
-  *scrollIndex = place;
-  state_.shown = std::clamp(std::max(state_.shown, place + kCellsAtOnce / 2), kCellsAtOnce,
-                            std::max(kCellsAtOnce, matches_.size()));
   List out;
-  std::size_t next = 0;
-  for (const Value& section : sections_) {
-    if (next >= state_.shown) break;
-    out.push_back(DiarySectionView{section["name"].text(), section["name2"].text()}.toValue());
-    const auto count = static_cast<std::size_t>(section["count"].intValue());
-    for (std::size_t k = 0; k < count && next < matches_.size() && next < state_.shown;
-         ++k, ++next) {
-      const std::size_t i = matches_[next];
-      DayCellView cell = dayCell(context, *days_[i].asMap(), rowsOf(i));
-      const Date day = *days_[i]["dat"].asDate();
-      cell.id = dayTarget(context, kDayPrefix, day);
-      cell.deleteTarget = dayTarget(context, kDeletePrefix, day);
-      out.push_back(cell.toValue());
+  std::size_t sectionEnd = 0;
+  std::size_t section = 0;
+  for (std::size_t k = state_.first; k < state_.first + state_.count; ++k) {
+    bool heading = k == state_.first;
+    while (section < sections_.size() &&
+           k >= sectionEnd + static_cast<std::size_t>(sections_[section]["count"].intValue())) {
+      sectionEnd += static_cast<std::size_t>(sections_[section]["count"].intValue());
+      ++section;
+      heading = heading || k == sectionEnd;
     }
+    if (heading && section < sections_.size())
+      out.push_back(
+          DiarySectionView{sections_[section]["name"].text(), sections_[section]["name2"].text()}
+              .toValue());
+    const std::size_t i = matches_[k];
+    DayCellView cell = dayCell(context, *days_[i].asMap(), rowsOf(i));
+    const Date day = *days_[i]["dat"].asDate();
+    cell.id = dayTarget(context, kDayPrefix, day);
+    cell.deleteTarget = dayTarget(context, kDeletePrefix, day);
+    out.push_back(cell.toValue());
   }
   return out;
 }
@@ -180,12 +196,14 @@ Value DiaryList::view() {
   v.searchTarget = kSearch;
   v.searchHint = context.translate("Поиск");
   v.year = yearView();
-  std::size_t scrollIndex = 0;
-  v.items = items(&scrollIndex);
+  const std::size_t place = scrollPlace();
+  placeWindow(place);
+  v.items = items();
   if (matches_.empty()) v.message = context.translate(kEmpty);
-  if (state_.shown < matches_.size()) v.more = kMore;
-  if (scrollIndex < matches_.size())
-    v.scrollTo = dayTarget(context, kDayPrefix, *days_[matches_[scrollIndex]]["dat"].asDate());
+  if (state_.first > 0) v.earlier = kEarlier;
+  if (state_.first + state_.count < matches_.size()) v.more = kMore;
+  if (place < matches_.size())
+    v.scrollTo = dayTarget(context, kDayPrefix, *days_[matches_[place]]["dat"].asDate());
   state_.lastEdited.reset();
   return v.toValue();
 }
@@ -194,7 +212,13 @@ EventResult DiaryList::tap(std::string_view target) {
   const Context& context = app_.context();
   if (target == kAdd) return openDay(context.clock().now());
   if (target == kMore) {
-    state_.shown += kCellsAtOnce;
+    state_.count += kCellsAtOnce;
+    return {};
+  }
+  if (target == kEarlier) {
+    const std::size_t moved = std::min(state_.first, kCellsAtOnce);
+    state_.first -= moved;
+    state_.count += moved;
     return {};
   }
   if (target == kYearBack) return changeYear(-1);
@@ -211,7 +235,7 @@ EventResult DiaryList::change(std::string_view target, const Value& value) {
   const std::string* text = value.asText();
   if (target != kSearch || !text) return EventResult::refused("the diary takes a search text only");
   state_.search = *text;
-  state_.shown = 0;
+  state_.count = 0;
   updateSearch();
   return {};
 }
@@ -231,7 +255,7 @@ EventResult DiaryList::changeYear(int by) {
   if (year < 1 || (child && year > kOldestChildYear))
     return EventResult::refused("no diary year " + std::to_string(year));
   state_.year = year;
-  state_.shown = 0;
+  state_.count = 0;
   load();
   return {};
 }

@@ -31,7 +31,8 @@ class DiaryList : public Screen {
   const List& rowsOf(std::size_t day);
   std::optional<std::size_t> dayAt(std::string_view target, std::string_view prefix) const;
   std::size_t scrollPlace() const;
-  List items(std::size_t* scrollIndex);
+  void placeWindow(std::size_t place);
+  List items();
   std::optional<DiaryYearView> yearView() const;
   EventResult changeYear(int by);
   EventResult openDay(Date day);

@@ -1,5 +1,5 @@
 // What the diary list keeps for a browser across its rebuilds: the year shown, the search, the
-// day last edited, and how far the list has been scrolled open.
+// day last edited, and the window of days the browser has been sent.
 #pragma once
 
 #include <optional>
@@ -14,7 +14,8 @@ struct DiaryState {
   int year = 0;                    // child: year of life from 1; woman: calendar year; 0 unset
   std::string search;              // the text of the last search, "" for none
   std::optional<Date> lastEdited;  // the list comes back to this day once
-  std::size_t shown = 0;           // how many days the browser has been sent
+  std::size_t first = 0;           // the first day sent, as a place among the days shown
+  std::size_t count = 0;           // how many days from there; 0: place the window anew
 
   // Starts afresh for another profile.
   void keepFor(const std::string& profile) {

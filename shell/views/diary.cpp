@@ -75,6 +75,7 @@ Value DiaryView::toValue() const {
   if (year) m.set("year", year->toValue());
   m.set("message", message);
   m.set("items", items);
+  m.set("earlier", earlier);
   m.set("more", more);
   m.set("scrollTo", scrollTo);
   return m;

@@ -70,8 +70,8 @@ struct DiaryYearView {
 };
 
 // The list of days: the search field, the year, the "+" button and sections with their days;
-// a message stands instead of the days while there are none. Only the first cells come at
-// once: `more` asks for the next ones.
+// a message stands instead of the days while there are none. A window of the days comes at
+// once: `earlier` and `more` ask for the days before and after it.
 struct DiaryView {
   static constexpr std::string_view kKind = "diary";
   std::string title;
@@ -82,6 +82,7 @@ struct DiaryView {
   std::optional<DiaryYearView> year;
   std::string message;
   List items;  // DiarySectionView and DayCellView values in order
+  std::string earlier;
   std::string more;
   std::string scrollTo;  // the id of the cell to bring into view
 

@@ -1,5 +1,5 @@
 // The diary on screen: the list of days with its search, year and sections, and the editor of
-// one day. The list comes a part at a time: when its end scrolls into view it asks for more.
+// one day. The list comes a window at a time: when an end of it comes near, it asks for more.
 import { addSwipeToDelete, renderButton } from './controls.js';
 import { element } from './dom.js';
 import { bindInput, bindTyped, photoDataUrl } from './editor.js';
@@ -25,6 +25,7 @@ export function renderDiary(node: DiaryNode): HTMLElement {
   tools.append(renderSearch(node));
   const body = element('main', 'page-body diary-days');
   if (node.message) body.append(element('p', 'diary-message', node.message));
+  if (node.earlier) body.append(moreSentinel(node.earlier));
   body.append(...node.items.map((item) => renderItem(item, node.scrollTo)));
   if (node.more) body.append(moreSentinel(node.more));
   page.append(header, tools, body);
@@ -128,7 +129,7 @@ function renderLine(line: DayLine): HTMLElement {
   return item;
 }
 
-/** The end of the list: scrolled into view, it asks for the next days once. */
+/** An end of the list: scrolled near, it asks once for the days beyond it. */
 function moreSentinel(target: string): HTMLElement {
   const more = element('button', 'diary-more', '…');
   more.type = 'button';

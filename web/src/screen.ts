@@ -1,4 +1,5 @@
-// Puts a view on screen. Redrawing the same screen (same rows) keeps the scroll position.
+// Puts a view on screen. Redrawing the same screen (the same rows, or more) keeps the scroll
+// position.
 import { carryUnsentInputs } from './editor.js';
 import { renderPopup } from './popup.js';
 import { render } from './render.js';
@@ -6,10 +7,13 @@ import type { PopupNode, Screen } from './view.js';
 
 export function show(root: HTMLElement, view: Screen): void {
   const next = render(view);
-  // The same rows, or more of them after the list grew: the place on the page stays.
+  // The same rows, or the list grown at either end: the row at the top of the screen stays
+  // where it is on the screen.
   const shown = rowIds(root);
-  const same = next !== null && shown !== '' && rowIds(next).startsWith(shown);
-  const scroll = same || (next && shown === '' && rowIds(next) === '') ? window.scrollY : 0;
+  const coming = new Set(next ? rowIds(next) : []);
+  const same = shown.length > 0 && shown.every((id) => coming.has(id));
+  const anchor = same ? topRow(root) : null;
+  const scroll = same || (shown.length === 0 && coming.size === 0) ? window.scrollY : 0;
   const popup = view.popup ? (keptPopup(root, view.popup) ?? renderPopup(view.popup)) : null;
   const message = view.message ? render(view.message) : null;
   // Taking a kept popup out of the page loses its wheels' places: they are put back.
@@ -24,6 +28,8 @@ export function show(root: HTMLElement, view: Screen): void {
   refocus?.();
   for (const [wheel, top] of wheels) wheel.scrollTop = top;
   window.scrollTo(0, scroll);
+  const anchored = anchor ? reachableRows(root).find((row) => row.dataset.id === anchor.id) : null;
+  if (anchor && anchored) window.scrollBy(0, anchored.getBoundingClientRect().top - anchor.top);
   // A new list opens at the row it names, the day edited last or today.
   if (!same)
     root.querySelector<HTMLElement>('[data-scroll-to]')?.scrollIntoView({ block: 'center' });
@@ -56,11 +62,20 @@ function isLight(colour: string): boolean {
 }
 
 /** The rows the user can reach: those of the pages behind the front one (inert) are left out. */
-function rowIds(node: ParentNode): string {
-  return Array.from(node.querySelectorAll<HTMLElement>('.row'))
-    .filter((row) => !row.closest('[inert]'))
-    .map((row) => row.dataset.id)
-    .join('\n');
+function reachableRows(node: ParentNode): HTMLElement[] {
+  return Array.from(node.querySelectorAll<HTMLElement>('.row')).filter(
+    (row) => !row.closest('[inert]'),
+  );
+}
+
+function rowIds(node: ParentNode): string[] {
+  return reachableRows(node).map((row) => row.dataset.id ?? '');
+}
+
+/** The first row on the screen, and where its top is. */
+function topRow(root: HTMLElement): { id: string; top: number } | null {
+  const row = reachableRows(root).find((r) => r.getBoundingClientRect().bottom > 0);
+  return row?.dataset.id ? { id: row.dataset.id, top: row.getBoundingClientRect().top } : null;
 }
 
 /** The popup on screen if it is the one described: what the user typed or scrolled stays. */

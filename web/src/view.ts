@@ -322,7 +322,8 @@ export interface DayCellNode {
   deleteCaption: string;
 }
 
-/** The diary: search, year, "+" and the days under their sections; `more` asks for more days. */
+/** The diary: search, year, "+" and a window of the days under their sections; `earlier` and
+ *  `more` ask for the days before and after it. */
 export interface DiaryNode {
   kind: 'diary';
   title: string;
@@ -333,6 +334,7 @@ export interface DiaryNode {
   year?: { caption: string; back: ButtonNode; forward: ButtonNode };
   message: string;
   items: Array<DiarySectionNode | DayCellNode>;
+  earlier: string;
   more: string;
   scrollTo: string;
 }
