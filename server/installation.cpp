@@ -7,6 +7,7 @@
 #include "shell/lock/password_lock.h"
 #include "store/day_photo.h"
 #include "store/folders.h"
+#include "store/portrait.h"
 
 namespace lad::server {
 

@@ -4,7 +4,7 @@
 
 #include "health/pregnancy_calendar.h"
 #include "shell/views/node.h"
-#include "store/folders.h"
+#include "store/portrait.h"
 
 namespace lad::shell {
 

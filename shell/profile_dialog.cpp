@@ -1,11 +1,10 @@
 #include "shell/profile_dialog.h"
 
-#include "core/atomic_file.h"
 #include "core/ids.h"
 #include "health/body_index.h"
 #include "health/pregnancy_dates.h"
 #include "shell/editor/detail_rows.h"
-#include "store/folders.h"
+#include "store/portrait.h"
 #include "store/setup_data.h"
 #include "store/setup_editor.h"
 
@@ -24,22 +23,8 @@ std::string editorDate(const Context& context, const Map& setup, std::string_vie
   return date ? context.dates().dateToString(*date, "dd.MM.yyyy") : "";
 }
 
-std::optional<Bytes> portraitOf(const Context& context, const std::string& gid) {
-  const auto bytes = readWholeFile(portraitFile(context, gid));
-  if (!bytes) return std::nullopt;
-  return Bytes(bytes->begin(), bytes->end());
-}
-
-}  // namespace
-
-ProfileDialog::ProfileDialog(Application& app, std::optional<std::string> gid)
-    : app_(app),
-      gid_(std::move(gid)),
-      caption_(app.context().translate(gid_ ? "Настройки" : "Новая беременность")),
-      code_(gid_ ? kChangedProfile : kNewProfile) {
-  const Context& c = app.context();
-  const Map setup = loadSetupData(app.store(), gid_);
-  rows_ = {
+List settingsRows(const Context& c, bool existing) {
+  List rows{
       detailRow(c, kText, "Укажите первый день последней менструации или дату предполагаемых родов",
                 ""),
       detailRow(c, kDate, "Первый день последней менструации", "sdat1", true),
@@ -63,47 +48,49 @@ ProfileDialog::ProfileDialog(Application& app, std::optional<std::string> gid)
       detailRow(c, kTextInput, "Имя малыша", "name"),
       detailRow(c, kPhoto, "", "photo"),
   };
-  if (gid_) {
+  if (existing) {
     Value remove = detailRow(c, kButton, "Удалить учетную запись", "remove");
     remove.asMap()->set("pic", "b-orangeB.png");
-    rows_.push_back(std::move(remove));
+    rows.push_back(std::move(remove));
   }
-  *source("sdat1") = editorDate(c, setup, "dat1");
-  *source("sdat2") = editorDate(c, setup, "dat2");
-  *source("sbirthdate") = editorDate(c, setup, "birthdate");
-  for (const char* key : {"rost", "ves", "sex", "bodytype", "name"}) *source(key) = setup[key];
-  if (gid_)
-    if (auto portrait = portraitOf(c, *gid_)) *source("photo") = *portrait;
+  return rows;
 }
 
-const Map* ProfileDialog::row(std::string_view field) const {
-  for (const Value& r : rows_)
-    if (r["field"].text() == field) return r.asMap();
-  return nullptr;
+// The values the rows start from: the stored profile, its dates in the editor's form.
+Map settingsValues(const Context& c, const Map& setup, const std::optional<std::string>& gid) {
+  Map values;
+  values.set("sdat1", editorDate(c, setup, "dat1"));
+  values.set("sdat2", editorDate(c, setup, "dat2"));
+  values.set("sbirthdate", editorDate(c, setup, "birthdate"));
+  for (const char* key : {"rost", "ves", "sex", "bodytype", "name"}) values.set(key, setup[key]);
+  if (gid)
+    if (auto portrait = readPortrait(c, *gid)) values.set("photo", *portrait);
+  return values;
 }
 
-Map* ProfileDialog::rowOf(std::string_view field) {
-  for (Value& r : rows_)
-    if (r["field"].text() == field) return r.asMap();
-  return nullptr;
-}
+}  // namespace
 
-Value* ProfileDialog::source(std::string_view field) {
-  Map* row = rowOf(field);
-  return row ? row->find("source") : nullptr;
+ProfileDialog::ProfileDialog(Application& app, std::optional<std::string> gid)
+    : app_(app),
+      gid_(std::move(gid)),
+      code_(gid_ ? kChangedProfile : kNewProfile),
+      editor_(app.context(), gid_ ? "Настройки" : "Новая беременность",
+              settingsRows(app.context(), gid_.has_value()),
+              settingsValues(app.context(), loadSetupData(app.store(), gid_), gid_)) {}
+
+std::string ProfileDialog::text(std::string_view field) const {
+  const Map* r = editor_.row(field);
+  return r ? (*r)["source"].text() : std::string();
 }
 
 // The portrait is written or removed when the dialog is finished.
 void ProfileDialog::changePhoto(const Value& picture) {
-  Map* row = rowOf("photo");
-  row->set("image", picture);
-  row->set("save", picture.asBytes() ? kWritePhoto : kRemovePhoto);
+  editor_.setRowKey("photo", "image", picture);
+  editor_.setRowKey("photo", "save", picture.asBytes() ? kWritePhoto : kRemovePhoto);
 }
 
 std::optional<MessageBox> ProfileDialog::change(std::string_view field, const Value& value) {
-  Value* target = source(field);
-  if (!target) return std::nullopt;
-  *target = value;
+  if (!editor_.change(field, value)) return std::nullopt;
   if (field == "photo") changePhoto(value);
   std::optional<MessageBox> refusal;
   for (const auto& [name, date] : kDateFields)
@@ -114,24 +101,19 @@ std::optional<MessageBox> ProfileDialog::change(std::string_view field, const Va
 
 void ProfileDialog::correctDates(PregnancyDateField changed, std::optional<MessageBox>& refusal) {
   const Context& c = app_.context();
-  const PregnancyDateTexts dates{source("sdat1")->text(), source("sdat2")->text(),
-                                 source("sbirthdate")->text()};
+  const PregnancyDateTexts dates{text("sdat1"), text("sdat2"), text("sbirthdate")};
   const DateCorrection corrected = setupCorrectDate(c, dates, changed);
-  *source("sdat1") = corrected.fields.sdat1;
-  *source("sdat2") = corrected.fields.sdat2;
-  *source("sbirthdate") = corrected.fields.sbirthdate;
+  editor_.change("sdat1", Value(corrected.fields.sdat1));
+  editor_.change("sdat2", Value(corrected.fields.sdat2));
+  editor_.change("sbirthdate", Value(corrected.fields.sbirthdate));
   if (corrected.refusal)
     refusal = MessageBox::make(c, corrected.refusal->text, corrected.refusal->caption);
 }
 
 void ProfileDialog::correctBodyIndex() {
-  const BodyIndex index =
-      lad::correctBodyIndex(app_.context(), source("rost")->text(), source("ves")->text());
-  for (Value& r : rows_)
-    if (r["field"].text() == "bodytype") {
-      r.asMap()->set("caption", index.text);
-      r.asMap()->set("source", index.bodytype);
-    }
+  const BodyIndex index = lad::correctBodyIndex(app_.context(), text("rost"), text("ves"));
+  editor_.setRowKey("bodytype", "caption", Value(index.text));
+  editor_.change("bodytype", Value(index.bodytype));
 }
 
 Question ProfileDialog::removalQuestion() const {
@@ -139,15 +121,17 @@ Question ProfileDialog::removalQuestion() const {
                        "Удаление");
 }
 
+// No rows at all stand for the removal when the profile is saved.
 void ProfileDialog::confirmRemoval() {
-  rows_.clear();
+  removed_ = true;
   code_ = kChangedProfile;
 }
 
 std::string ProfileDialog::finish(std::string* photoError) {
   const std::string gid = code_ == kNewProfile ? newID() : gid_.value_or("");
   Store& store = app_.store();
-  saveSetupData(store, kSetupFromEditor, setupArrayToDic(store, rows_, gid, photoError), gid);
+  saveSetupData(store, kSetupFromEditor,
+                setupArrayToDic(store, removed_ ? List() : editor_.rows(), gid, photoError), gid);
   return gid;
 }
 

@@ -8,6 +8,7 @@
 
 #include "health/pregnancy_dates.h"
 #include "shell/application.h"
+#include "shell/editor/field_editor.h"
 #include "shell/message_box.h"
 #include "shell/question.h"
 
@@ -22,11 +23,12 @@ class ProfileDialog {
   // With a guid the profile's settings; without one a new pregnancy starting today.
   ProfileDialog(Application& app, std::optional<std::string> gid);
 
-  const std::string& caption() const { return caption_; }
+  const std::string& caption() const { return editor_.caption(); }
   int code() const { return code_; }
-  const List& rows() const { return rows_; }
+  const List& rows() const { return editor_.rows(); }
   // The row of a field, or nullptr.
-  const Map* row(std::string_view field) const;
+  const Map* row(std::string_view field) const { return editor_.row(field); }
+  const FieldEditor& editor() const { return editor_; }
 
   // The user changed a field. Dates keep each other consistent and height and weight recount
   // the body index; a refused conception date comes back as a message. A new portrait comes
@@ -37,22 +39,25 @@ class ProfileDialog {
   Question removalQuestion() const;
   void confirmRemoval();
 
+  // Brings the rows into their stored forms and checks them, as every editor does on closing:
+  // the message of the first required row left empty, or nullopt when they can be saved.
+  std::optional<MessageBox> close() { return editor_.close(); }
+
   // Saves (or removes) the profile and returns its guid; a new pregnancy gets its guid here.
   // A picture that cannot be read leaves the portrait as it was and says why in photoError.
   std::string finish(std::string* photoError = nullptr);
 
  private:
-  Map* rowOf(std::string_view field);
-  Value* source(std::string_view field);
+  std::string text(std::string_view field) const;
   void changePhoto(const Value& picture);
   void correctDates(PregnancyDateField changed, std::optional<MessageBox>& refusal);
   void correctBodyIndex();
 
   Application& app_;
   std::optional<std::string> gid_;
-  std::string caption_;
   int code_;
-  List rows_;
+  FieldEditor editor_;
+  bool removed_ = false;
 };
 
 }  // namespace lad::shell

@@ -60,7 +60,7 @@ EventResult ProfileEditor::change(std::string_view target, const Value& value) {
 
 // Checks the required rows first; a missing one keeps the screen open with its message.
 EventResult ProfileEditor::save() {
-  if (auto missing = checkField(app_.context(), dialog_.rows())) {
+  if (auto missing = dialog_.close()) {
     host_.showMessage(std::move(*missing));
     return {};
   }

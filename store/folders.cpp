@@ -53,9 +53,4 @@ bool isDirectory(const std::filesystem::path& path) {
   return std::filesystem::is_directory(path, error);
 }
 
-std::filesystem::path portraitFile(const Context& context, const std::string& gid) {
-  const std::string name = "child-" + gid + ".jpg";
-  return typeFilePath(context.documentsDir(), name) / name;
-}
-
 }  // namespace lad

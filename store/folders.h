@@ -22,7 +22,4 @@ std::filesystem::path typeFilePath(const std::filesystem::path& base, std::strin
 
 bool isDirectory(const std::filesystem::path& path);
 
-// The portrait of a profile: "child-<guid>.jpg" among the pictures.
-std::filesystem::path portraitFile(const Context& context, const std::string& gid);
-
 }  // namespace lad

@@ -1,12 +1,11 @@
 #include "store/setup_data.h"
 
 #include <span>
-#include <system_error>
 
 #include "core/context.h"
 #include "core/db_cells.h"
 #include "core/ids.h"
-#include "store/folders.h"
+#include "store/portrait.h"
 #include "store/store.h"
 #include "store/tables.h"
 
@@ -192,8 +191,7 @@ void removeProfile(Store& store, const std::string& gid) {
     st.run();
     bracket.markChanged();
   }
-  std::error_code error;
-  std::filesystem::remove(portraitFile(context, gid), error);
+  removePortrait(context, gid);
 }
 
 }  // namespace

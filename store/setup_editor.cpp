@@ -1,39 +1,25 @@
 #include "store/setup_editor.h"
 
-#include <system_error>
-
-#include "core/atomic_file.h"
 #include "core/context.h"
-#include "platform/images.h"
-#include "store/folders.h"
+#include "store/portrait.h"
 #include "store/store.h"
 
 namespace lad {
 
 namespace {
 
-constexpr int kPortraitQuality = 100;
-
 void savePortrait(const Context& context, const Map& row, const std::string& gid,
                   std::string* photoError) {
-  const auto file = portraitFile(context, gid);
-  std::error_code error;
   switch (row["save"].intValue()) {
     case kWritePhoto: {
       const Value* image = row.find("image");
       const Bytes* bytes = image ? image->asBytes() : nullptr;
       std::string why = "the photo holds no picture";
-      auto jpeg = bytes ? toJpeg(*bytes, kPortraitQuality, &why) : std::nullopt;
-      if (!jpeg) {
-        if (photoError) *photoError = why;
-        return;
-      }
-      std::filesystem::create_directories(file.parent_path(), error);
-      writeFileAtomically(file, std::string(jpeg->begin(), jpeg->end()));
+      if ((!bytes || !writePortrait(context, gid, *bytes, &why)) && photoError) *photoError = why;
       return;
     }
     case kRemovePhoto:
-      std::filesystem::remove(file, error);
+      removePortrait(context, gid);
       return;
   }
 }

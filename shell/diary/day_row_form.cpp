@@ -97,7 +97,7 @@ void DayRowForm::fillEntries() {
     e.set("checked", entry["checked"].boolValue());
     entries.push_back(std::move(e));
   }
-  editor_.setEntries(kListField, std::move(entries));
+  editor_.setRowKey(kListField, "listdata", Value(std::move(entries)));
 }
 
 Value DayRowForm::view() const {

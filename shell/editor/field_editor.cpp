@@ -45,10 +45,10 @@ bool FieldEditor::change(std::string_view field, Value source) {
   return true;
 }
 
-bool FieldEditor::setEntries(std::string_view field, List entries) {
+bool FieldEditor::setRowKey(std::string_view field, std::string_view key, Value value) {
   Map* m = field.empty() ? nullptr : find(field);
   if (!m) return false;
-  m->set("listdata", std::move(entries));
+  m->set(std::string(key), std::move(value));
   return true;
 }
 

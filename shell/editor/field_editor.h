@@ -24,8 +24,9 @@ class FieldEditor {
 
   // The user changed a field; false for a field the form does not have.
   bool change(std::string_view field, Value source);
-  // Gives a list row the entries it offers (maps with "id", "caption", "checked").
-  bool setEntries(std::string_view field, List entries);
+  // Sets another key of a field's row than its value: a list's entries ("listdata"), a
+  // caption worked out from other rows. False for a field the form does not have.
+  bool setRowKey(std::string_view field, std::string_view key, Value value);
 
   // Normalises the rows and checks them: the message of the first required row left empty,
   // or nullopt when the rows are ready to be taken.

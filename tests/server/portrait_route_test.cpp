@@ -4,7 +4,7 @@
 
 #include "server_fixture.h"
 #include "shell/lock/password_hash.h"
-#include "store/folders.h"
+#include "store/portrait.h"
 
 namespace lad::server::test {
 namespace {

@@ -7,7 +7,7 @@
 #include "core/base64.h"
 #include "platform/images.h"
 #include "shell/session.h"
-#include "store/folders.h"
+#include "store/portrait.h"
 #include "store/profiles.h"
 #include "tests/shell/application_fixture.h"
 

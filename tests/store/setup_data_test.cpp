@@ -6,7 +6,7 @@
 #include "core/ids.h"
 #include "platform/images.h"
 #include "store/first_launch.h"
-#include "store/folders.h"
+#include "store/portrait.h"
 #include "store/profiles.h"
 #include "store/setup_editor.h"
 #include "tests/store/store_fixture.h"
