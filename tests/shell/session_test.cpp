@@ -117,5 +117,18 @@ TEST_F(SessionTest, AShortcutWithoutAPregnancyTellsSoAndAMessageTakesTheTapsUnti
   EXPECT_FALSE(s->view().asMap()->contains("message")) << "the dropped shortcut did not run";
 }
 
+TEST_F(SessionTest, HidingAndShowingTheBrowserDrivesTheLock) {
+  auto s = greeted();
+  app->context().settings().set("pass", true);
+  ASSERT_TRUE(s->handle(event(R"({"type":"hidden"})")).ok());
+  clock->advance(std::chrono::seconds(3));
+  ASSERT_TRUE(s->handle(event(R"({"type":"visible"})")).ok());
+  EXPECT_FALSE(s->lockDue());
+  ASSERT_TRUE(s->handle(event(R"({"type":"hidden"})")).ok());
+  clock->advance(std::chrono::seconds(7));
+  ASSERT_TRUE(s->handle(event(R"({"type":"visible"})")).ok());
+  EXPECT_TRUE(s->lockDue());
+}
+
 }  // namespace
 }  // namespace lad::shell
