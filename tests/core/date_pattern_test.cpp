@@ -46,13 +46,13 @@ class Reference {
   std::unique_ptr<icu::SimpleDateFormat> format_;
 };
 
-// Moments from 1890 to 2110 at an odd step, so every time of day and day of month comes up, and
-// every quarter hour of the two days around each change of offset in 2026.
+// Moments from 1890 to 2110 at an odd step, so that the times of day and the days of the month
+// vary, and every quarter hour of the two days around each change of offset in 2026.
 std::vector<Date> sampleMoments() {
   std::vector<Date> out;
   const Date first = *dateFromIso("1890-01-01T00:00:00Z");
   const Date last = *dateFromIso("2110-01-01T00:00:00Z");
-  for (Date d = first; d < last; d += 247h + 7min + 13s + 1ms) out.push_back(d);
+  for (Date d = first; d < last; d += 991h + 7min + 13s + 1ms) out.push_back(d);
   for (const char* change : {"2026-03-28T12:00:00Z", "2026-10-24T12:00:00Z"}) {
     const Date start = *dateFromIso(change);
     for (Date d = start; d < start + 48h; d += 15min) out.push_back(d);
@@ -75,21 +75,15 @@ void expectAgreement(const DateCodec& codec, const char* locale, const char* pat
   }
 }
 
-TEST(DatePattern, WritesAndReadsNumbersAsTheFullFormatter) {
-  const DateCodec codec(kZone, 1);
+// Numbers in Russian only (they are the same in every language); month names in every language.
+TEST(DatePattern, WritesAndReadsAsTheFullFormatter) {
   for (const char* pattern : {"yyyy-MM-dd", "yyyy-MM-dd HH:mm:ss", "yyyy-MM-dd HH:mm", "dd.MM.yyyy",
                               "dd.MM.yyyy HH:mm", "dd-MM-yyyy", "yyMMdd", "dd", "dd.MM", "dd.MM.yy",
                               "-MM-dd", "HH:mm", "'T'HH'h'''mm", "dd.MM 'в"})
-    expectAgreement(codec, "ru_RU", pattern);
-}
-
-TEST(DatePattern, WritesAndReadsMonthNamesAsTheFullFormatterInEveryLanguage) {
-  const std::pair<int, const char*> languages[] = {{1, "ru_RU"}, {2, "de_DE"}, {3, "fr_FR"}};
-  for (const auto& [langid, locale] : languages) {
-    const DateCodec codec(kZone, langid);
+    expectAgreement(DateCodec(kZone, 1), "ru_RU", pattern);
+  for (const auto& [langid, locale] : {std::pair{1, "ru_RU"}, {2, "de_DE"}, {3, "fr_FR"}})
     for (const char* pattern : {"dd MMMM yyyy", "MMMM yyyy", "dd 'de' MMMM"})
-      expectAgreement(codec, locale, pattern);
-  }
+      expectAgreement(DateCodec(kZone, langid), locale, pattern);
 }
 
 TEST(DatePattern, ReadsWhatTheFullFormatterReadsAndRefusesTheRest) {

@@ -12,18 +12,6 @@ import {
   stopServer,
 } from './harness.mjs';
 
-const PREGNANCY_MENU = [
-  'Сегодня',
-  'Расписание на день',
-  'Графики ребенка',
-  'Развитие ребенка',
-  'Женщина',
-  'Схватки',
-  'К доктору',
-  'Беременность в 3D',
-  'Хронология',
-  'Дневник',
-];
 const NOT_BUILT_ROW = 'menu:1';
 const SWITCH_ROW = 'menu:51';
 const SWITCH_TEXT = 'Не показывать в дневнике пустые дни';
@@ -44,18 +32,6 @@ async function checkManifest(base) {
     const status = (await fetch(new URL(icon.src, base))).status;
     assert.equal(status, 200, `manifest icon ${icon.src}`);
   }
-}
-
-async function checkMalformedEvent(base) {
-  const response = await fetch(`${base}/api/event`, {
-    method: 'POST',
-    headers: { 'Content-Type': 'application/json' },
-    body: '{"type": "tap", "target":',
-  });
-  assert.equal(response.status, 400, 'POST /api/event with malformed JSON');
-  const body = JSON.parse(await response.text());
-  assert.equal(typeof body.error, 'string', 'the 400 answer carries a JSON "error" string');
-  assert.ok(body.error.length > 0, 'the "error" message is not empty');
 }
 
 /** Opens the app in a new tab; uncaught page errors are collected into `errors`. */
@@ -134,11 +110,6 @@ async function checkMenuRows(page) {
     })),
   );
   assert.deepEqual(drawn, expected, 'rows drawn as the server described them');
-  assert.deepEqual(
-    drawn.slice(0, PREGNANCY_MENU.length).map((r) => r.text),
-    PREGNANCY_MENU,
-    'menu rows',
-  );
   assert.equal(await page.textContent('.page-title'), view.title, 'page title from the server');
   assert.equal(view.title, 'Ладанея', 'page title');
   assert.equal(await page.title(), view.title, 'document title follows the page');
@@ -164,26 +135,6 @@ async function checkDisabledTapSendsNothing(page) {
   await sleep(500);
   page.off('request', record);
   assert.deepEqual(sent, [], `tapping disabled ${NOT_BUILT_ROW} sends no event`);
-}
-
-/** A built page comes to the front over the menu; dragging it right uncovers the menu again. */
-async function checkRing(page, outDir) {
-  await page.tap('[data-id="menu:3"]');
-  await page.waitForSelector('.ring-page .page-title');
-  assert.equal(
-    await page.textContent('.ring-page .page-title'),
-    'Графики ребенка',
-    'the page title',
-  );
-  await page.screenshot({ path: path.join(outDir, 'ring-page.png') });
-  const box = { y: (await boxesOf(page, '.ring-page'))[0].top + 300 };
-  await page.mouse.move(40, box.y);
-  await page.mouse.down();
-  for (const x of [80, 160, 240, 320]) await page.mouse.move(x, box.y);
-  await page.mouse.up();
-  await page.waitForSelector('.ring', { state: 'detached' }).catch(() => {
-    throw new Error('the drag to the right did not uncover the menu');
-  });
 }
 
 async function checkFont(page) {
@@ -217,16 +168,6 @@ async function waitForSwitch(page, checked, why) {
   await page.waitForSelector(selector).catch(() => {
     throw new Error(`${why}: ${SWITCH_ROW} did not become ${checked ? 'checked' : 'unchecked'}`);
   });
-}
-
-async function checkServiceWorker(page) {
-  const active = await page.evaluate(() =>
-    Promise.race([
-      navigator.serviceWorker.ready.then((r) => r.active !== null),
-      new Promise((resolve) => setTimeout(() => resolve(false), 5000)),
-    ]),
-  );
-  assert.ok(active, 'the service worker /sw.js becomes active');
 }
 
 /** The first page of a launch is greeted; closing the greeting shows the menu. */
@@ -287,8 +228,6 @@ async function checkInBrowser(browser, base, outDir) {
   await checkFont(page);
   await checkIcons(page);
   await checkDisabledTapSendsNothing(page);
-  await checkRing(page, outDir);
-  await checkServiceWorker(page);
 
   await waitForSwitch(page, false, 'fresh data');
   await page.tap(`[data-id="${SWITCH_ROW}"]`);
@@ -317,7 +256,6 @@ async function checkInBrowser(browser, base, outDir) {
 
 await runBrowserTest('menu', async ({ browser, base, outDir, executable, server }) => {
   await checkManifest(base);
-  await checkMalformedEvent(base);
   await checkInBrowser(browser, base, outDir);
   await stopServer(server);
   await checkGerman(browser, executable, outDir);

@@ -23,9 +23,6 @@ std::string russian(std::string_view text) {
 TEST(TranslationTable, GermanIsReadAndLineBreaksShow) {
   const Translator german = translatorFor(2);
   EXPECT_EQ(german.translate("Сегодня"), "Heute");
-  EXPECT_EQ(german.translate("январь"), "Januar");
-  EXPECT_EQ(german.translate("вс"), "So");
-  EXPECT_EQ(german.translate("Версия %@"), "Version %@");
   const std::string rating = german.translate(
       "Если у Вас есть время, поставьте пожалуйста оценку программе в AppStore. Высокий рейтинг - "
       "это дополнительный стимул к работе над ней");

@@ -54,6 +54,9 @@ TEST_F(PortraitRouteTest, TheCardShowsThePortraitWhichOnlyAnUnlockedSessionGets)
   ASSERT_TRUE(locked);
   EXPECT_EQ(locked->status, 403);
   EXPECT_EQ(locked->body.find("portrait bytes"), std::string::npos);
+  for (char d : std::string("2468"))
+    postEvent(R"({"type":"tap","target":"lock:)" + std::string(1, d) + R"("})", session);
+  EXPECT_EQ(fetch(address, session)->status, 200) << "once unlocked";
 }
 
 TEST_F(PortraitRouteTest, OnlyAProfileIdentifierNamesAFile) {

@@ -33,13 +33,6 @@ TEST_F(ApplicationTest, TheGreetingComesOncePerVersionAndResetsTheActivationCoun
   EXPECT_EQ(app->takeVersionRecord(), Greeting::Update);
 }
 
-TEST_F(ApplicationTest, TheChildDiaryGreetsAnUpdateOnceItsFileExists) {
-  launchApp(2, "1.0");
-  EXPECT_EQ(app->takeVersionRecord(), Greeting::NewInstallation);
-  launchApp(2, "1.1");
-  EXPECT_EQ(app->takeVersionRecord(), Greeting::Update);
-}
-
 TEST_F(ApplicationTest, EveryTenthActivationAsksForAReview) {
   launchApp();
   int asked = 0;

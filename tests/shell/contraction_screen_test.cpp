@@ -44,22 +44,15 @@ class ContractionScreenTest : public lad::testing::ApplicationTest {
 };
 
 TEST_F(ContractionScreenTest, StartStopAndTheTickChain) {
+  // The texts and charts of the page are the browser test's; here the timer's wiring.
   auto s = counter();
-  Value page = s->view()["page"];
-  EXPECT_EQ(child(page, "text")->operator[]("text").text(),
-            "Пока нет данных для отображения графиков. Нажмите на кнопку СТАРТ при начале "
-            "схватки.");
-  ASSERT_TRUE(child(page, "svg"));
-  EXPECT_NE((*child(page, "svg"))["svg"].text().find("<svg"), std::string::npos);
-  EXPECT_NE(child(page, "svg", 1), nullptr);
-
   const EventResult started = tap(*s, kContractionStart);
   ASSERT_TRUE(started.ok());
   ASSERT_TRUE(started.timer);
   EXPECT_EQ(started.timerDelay, 1s);
   EXPECT_FALSE(tap(*s, kContractionStart).ok());
   clock->advance(65s);
-  page = s->view()["page"];
+  Value page = s->view()["page"];
   EXPECT_EQ((*child(page, "timer"))["text"].text(), "01:05");
   EXPECT_TRUE((*child(page, "timer"))["running"].boolValue());
   EXPECT_EQ((*child(page, "buttons"))["buttons"].asList()->at(0)["id"].text(), kContractionStop);
@@ -73,10 +66,6 @@ TEST_F(ContractionScreenTest, StartStopAndTheTickChain) {
   EXPECT_TRUE((*child(s->view()["page"], "timer"))["visible"].boolValue());
   EXPECT_FALSE(tick.timer().timer);
   EXPECT_FALSE((*child(s->view()["page"], "timer"))["visible"].boolValue());
-  EXPECT_EQ(
-      (*child(s->view()["page"], "text"))["text"].text(),
-      "Данных мало. Нужно минимум 4 схватки (3 интервала между ними), чтобы начать определение "
-      "тенденции.");
 }
 
 TEST_F(ContractionScreenTest, TrendListAndSwipeToDelete) {
@@ -114,17 +103,13 @@ TEST_F(ContractionScreenTest, TrendListAndSwipeToDelete) {
   EXPECT_EQ(s->view()["kind"].text(), "page");
 }
 
-// The running contraction belongs to the installation: the screen locking (hidden, then
-// visible), a look at the menu and a second browser all see it, and it is stored whole.
+// The running contraction belongs to the installation: a look at the menu and a second browser
+// see it, and it is stored whole (the browser test times one across a locked screen).
 TEST_F(ContractionScreenTest, ARunningContractionOutlivesThePageAndIsSharedByEveryBrowser) {
   auto phone = counter();
   const EventResult started = tap(*phone, kContractionStart);
   ASSERT_TRUE(started.ok());
-  clock->advance(20s);
-  ASSERT_TRUE(phone->handle(event(R"({"type":"hidden"})")).ok());
-  clock->advance(20s);
-  ASSERT_TRUE(phone->handle(event(R"({"type":"visible"})")).ok());
-  EXPECT_EQ((*child(phone->view()["page"], "timer"))["text"].text(), "00:40");
+  clock->advance(40s);
   ASSERT_TRUE(phone->handle(event(R"({"type":"tap","target":"ring:menu"})")).ok());
   ASSERT_EQ(phone->frontPage(), std::nullopt);
 

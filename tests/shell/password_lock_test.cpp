@@ -156,23 +156,15 @@ TEST_F(PasswordLockTest, SwitchRoundTripThroughTheSession) {
   auto typeIn = [&](Session& s, std::string_view digits) {
     for (char d : digits) tap(s, "lock:" + std::string(1, d));
   };
+  // The switch on, a code set (the journey's browser test locks and unlocks with it), then a
+  // change of code: only the new one opens a session.
   Session s(*app);
   s.view();
   tap(s, "welcome:close");
-  tap(s, "menu:52");  // the switch on
+  tap(s, "menu:52");
   typeIn(s, "24682468");
-  EXPECT_EQ(s.view()["message"]["text"].text(), "На вход в программу установлен пароль.");
   ASSERT_TRUE(tap(s, std::string(kMessageClose)).ok());
-
-  // Away longer than the grace time: the lock comes up and shows nothing else.
-  s.handle(*Value::fromJson(R"({"type":"hidden"})"));
-  clock->advance(6s);
-  s.handle(*Value::fromJson(R"({"type":"visible"})"));
-  ASSERT_EQ(s.view()["kind"].text(), "lock");
-  typeIn(s, "2468");
-  EXPECT_FALSE(s.locked());
-
-  s.askNewPassword();  // a change of code
+  s.askNewPassword();
   typeIn(s, "13571357");
   tap(s, std::string(kMessageClose));
   Session third(*app);

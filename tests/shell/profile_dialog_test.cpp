@@ -54,28 +54,5 @@ TEST_F(ApplicationTest, ANewPregnancyIsMadeThroughTheDialog) {
   EXPECT_EQ(loadProfils(app->store()).size(), 2u);
 }
 
-TEST_F(ApplicationTest, AnExistingPregnancyIsEditedOrRemovedAfterTheQuestion) {
-  launchApp();
-  const std::string gid = "00000000-0000-0000-0001-000000000001";
-  ProfileDialog d(*app, gid);
-  EXPECT_EQ(d.caption(), "Настройки");
-  ASSERT_EQ(d.rows().size(), 17u);
-  EXPECT_EQ(d.rows().back()["caption"].text(), "Удалить учетную запись");
-  EXPECT_EQ(d.rows().back()["pic"].text(), "b-orangeB.png");
-  EXPECT_EQ(sourceOf(d, "sdat1"), "23.11.2026") << "the first profile starts at the first launch";
-
-  d.change("name", "Лев");
-  EXPECT_EQ(d.finish(), gid);
-  EXPECT_EQ(loadSetupData(app->store(), gid)["name"].text(), "Лев");
-
-  ProfileDialog removal(*app, gid);
-  const Question question = removal.removalQuestion();
-  EXPECT_EQ(question.text(), "Вы действительно хотите удалить эту учетную запись?");
-  EXPECT_EQ(question.caption(), "Удаление");
-  removal.confirmRemoval();
-  removal.finish();
-  EXPECT_TRUE(loadProfils(app->store()).empty());
-}
-
 }  // namespace
 }  // namespace lad::shell

@@ -23,29 +23,6 @@ class SessionTest : public lad::testing::ApplicationTest {
   }
 };
 
-TEST_F(SessionTest, MalformedEventsAreRefusedWithAReason) {
-  Session s(*app);
-  const std::pair<const char*, const char*> cases[] = {
-      {"[1]", "JSON object"},
-      {"{}", "\"type\""},
-      {"{\"type\": 5}", "\"type\""},
-      {"{\"type\": \"swipe\"}", "unknown event type \"swipe\""},
-      {"{\"type\": \"tap\"}", "\"target\""},
-      {"{\"type\": \"tap\", \"target\": 51}", "\"target\""},
-      {"{\"type\": \"viewport\", \"width\": \"390\", \"height\": 844}", "numeric"},
-      {"{\"type\": \"viewport\", \"width\": 0, \"height\": 844}", "positive"},
-      {"{\"type\": \"viewport\", \"width\": -390, \"height\": 844}", "positive"},
-      {"{\"type\": \"viewport\", \"width\": 1e9, \"height\": 844}", "positive"},
-      {"{\"type\": \"shortcut\"}", "SCHVATKI or NEWNOTE"},
-      {"{\"type\": \"shortcut\", \"name\": \"OPEN\"}", "SCHVATKI or NEWNOTE"},
-  };
-  for (const auto& [json, reason] : cases) {
-    EventResult r = s.handle(event(json));
-    EXPECT_NE(r.error.find(reason), std::string::npos) << json << " -> " << r.error;
-  }
-  EXPECT_EQ(s.metrics().scaleX, 1.0);
-}
-
 TEST_F(SessionTest, ViewportSetsScaleInPortraitAndTellsTablets) {
   Session phone(*app);
   ASSERT_TRUE(phone.handle(event(R"({"type":"viewport","width":390,"height":844})")).ok());
@@ -59,16 +36,6 @@ TEST_F(SessionTest, ViewportSetsScaleInPortraitAndTellsTablets) {
   EXPECT_DOUBLE_EQ(tablet.metrics().scaleX, 768.5 / 320);
   EXPECT_DOUBLE_EQ(tablet.metrics().scaleY, 1024.0 / 480);
   EXPECT_FALSE(phone.metrics().isTablet);  // sessions keep their own sizes
-}
-
-TEST_F(SessionTest, TapsReachTheMenuAndAllSessionsShareTheInstallation) {
-  auto a = greeted(), b = greeted();
-  ASSERT_TRUE(a->handle(event(R"({"type":"tap","target":"menu:51"})")).ok());
-  Value view = b->view();
-  bool found = false;
-  for (const Value& row : *view["children"].asList()->back()["rows"].asList())
-    if (row["id"].text() == "menu:51") found = row["checked"].boolValue();
-  EXPECT_TRUE(found);
 }
 
 TEST_F(SessionTest, TheFirstScreenOfTheLaunchGreetsAndTakesTapsUntilClosed) {
@@ -105,38 +72,22 @@ TEST_F(SessionTest, PagesOpenFromAnOpenCardAndLeaveByDragOrTilt) {
   EXPECT_EQ(view["menu"]["kind"].text(), "page");
   EXPECT_EQ(view["next"]["title"].text(), "Схватки");  // the next page waits behind
 
-  // A short drag springs back; past a quarter of the width to the left the ring turns, and to
-  // the right the menu comes back.
+  // Drags and tilts reach the ring (whose thresholds and rest rules page_ring_test walks): a
+  // drag to the left turns it, one to the right brings the menu back; tilting is off until
+  // switch 53 turns it on.
   EXPECT_FALSE(s->handle(event(R"({"type":"drag","offset":"x","width":320})")).ok());
-  ASSERT_TRUE(s->handle(event(R"({"type":"drag","offset":70,"width":320})")).ok());
-  EXPECT_EQ(s->frontPage(), 3);
   ASSERT_TRUE(s->handle(event(R"({"type":"drag","offset":-90,"width":320})")).ok());
   EXPECT_EQ(s->frontPage(), 6);
   EXPECT_EQ(s->view()["next"]["title"].text(), "Дневник");
-  ASSERT_TRUE(s->handle(event(R"({"type":"drag","offset":-90,"width":320})")).ok());
-  EXPECT_EQ(s->frontPage(), 8);
-  EXPECT_EQ(s->view()["next"]["title"].text(), "Графики ребенка");  // the ring wraps
-  ASSERT_TRUE(s->handle(event(R"({"type":"drag","offset":-90,"width":320})")).ok());
-  EXPECT_EQ(s->frontPage(), 3);
   ASSERT_TRUE(s->handle(event(R"({"type":"drag","offset":90,"width":320})")).ok());
   EXPECT_EQ(s->frontPage(), std::nullopt);
   EXPECT_EQ(s->view()["kind"].text(), "page");
   EXPECT_FALSE(s->handle(event(R"({"type":"drag","offset":90,"width":320})")).ok());
-
-  // Tilting is off until switch 53 turns it on; then one tilt left opens the next page and
-  // one tilt right, after a rest, uncovers the menu. The ring goes on from the last page.
   ASSERT_TRUE(s->handle(event(R"({"type":"tilt","x":-0.8})")).ok());
   EXPECT_EQ(s->frontPage(), std::nullopt);
   ASSERT_TRUE(s->handle(event(R"({"type":"tap","target":"menu:53"})")).ok());
   ASSERT_TRUE(s->handle(event(R"({"type":"tilt","x":-0.8})")).ok());
-  EXPECT_EQ(s->frontPage(), 6);
-  ASSERT_TRUE(s->handle(event(R"({"type":"tilt","x":0.8})")).ok());
-  EXPECT_EQ(s->frontPage(), 6);
-  ASSERT_TRUE(s->handle(event(R"({"type":"tilt","x":0.1})")).ok());
-  ASSERT_TRUE(s->handle(event(R"({"type":"tilt","x":0.8})")).ok());
-  EXPECT_EQ(s->frontPage(), std::nullopt);
-
-  ASSERT_TRUE(s->handle(event(R"({"type":"tap","target":"menu:3"})")).ok());
+  EXPECT_EQ(s->frontPage(), 8) << "the ring goes on after the last page";
   ASSERT_TRUE(s->handle(event(R"({"type":"tap","target":"ring:menu"})")).ok());
   EXPECT_EQ(s->frontPage(), std::nullopt);
 }

@@ -60,12 +60,5 @@ TEST_F(ApplicationTest, OnlyTheCloseButtonWorksUntilTheScreensOfTheOthersExist) 
   EXPECT_TRUE(w.closed());
 }
 
-TEST_F(ApplicationTest, TheGreetingSpeaksTheInstallationsLanguage) {
-  launchApp(1, "1.0", 2);
-  const Value v = WelcomeScreen(app->context(), Greeting::Update).view();
-  EXPECT_NE(v["close"]["caption"].text(), "Начать работу");
-  EXPECT_NE(blocksOf(v)[0], "Добро пожаловать в новую версию программы");
-}
-
 }  // namespace
 }  // namespace lad::shell

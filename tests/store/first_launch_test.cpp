@@ -42,13 +42,6 @@ TEST_F(FirstLaunchTest, ANewPregnancyDiaryStartsTodayAndGreetsAsANewInstallation
       << "without the old setting Date every launch counts as a first start";
 }
 
-TEST_F(FirstLaunchTest, TheOldSettingDateMarksAnUpdate) {
-  open(1);
-  context->settings().set("Date", testNow());
-  fromOldVersion(*store);
-  EXPECT_FALSE(context->settings().boolForKey("FirstStart"));
-}
-
 TEST_F(FirstLaunchTest, AChildIsBornTodayOnlyInANewFile) {
   launchAgain(2);
   EXPECT_TRUE(context->settings().boolForKey("FirstStart"));

@@ -42,24 +42,6 @@ TEST_F(ProfilesTest, TheActivePregnancyIsTheOneThatBeganLastBeforeTheDay) {
   EXPECT_EQ(activeOn(29, 3, 2026), "C") << "of equal first days the later row wins";
 }
 
-TEST_F(ProfilesTest, ABirthIsUndoneOnlyOnTheDayItWasRecorded) {
-  addPregnancy("A", "2025-03-01");
-  const DateCodec& dates = context->dates();
-  const auto birth = [&](int day, const std::string& result) {
-    StoreBracket bracket = store->connectToBase();
-    setBirthday(*store, bracket, dates.encodeDate(day, 11, 2025), "A", result);
-  };
-  birth(20, R"({"rost":"52"})");
-  EXPECT_TRUE(store->changed());
-  EXPECT_EQ(cell("select sbirthdate2 from preg"), "2025-11-20");
-  birth(21, "");
-  EXPECT_EQ(cell("select sbirthdate2 from preg"), "2025-11-20");
-  EXPECT_EQ(cell("select birthresult from preg"), R"({"rost":"52"})");
-  birth(20, "");
-  EXPECT_EQ(cell("select sbirthdate2 from preg"), std::nullopt);
-  EXPECT_EQ(cell("select birthresult from preg"), std::nullopt);
-}
-
 TEST_F(ProfilesTest, ProfilesListInDateOrderWithoutTheRemovedOnes) {
   addPregnancy("LATE", "2026-01-05");
   addPregnancy("GONE", "2025-06-01", 1);

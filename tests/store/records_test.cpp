@@ -102,12 +102,15 @@ TEST_F(RecordsTest, PillsAreStoredAsGivenUntilRegimensSpreadThem) {
 TEST_F(RecordsTest, ABirthIsRecordedOnTheProfileAndUndoneOnlyOnItsDay) {
   saveNoteData(*store, kNoteFromEditor, {row(16, "birthresult", "{\"ves\":\"3.2\"}")}, {}, kFirst,
                day(29));
+  EXPECT_TRUE(store->changed());
   EXPECT_EQ(cell("select sbirthdate2 from preg where pregid=1"), "2026-03-29");
   EXPECT_EQ(rowsOf("2026-03-29"), "") << "the birth is no diary record";
   saveNoteData(*store, kNoteFromEditor, {row(16, "birthresult", "")}, {}, kFirst, day(30));
   EXPECT_EQ(cell("select sbirthdate2 from preg where pregid=1"), "2026-03-29");
+  EXPECT_EQ(cell("select birthresult from preg where pregid=1"), "{\"ves\":\"3.2\"}");
   saveNoteData(*store, kNoteFromEditor, {row(16, "birthresult", "")}, {}, kFirst, day(29));
   EXPECT_EQ(cell("select sbirthdate2 from preg where pregid=1"), std::nullopt);
+  EXPECT_EQ(cell("select birthresult from preg where pregid=1"), std::nullopt);
 }
 
 TEST_F(RecordsTest, TheLastValueFallsBackOnTheProfileAndKeepsItsDay) {
