@@ -5,6 +5,7 @@
 #include "core/context.h"
 #include "core/text_fill.h"
 #include "shell/diary/day_cells.h"
+#include "shell/list_choice.h"
 #include "shell/popup_menu.h"
 #include "shell/question.h"
 #include "shell/views/diary.h"
@@ -13,6 +14,7 @@
 #include "store/day_photo.h"
 #include "store/dictionary.h"
 #include "store/keywords.h"
+#include "store/reading_forms.h"
 #include "store/records.h"
 #include "store/today_note.h"
 
@@ -32,6 +34,7 @@ constexpr std::string_view kPhotoClear = "day:photo:clear";
 constexpr int kConsent = 1;  // "Да" of a question, the tick of a picker
 constexpr int kEditItem = 0;
 constexpr int kDeleteItem = 1;
+constexpr int kDayTypes = 6;
 
 // Kinds whose editor this build has; the others are shown and wait for theirs.
 bool editable(std::int64_t kind) {
@@ -44,6 +47,7 @@ bool editable(std::int64_t kind) {
     case kKindHeight:
     case kKindWeight:
     case kKindIllness:
+    case kKindDayType:
     case 9:
     case 15:
     case kKindBirth:
@@ -202,8 +206,26 @@ EventResult DayEditor::tapRow(std::size_t index) {
     setSource(row(index), "");
     return {};
   }
+  if (kind == kKindDayType) {
+    pickDayType(index);
+    return {};
+  }
   openForm(index, -1);
   return {};
+}
+
+// The six kinds of a day of the cycle; an ordinary day keeps no record.
+void DayEditor::pickDayType(std::size_t index) {
+  std::string entries;
+  for (int type = 1; type <= kDayTypes; ++type)
+    entries += (type > 1 ? "<br>" : "") + womanDayToRead(app_.context(), type);
+  host_.openPopup(std::make_unique<ListChoice>(app_.context(), entries, "Отменить"),
+                  [this, index](const PopupAnswer& answer) {
+                    const int type = answer.button + 1;
+                    if (type >= 1 && type <= kDayTypes)
+                      setSource(row(index), type == 1 ? "" : std::to_string(type));
+                    return EventResult();
+                  });
 }
 
 void DayEditor::openForm(std::size_t index, int pos) {

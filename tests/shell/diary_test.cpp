@@ -6,6 +6,7 @@
 
 #include "core/atomic_file.h"
 #include "core/base64.h"
+#include "core/ids.h"
 #include "core/text_fold.h"
 #include "platform/images.h"
 #include "shell/session.h"
@@ -222,6 +223,28 @@ TEST_F(DiaryTest, TheChildsDiaryYearStaysBetweenTheFirstAndTheFourteenth) {
   EXPECT_EQ(diary(*s)["year"]["caption"].text(), "14-й год");
   EXPECT_FALSE(diary(*s)["year"]["forward"]["enabled"].boolValue());
   EXPECT_FALSE(tap(*s, "diary:year:forward").ok());
+}
+
+TEST_F(DiaryTest, TheCyclesDayTypeIsOneOfSixAndAnOrdinaryDayKeepsNoRecord) {
+  launchApp(3);
+  const std::string woman = newID2(1, 1);  // the woman's fixed profile
+  const auto dayType = [&] {
+    StoreBracket bracket = app->store().connectToBase();
+    return getDateValue(app->store(), bracket, clock->now(), "daytype", woman);
+  };
+  auto s = todayEditor();
+  ASSERT_TRUE(tap(*s, rowTarget(*s, "checkgreen.png")).ok());
+  const Value choice = s->view()["popup"];
+  ASSERT_EQ(choice["kind"].text(), "listChoice");
+  ASSERT_TRUE(tap(*s, "popup:2").ok());
+  ASSERT_TRUE(tap(*s, "day:close").ok());
+  EXPECT_EQ(dayType(), "3");
+
+  s = todayEditor();
+  ASSERT_TRUE(tap(*s, rowTarget(*s, "checkgreen.png")).ok());
+  ASSERT_TRUE(tap(*s, "popup:0").ok());  // "Обычный день"
+  ASSERT_TRUE(tap(*s, "day:close").ok());
+  EXPECT_EQ(dayType(), "");
 }
 
 TEST(TextFold, LatinAndRussianLettersFoldAndYoReadsAsYe) {
