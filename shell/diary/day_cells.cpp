@@ -19,12 +19,13 @@ DayLineView lineView(const Value& line) {
           line.asMap()->contains("cap") ? line["cap"].text() : line["text"].text(), ""};
 }
 
-}  // namespace
-
+// Whether the row holds anything to show.
 bool rowFilled(const Value& row) {
   if (row["tp"].intValue() == kKindPhoto) return false;
   return hasLines(row) || !row["text"].text().empty();
 }
+
+}  // namespace
 
 DayRowView dayRowView(const Value& row) {
   DayRowView v;

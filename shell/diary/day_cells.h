@@ -20,9 +20,6 @@ inline constexpr std::string_view kPictureAddress = "/doc/picture/";
 // One field row of a day as shown: its text, or its lines with their times.
 DayRowView dayRowView(const Value& row);
 
-// Whether the row holds anything to show.
-bool rowFilled(const Value& row);
-
 // The cell of a day in the list from the day (its strings made) and its field rows.
 DayCellView dayCell(const Context& context, const Map& day, const List& rows);
 

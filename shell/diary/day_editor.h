@@ -27,9 +27,6 @@ class DayEditor : public Screen {
   EventResult change(std::string_view target, const Value& value) override;
   bool closed() const override { return closed_; }
 
-  Date day() const { return day_; }
-  bool needSave() const { return needSave_; }
-
  private:
   struct OpenForm {
     std::size_t row;
