@@ -25,8 +25,7 @@ async function settled(page) {
 
 /** The diary page of the installation: a pregnancy's opens under its card. */
 async function openDiary(page) {
-  const card = await page.$('.card[data-id]');
-  if (card) await card.tap();
+  if ((await page.locator('.card[data-id]').count()) > 0) await page.tap('.card[data-id]');
   await page.tap('[data-id="menu:8"]');
   await page.waitForSelector('.diary .day-cell, .diary-message');
 }
@@ -71,6 +70,26 @@ async function searchFinds(page, text) {
       document.querySelectorAll('.day-cell').length === 1,
     text,
   );
+}
+
+/**
+ * A swipe to the left on today's cell, then its delete button. A redraw pushed by the server in
+ * between draws the cell anew, unswiped: then the swipe is made again.
+ */
+async function swipeAndDelete(page) {
+  for (let attempt = 1; ; attempt += 1) {
+    await page.evaluate(() => {
+      const cell = document.querySelector('.day-cell.today');
+      cell.dispatchEvent(new PointerEvent('pointerdown', { clientX: 300, bubbles: true }));
+      cell.dispatchEvent(new PointerEvent('pointerup', { clientX: 100, bubbles: true }));
+    });
+    try {
+      await page.tap('.day-cell.today.swiped .delete', { timeout: 2000 });
+      return;
+    } catch (error) {
+      if (attempt === 5) throw error;
+    }
+  }
 }
 
 /** A photo file of the day's, full size or small, kept among the pictures. */
@@ -141,10 +160,7 @@ async function checkEdition(browser, executable, edition, outDir) {
       await page.waitForSelector('.diary .day-cell.today');
 
       // A swipe to the left offers the deletion; it is asked, and the photo files go.
-      const box = await today.boundingBox();
-      await today.dispatchEvent('pointerdown', { clientX: box.x + box.width - 20 });
-      await today.dispatchEvent('pointerup', { clientX: box.x + 40 });
-      await page.tap('.day-cell.today .delete');
+      await swipeAndDelete(page);
       await page.waitForSelector('.popup-cover');
       await page.tap('.popup-cover button[data-id="popup:1"]');
       await page.waitForFunction(
