@@ -122,7 +122,6 @@ class Map {
 };
 
 // Leading-number readers behind the coercions; exposed for the codecs that parse stored texts.
-// leadingInteger stays within the 32-bit int range (a longer run of digits reads as its limit).
 std::int64_t leadingInteger(std::string_view s);
 double leadingDouble(std::string_view s);
 bool leadingBool(std::string_view s);
