@@ -53,13 +53,14 @@ void jsonText(std::string_view text) {
 const lad::MonthNames kMonths{"января", "февраля", "марта",    "апреля",  "мая",    "июня",
                               "июля",   "августа", "сентября", "октября", "ноября", "декабря"};
 
-// A text that fits a pattern of numbers writes back as the same text.
+// A text that fits a pattern of numbers writes back as a text that reads as the same moment (not
+// always the same text: a short month reads, and a field the pattern repeats keeps its last value).
 void datePattern(FuzzInput& in) {
   const std::string_view pattern = in.field(), text = in.rest();
   const auto local = lad::parseDatePattern(text, pattern);
   if (!local) return;
   const auto written = lad::formatDatePattern(*local, pattern, kMonths);
-  if (written) check(*written == text);
+  if (written) check(lad::parseDatePattern(*written, pattern) == local);
 }
 
 // A moment written in a pattern of numbers reads back as the moment, less what the pattern
