@@ -116,8 +116,11 @@ std::optional<int> readNumber(std::string_view text, std::size_t at, int width) 
 
 std::optional<std::string> formatDatePattern(LocalMillis local, std::string_view pattern,
                                              const MonthNames& months) {
+  // Years 1 to 9999 only, told before the calendar arithmetic, which overflows far outside them.
+  constexpr LocalMillis kFirst = -62'135'596'800'000;  // 0001-01-01 00:00:00
+  constexpr LocalMillis kEnd = 253'402'300'800'000;    // 10000-01-01 00:00:00
+  if (local < kFirst || local >= kEnd) return std::nullopt;
   Fields f = fieldsOf(local);
-  if (f.year < 1 || f.year > 9999) return std::nullopt;
   std::string out;
   const bool written = forEachToken(pattern, [&](const Token& t) {
     if (!t.letter) {

@@ -322,14 +322,17 @@ std::int64_t leadingInteger(std::string_view s) {
   std::size_t i = skipBlanks(s);
   bool negative = i < s.size() && s[i] == '-';
   if (i < s.size() && (s[i] == '-' || s[i] == '+')) ++i;
+  // A 32-bit int clamped to its range, as the platform reads it: callers may then add to it or
+  // subtract from it in 64 bits without overflow.
+  constexpr std::int64_t kMax = std::numeric_limits<std::int32_t>::max();
+  constexpr std::int64_t kMin = std::numeric_limits<std::int32_t>::min();
   std::int64_t n = 0;
-  constexpr auto kMax = std::numeric_limits<std::int64_t>::max();
   for (; i < s.size() && isDigit(s[i]); ++i) {
-    int digit = s[i] - '0';
-    if (n > (kMax - digit) / 10) return negative ? std::numeric_limits<std::int64_t>::min() : kMax;
-    n = n * 10 + digit;
+    n = n * 10 + (s[i] - '0');
+    if (n > kMax + 1) break;  // past the range of either sign: more digits change nothing
   }
-  return negative ? -n : n;
+  n = negative ? -n : n;
+  return n > kMax ? kMax : n < kMin ? kMin : n;
 }
 
 double leadingDouble(std::string_view s) {

@@ -1,6 +1,8 @@
 #include "store/pill_reading.h"
 
+#include <algorithm>
 #include <array>
+#include <limits>
 
 #include "core/context.h"
 #include "core/word_forms.h"
@@ -108,11 +110,19 @@ std::string periodToRead(const Context& context, std::string_view value) {
 int pillLengthToDays(const Context& context, std::string_view length, Date first) {
   const auto [count, unit] = pairOf(length);
   const std::int64_t n = leadingInteger(count);
-  if (unit == "дни") return static_cast<int>(n);
-  if (unit == "недели") return static_cast<int>(n * 7);
+  // A count of weeks from a damaged value can pass the range of an int: the days stop at its limit.
+  const auto clamped = [](std::int64_t days) {
+    return static_cast<int>(std::clamp<std::int64_t>(days, std::numeric_limits<int>::min(),
+                                                     std::numeric_limits<int>::max()));
+  };
+  if (unit == "дни") return clamped(n);
+  if (unit == "недели") return clamped(n * 7);
   if (unit == "месяцы") {
     const DateCodec& dates = context.dates();
-    return dates.getDays(first, dates.addMonths(first, static_cast<int>(n)));
+    // The calendar wraps round far beyond its range: a course stops at ten thousand years.
+    constexpr std::int64_t kLongestMonths = 12 * 10000;
+    const auto months = static_cast<int>(std::clamp(n, -kLongestMonths, kLongestMonths));
+    return dates.getDays(first, dates.addMonths(first, months));
   }
   return 0;
 }

@@ -1,9 +1,12 @@
 // The hand-written patterns must give what the full formatter gives, written and read back, in
 // every language and across changes of the zone's offset.
+#include "core/date_pattern.h"
+
 #include <gtest/gtest.h>
 #include <unicode/smpdtfmt.h>
 #include <unicode/timezone.h>
 
+#include <limits>
 #include <memory>
 #include <optional>
 #include <string>
@@ -119,6 +122,24 @@ TEST(DatePattern, ReadsWhatTheFullFormatterReadsAndRefusesTheRest) {
     EXPECT_EQ(codec.dateFromStringFormat(c.text, c.pattern), expected)
         << c.pattern << " " << c.text;
     EXPECT_EQ(expected.has_value(), c.reads) << c.pattern << " " << c.text;
+  }
+}
+
+// Moments outside the years 1 to 9999 write nothing, however far out they are.
+TEST(DatePattern, WritesOnlyTheYearsOneTo9999) {
+  const MonthNames months{"января", "февраля", "марта",    "апреля",  "мая",    "июня",
+                          "июля",   "августа", "сентября", "октября", "ноября", "декабря"};
+  const std::pair<LocalMillis, const char*> cases[] = {
+      {-62'135'596'800'000, "0001-01-01 00:00"},
+      {-62'135'596'800'001, nullptr},
+      {253'402'300'799'999, "9999-12-31 23:59"},
+      {253'402'300'800'000, nullptr},
+      {std::numeric_limits<LocalMillis>::min() + 1, nullptr},
+      {std::numeric_limits<LocalMillis>::max(), nullptr},
+  };
+  for (const auto& [local, text] : cases) {
+    const auto written = formatDatePattern(local, "yyyy-MM-dd HH:mm", months);
+    EXPECT_EQ(written, text ? std::optional<std::string>(text) : std::nullopt) << local;
   }
 }
 

@@ -14,6 +14,10 @@ TEST(TimeList, ComparesTimesAsMinutes) {
   EXPECT_EQ(timeCompare("", "00:01"), -1);
   EXPECT_EQ(timeCompare("ч:10", "00:00"), 0);  // three characters, not three bytes
   EXPECT_EQ(timeCompare("чч:10", "00:00"), 10);
+  // Runs of 19 or more digits read as the int limits, so neither the minutes nor their
+  // difference can overflow.
+  EXPECT_EQ(timeCompare("00:99999999999999999999", "00:-99999999999999999999"), 4294967295);
+  EXPECT_EQ(timeCompare("9999999999999999999", "00:00"), 2147543587);  // 999 h and the limit
 }
 
 TEST(TimeList, SortsItemsByTimeKeepingTheOrderOfEqualTimes) {

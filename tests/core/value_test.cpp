@@ -15,8 +15,10 @@ TEST(ValueCoercion, TextReadsItsLeadingNumber) {
   EXPECT_EQ(Value("+7").intValue(), 7);
   EXPECT_EQ(Value("abc").intValue(), 0);
   EXPECT_EQ(Value("").intValue(), 0);
-  EXPECT_EQ(Value("99999999999999999999").intValue(), INT64_MAX);
-  EXPECT_EQ(Value("-99999999999999999999").intValue(), INT64_MIN);
+  EXPECT_EQ(Value("99999999999999999999").intValue(), INT32_MAX);  // a 32-bit int, clamped
+  EXPECT_EQ(Value("-99999999999999999999").intValue(), INT32_MIN);
+  EXPECT_EQ(Value("2147483648").intValue(), INT32_MAX);
+  EXPECT_EQ(Value("-2147483648").intValue(), INT32_MIN);
   EXPECT_EQ(Value("1.9").intValue(), 1);
 
   EXPECT_DOUBLE_EQ(Value("36.6").doubleValue(), 36.6);

@@ -1,5 +1,5 @@
-// Feeds every file of a fuzz target's seed corpus through the target: a seed that trips one of
-// its invariants or crashes fails the build's tests, not only a fuzzing run.
+// Feeds every file of a fuzz target's corpus through the target: a seed that breaks one of its
+// promises or crashes fails the build's tests, not only a fuzzing run.
 #include <gtest/gtest.h>
 
 #include <cstdint>
@@ -11,19 +11,18 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
 
 namespace {
 
-TEST(FuzzReplayTest, HttpRequestSeedsPass) {
-  const std::filesystem::path corpus =
-      std::filesystem::path(LADANEYA_FUZZ_CORPUS_DIR) / "http_request";
+TEST(FuzzReplayTest, EverySeedPasses) {
   int seeds = 0;
-  for (const auto& entry : std::filesystem::directory_iterator(corpus)) {
+  for (const auto& entry : std::filesystem::directory_iterator(LADANEYA_FUZZ_CORPUS)) {
     const std::string bytes = lad::testing::readFile(entry.path());
+    SCOPED_TRACE(entry.path().string());
     EXPECT_EQ(
         LLVMFuzzerTestOneInput(reinterpret_cast<const std::uint8_t*>(bytes.data()), bytes.size()),
-        0)
-        << entry.path();
+        0);
     ++seeds;
   }
-  EXPECT_GE(seeds, 10);
+  // A corpus that went missing would pass without running anything.
+  EXPECT_GE(seeds, 5);
 }
 
 }  // namespace

@@ -40,6 +40,26 @@ TEST_F(PillReadingTest, LengthsDosesAndFrequenciesInBothForms) {
   for (const auto& [got, expected] : cases) EXPECT_EQ(got, expected);
 }
 
+// A damaged value's run of 19 or more digits reads as the int limit; the count read from it then
+// goes one past that limit or two below it, never round.
+TEST_F(PillReadingTest, LongDigitRunsReadAsTheIntLimit) {
+  const Context& c = *context;
+  const Date first = c.dates().encodeDate(20, 3, 2026);
+  const std::pair<std::string, std::string> cases[] = {
+      {intervalToRead(c, "99999999999999999999<td>0", true), "2147483648 дней"},
+      {intervalToRead3(c, "9999999999999999999<td>дни", true), "2147483647 дней"},
+      {dozaToRead(c, "99999999999999999999<td>2"), "2147483645 штук"},
+      {dozaToRead(c, "-99999999999999999999<td>2"), "-2147483650 штук"},
+      {periodToRead(c, "99999999999999999999<td>0"), "2147483647 раз в день"},  // read twice
+      {periodToRead3(c, "-9999999999999999999<td>раз в сутки"), "-2147483648 раз в сутки"},
+      {std::to_string(pillLengthToDays(c, "99999999999999999999<td>недели", first)), "2147483647"},
+      {std::to_string(pillLengthToDays(c, "-99999999999999999999<td>дни", first)), "-2147483648"},
+      {std::to_string(pillLengthToDays(c, "99999999999999999999<td>месяцы", first)),
+       "3652425"},  // ten thousand years
+  };
+  for (const auto& [got, expected] : cases) EXPECT_EQ(got, expected);
+}
+
 TEST_F(PillReadingTest, ACourseReadsAsOneSentenceWithItsDay) {
   const DateCodec& dates = context->dates();
   const Date first = dates.encodeDate(20, 3, 2026);  // the course crosses the change to summer time
