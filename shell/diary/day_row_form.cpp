@@ -25,15 +25,6 @@ bool isEntryList(int kind) {
   return kind == 30 || kind == 31;
 }
 
-// The stored entry at pos of a JSON list, as the values of a form.
-std::optional<Map> entryAt(std::string_view value, int pos) {
-  const auto list = Value::fromJson(value);
-  const List* entries = list ? list->asList() : nullptr;
-  if (!entries || pos < 0 || pos >= static_cast<int>(entries->size())) return std::nullopt;
-  const Map* entry = (*entries)[pos].asMap();
-  return entry ? std::optional<Map>(*entry) : std::nullopt;
-}
-
 std::optional<FieldEditor> formOf(const Context& context, const Map& row, int pos) {
   const int kind = static_cast<int>(row["tp"].intValue());
   const std::string source = row["source"].text();

@@ -4,10 +4,12 @@
 
 #include "core/context.h"
 #include "core/edition.h"
+#include "core/menu_table.h"
 #include "core/settings.h"
 #include "shell/diary/day_cells.h"
 #include "shell/diary/day_editor.h"
 #include "shell/diary/day_search.h"
+#include "shell/pages.h"
 #include "shell/question.h"
 #include "shell/views/diary.h"
 #include "store/calendar_span.h"
@@ -59,9 +61,8 @@ int presentYear(const Context& context, const Map& setup) {
 }
 
 std::string pageTitle(const Context& context) {
-  for (const Value& item : context.values().tabMenu)
-    if (item["id"].intValue() == 8) return item["name"].text();
-  return context.translate("Дневник");
+  const Map* row = menuRow(context.values().tabMenu, kDiaryPage);
+  return row ? (*row)["name"].text() : context.translate("Дневник");
 }
 
 }  // namespace

@@ -38,14 +38,18 @@ std::optional<Map> entryValues(const Context& c, const List& rows, std::string_v
     values.set("time", c.dates().dateToString(c.clock().now(), "HH:mm"));
     return values;
   }
-  const auto list = Value::fromJson(value);
-  const List* entries = list ? list->asList() : nullptr;
-  if (!entries || pos >= static_cast<int>(entries->size())) return std::nullopt;
-  const Map* entry = (*entries)[pos].asMap();
-  return entry ? std::optional<Map>(*entry) : std::nullopt;
+  return entryAt(value, pos);
 }
 
 }  // namespace
+
+std::optional<Map> entryAt(std::string_view value, int pos) {
+  const auto list = Value::fromJson(value);
+  const List* entries = list ? list->asList() : nullptr;
+  if (!entries || pos < 0 || pos >= static_cast<int>(entries->size())) return std::nullopt;
+  const Map* entry = (*entries)[pos].asMap();
+  return entry ? std::optional<Map>(*entry) : std::nullopt;
+}
 
 std::optional<FieldEditor> entryForm(const Context& context, std::string_view field,
                                      std::string_view value, int pos) {

@@ -10,6 +10,9 @@ namespace lad::shell {
 
 // pos: the entry of value to edit, -1 for a new one. Nullopt for a field without an entry
 // editor here or a position the value lacks.
+// The entry at pos of a JSON list value, as the values of a form; nullopt when there is none.
+std::optional<Map> entryAt(std::string_view value, int pos);
+
 std::optional<FieldEditor> entryForm(const Context& context, std::string_view field,
                                      std::string_view value, int pos);
 
