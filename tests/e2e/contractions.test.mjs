@@ -54,6 +54,9 @@ async function trendText(page) {
 /** Times one contraction of `length` seconds after a pause of `pause` seconds. */
 async function timeOne(page, pause, length) {
   await advanceClock(page, pause);
+  // The last contraction's time fades out within two ticks and the button moves up with it:
+  // a tap before that redraw would land beside the button.
+  await page.waitForSelector('.timer[hidden]', { state: 'attached' });
   await page.tap(START);
   await page.waitForSelector(STOP);
   await advanceClock(page, length);
