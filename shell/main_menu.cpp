@@ -71,7 +71,8 @@ bool isProfileItem(const Map& item) {
 
 bool MainMenu::isBuilt(int id) const {
   const SwitchSetting* sw = switchFor(id);
-  return (sw && sw->built) || commands_.contains(id) || (isPageId(id) && builtPages().count(id));
+  return (sw && sw->built) || commands_.contains(id) ||
+         (isPageId(id) && builtPages(context_.values().appid).count(id));
 }
 
 RowView MainMenu::rowOf(const Value& item) const {

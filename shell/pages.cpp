@@ -1,13 +1,17 @@
 #include "shell/pages.h"
 
+#include "core/edition.h"
 #include "shell/contraction_screen.h"
+#include "shell/cycle/cycle_calendar.h"
 #include "shell/diary/diary_list.h"
 #include "shell/title_page.h"
 
 namespace lad::shell {
 
-const std::set<int>& builtPages() {
-  static const std::set<int> pages{kTitlePage, kContractionsPage, kDiaryPage};
+std::set<int> builtPages(int appid) {
+  std::set<int> pages{kTitlePage, kContractionsPage, kDiaryPage};
+  // The woman's page of the cycle edition is her calendar; the pregnancy's waits for its texts.
+  if (isCycleEdition(appid)) pages.insert(kWomanPage);
   return pages;
 }
 
@@ -17,6 +21,10 @@ std::shared_ptr<Screen> makePage(int page, const PageArgs& args) {
       return std::make_shared<TitlePage>(args.app, args.gid);
     case kContractionsPage:
       return ContractionScreen::open(args.app, args.gid, args.scale);
+    case kWomanPage:
+      if (!isCycleEdition(args.app.context().values().appid)) return nullptr;
+      return std::make_shared<CycleCalendar>(args.app, args.host, args.gid, args.diary, false,
+                                             args.fromMenu);
     case kDiaryPage:
       return std::make_shared<DiaryList>(args.app, args.host, args.gid, args.diary, args.fromMenu);
     default:

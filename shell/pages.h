@@ -13,6 +13,7 @@
 namespace lad::shell {
 
 inline constexpr int kTitlePage = 3;
+inline constexpr int kWomanPage = 5;
 inline constexpr int kContractionsPage = 6;
 inline constexpr int kDiaryPage = 8;
 
@@ -27,8 +28,8 @@ struct PageArgs {
   bool fromMenu;  // the user brought the page up, rather than a change of data
 };
 
-// Page ids (menu ids below 21) with a screen in this build.
-const std::set<int>& builtPages();
+// Page ids (menu ids below 21) with a screen in this build, for an edition.
+std::set<int> builtPages(int appid);
 
 // The screen of a built page for a profile, drawn at the browser's scale; nullptr for a page
 // without one.

@@ -46,7 +46,8 @@ std::function<EventResult()> showing(std::function<void()> show) {
 Session::Session(Application& app)
     : app_(app),
       menu_(app.context(), app.store()),
-      ring_(PageRing::pagesOf(app.context().values().tabMenu, builtPages())),
+      ring_(PageRing::pagesOf(app.context().values().tabMenu,
+                              builtPages(app.context().values().appid))),
       fingerprint_(app.context()) {
   menu_.onOpenPage([this](int page) { return openTab(page); });
   addMenuCommands();

@@ -6,6 +6,8 @@
 #include "core/edition.h"
 #include "core/menu_table.h"
 #include "core/settings.h"
+#include "shell/cycle/cycle_calendar.h"
+#include "shell/cycle/cycle_marks.h"
 #include "shell/diary/day_cells.h"
 #include "shell/diary/day_editor.h"
 #include "shell/diary/day_search.h"
@@ -34,6 +36,7 @@ constexpr std::string_view kYearBack = "diary:year:back";
 constexpr std::string_view kYearForward = "diary:year:forward";
 constexpr std::string_view kDayPrefix = "diary:day:";
 constexpr std::string_view kDeletePrefix = "diary:delete:";
+constexpr std::string_view kCyclePrefix = "diary:cycle:";
 constexpr std::size_t kCellsAtOnce = 30;  // about three phone screens of days
 constexpr std::size_t kCellsBefore = 5;   // sent above the day the list opens at
 constexpr int kOldestChildYear = 14;
@@ -100,6 +103,8 @@ void DiaryList::load() {
     if (Map* m = day.asMap(); m && !(*m)["compliteOK"].boolValue())
       updateNoteStrings(app_.store(), *m, running, regim, false);
   rows_.assign(days_.size(), std::nullopt);
+  if (isCycleEdition(context.values().appid))
+    cycle_ = health::cycleYear(app_.store(), state_.year, context.clock().now());
   updateSearch();
 }
 
@@ -171,6 +176,8 @@ List DiaryList::items() {
     const Date day = *days_[i]["dat"].asDate();
     cell.id = dayTarget(context, kDayPrefix, day);
     cell.deleteTarget = dayTarget(context, kDeletePrefix, day);
+    if (const health::CycleDay* d = health::cycleDayAt(cycle_, context.dates(), day))
+      cell.cycle = cycleMark(context, *d, dayTarget(context, kCyclePrefix, day));
     out.push_back(cell.toValue());
   }
   return out;
@@ -225,6 +232,7 @@ EventResult DiaryList::tap(std::string_view target) {
   if (target == kYearBack) return changeYear(-1);
   if (target == kYearForward) return changeYear(1);
   if (auto day = targetDay(context, target, kDayPrefix)) return openDay(*day);
+  if (auto day = targetDay(context, target, kCyclePrefix)) return openCalendar(*day);
   if (auto at = dayAt(target, kDeletePrefix)) {
     askDeletion(*at);
     return {};
@@ -264,6 +272,13 @@ EventResult DiaryList::changeYear(int by) {
 EventResult DiaryList::openDay(Date day) {
   state_.lastEdited = day;
   host_.push(std::make_shared<DayEditor>(app_, host_, gid_, day));
+  return {};
+}
+
+// The calendar of the day's year opens over the list.
+EventResult DiaryList::openCalendar(Date day) {
+  state_.calendarYear = app_.context().dates().decodeDate(day).year;
+  host_.push(std::make_shared<CycleCalendar>(app_, host_, gid_, state_, true, false));
   return {};
 }
 

@@ -7,6 +7,7 @@
 #include <vector>
 
 #include "core/value.h"
+#include "health/cycle_days.h"
 #include "shell/application.h"
 #include "shell/diary/diary_state.h"
 #include "shell/screen.h"
@@ -36,6 +37,7 @@ class DiaryList : public Screen {
   std::optional<DiaryYearView> yearView() const;
   EventResult changeYear(int by);
   EventResult openDay(Date day);
+  EventResult openCalendar(Date day);
   void askDeletion(std::size_t day);
 
   Application& app_;
@@ -49,6 +51,7 @@ class DiaryList : public Screen {
   std::vector<std::size_t> matches_;       // the days shown, as places in days_
   List sections_;
   Map todayPlace_;
+  std::vector<health::CycleDay> cycle_;  // the woman's year, in her diary only
 };
 
 // The day of a target "<prefix>dd.MM.yyyy".

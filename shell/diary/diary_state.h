@@ -1,5 +1,6 @@
 // What the diary list keeps for a browser across its rebuilds: the year shown, the search, the
-// day last edited, and the window of days the browser has been sent.
+// day last edited, and the window of days the browser has been sent; and the year of the
+// woman's cycle calendar.
 #pragma once
 
 #include <optional>
@@ -16,6 +17,7 @@ struct DiaryState {
   std::optional<Date> lastEdited;  // the list comes back to this day once
   std::size_t first = 0;           // the first day sent, as a place among the days shown
   std::size_t count = 0;           // how many days from there; 0: place the window anew
+  int calendarYear = 0;            // the woman's cycle calendar: the year shown; 0 unset
 
   // Starts afresh for another profile.
   void keepFor(const std::string& profile) {

@@ -4,17 +4,6 @@
 
 namespace lad::shell {
 
-namespace {
-
-template <class Views>
-List valuesOf(const Views& views) {
-  List list;
-  for (const auto& v : views) list.push_back(v.toValue());
-  return list;
-}
-
-}  // namespace
-
 Value DayLineView::toValue() const {
   Map m;
   m.set("time", time);
@@ -48,6 +37,7 @@ Value DayCellView::toValue() const {
   m.set("day", day);
   m.set("weekday", weekday);
   m.set("state", state);
+  if (cycle) m.set("cycle", cycle->toValue());
   m.set("today", today);
   m.set("illness", illness);
   m.set("rows", valuesOf(rows));

@@ -7,6 +7,7 @@
 #include <vector>
 
 #include "core/value.h"
+#include "shell/views/cycle.h"
 #include "shell/views/pages.h"
 
 namespace lad::shell {
@@ -50,6 +51,7 @@ struct DayCellView {
   std::string day;      // the day of the month, or the whole date
   std::string weekday;  // its short name
   std::string state;    // the cycle's state of the day, or ""
+  std::optional<CycleMarkView> cycle;
   bool today = false;
   bool illness = false;
   std::vector<DayRowView> rows;

@@ -14,4 +14,12 @@ inline Map node(std::string_view kind) {
   return m;
 }
 
+// The nodes of a list of views, in order.
+template <class Views>
+List valuesOf(const Views& views) {
+  List list;
+  for (const auto& v : views) list.push_back(v.toValue());
+  return list;
+}
+
 }  // namespace lad::shell

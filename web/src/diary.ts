@@ -1,6 +1,7 @@
 // The diary on screen: the list of days with its search, year and sections, and the editor of
 // one day. The list comes a window at a time: when an end of it comes near, it asks for more.
 import { addSwipeToDelete, renderButton } from './controls.js';
+import { renderCycleMark } from './cycle.js';
 import { element } from './dom.js';
 import { bindInput, bindTyped, photoDataUrl } from './editor.js';
 import { renderIcon, renderPicture } from './pictures.js';
@@ -86,6 +87,7 @@ function renderCell(cell: DayCellNode, scrollTarget: boolean): HTMLElement {
   const date = element('div', 'day-date');
   date.append(element('div', 'day-number', cell.day), element('div', 'day-weekday', cell.weekday));
   if (cell.state) date.append(element('div', 'day-state', cell.state));
+  if (cell.cycle) date.append(renderCycleMark(cell.cycle));
   const rows = element('div', 'day-rows');
   rows.append(...cell.rows.map((r) => renderDayRow(r, 'div')));
   row.append(date, rows);

@@ -1,5 +1,6 @@
 // Turns a view description into DOM. All text shown comes from the description itself.
 import { addSwipeToDelete, renderButton } from './controls.js';
+import { renderCycleCalendar } from './cycle.js';
 import { renderDayEditor, renderDiary } from './diary.js';
 import { element } from './dom.js';
 import { renderIcon, renderPicture } from './pictures.js';
@@ -13,6 +14,7 @@ import type {
   LockNode,
   MessageNode,
   PageNode,
+  RingPageNode,
   RowNode,
   SvgNode,
   TextNode,
@@ -46,11 +48,11 @@ export function render(node: ViewNode): HTMLElement | null {
     case 'card':
       return renderCard(node);
     case 'ring':
-      return renderRing(node, (page) =>
-        page.kind === 'diary' ? renderDiary(page) : renderPage(page),
-      );
+      return renderRing(node, renderRingPage);
     case 'diary':
       return renderDiary(node);
+    case 'cycleCalendar':
+      return renderCycleCalendar(node);
     case 'dayEditor':
       return renderDayEditor(node);
     case 'lock':
@@ -59,6 +61,17 @@ export function render(node: ViewNode): HTMLElement | null {
       return renderEditor(node);
     default:
       return null; // kinds this build does not know are skipped
+  }
+}
+
+function renderRingPage(page: RingPageNode): HTMLElement {
+  switch (page.kind) {
+    case 'diary':
+      return renderDiary(page);
+    case 'cycleCalendar':
+      return renderCycleCalendar(page);
+    default:
+      return renderPage(page);
   }
 }
 

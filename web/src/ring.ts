@@ -1,11 +1,11 @@
 // The page ring on screen: the menu at the back, the page waiting behind the front one, and
 // the front page, which the finger drags (see gestures.ts).
 import { element } from './dom.js';
-import type { DiaryNode, PageNode, RingNode } from './view.js';
+import type { RingNode, RingPageNode } from './view.js';
 
 export function renderRing(
   node: RingNode,
-  renderPage: (page: PageNode | DiaryNode) => HTMLElement,
+  renderPage: (page: RingPageNode) => HTMLElement,
 ): HTMLElement {
   const ring = element('div', 'ring');
   const menu = element('div', 'ring-menu');

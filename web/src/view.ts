@@ -105,8 +105,8 @@ export interface CardNode {
 /** A page of the ring in front of the menu, the page waiting behind it, and the menu. */
 export interface RingNode {
   kind: 'ring';
-  page: PageNode | DiaryNode;
-  next?: PageNode | DiaryNode;
+  page: RingPageNode;
+  next?: RingPageNode;
   menu: PageNode;
   /** The tap that slides the page aside to uncover the menu. */
   toMenu: string;
@@ -307,6 +307,17 @@ export interface DiarySectionNode {
   span: string;
 }
 
+/** A phase of the woman's cycle, as its colour names it; '' is an ordinary day. */
+export type CyclePhase = 'period' | 'ovulation' | 'pregnancy' | '';
+
+/** A day's place in the cycle in its diary cell; tapping it opens the calendar. */
+export interface CycleMark {
+  phase: CyclePhase;
+  open: boolean;
+  caption: string;
+  target: string;
+}
+
 /** A day in the diary's list: tapping opens it, a swipe to the left offers to delete it. */
 export interface DayCellNode {
   kind: 'dayCell';
@@ -314,6 +325,7 @@ export interface DayCellNode {
   day: string;
   weekday: string;
   state: string;
+  cycle?: CycleMark;
   today: boolean;
   illness: boolean;
   rows: DayRow[];
@@ -358,6 +370,37 @@ export interface DayEditorNode {
   };
 }
 
+/** A day of the cycle calendar: `open` when its phase's closing day is not marked yet,
+ *  `marked` when the woman marked this very day. */
+export interface CycleDay {
+  day: number;
+  phase: CyclePhase;
+  open: boolean;
+  marked: boolean;
+  cycleDay: number;
+  today: boolean;
+  target: string;
+}
+
+/** The woman's calendar of one year, month by month in weeks from Monday. */
+export interface CycleCalendarNode {
+  kind: 'cycleCalendar';
+  title: string;
+  year: string;
+  back: ButtonNode;
+  forward: ButtonNode;
+  summary: string;
+  empty: string;
+  weekdays: string[];
+  months: Array<{ name: string; offset: number; days: CycleDay[] }>;
+  legend: Array<{ phase: CyclePhase; open: boolean; caption: string }>;
+  note: string;
+  close?: ButtonNode;
+}
+
+/** What a page of the ring can be. */
+export type RingPageNode = PageNode | DiaryNode | CycleCalendarNode;
+
 export type PopupNode = QuestionNode | PopupMenuNode | ListChoiceNode | PickerNode;
 
 export type ViewNode =
@@ -378,7 +421,8 @@ export type ViewNode =
   | DiaryNode
   | DiarySectionNode
   | DayCellNode
-  | DayEditorNode;
+  | DayEditorNode
+  | CycleCalendarNode;
 
 /**
  * What the server sends: the screen on top, with a popup and a message over it while open,
