@@ -116,7 +116,7 @@ void ProfileDialog::correctBodyIndex() {
   editor_.change("bodytype", Value(index.bodytype));
 }
 
-Question ProfileDialog::removalQuestion() const {
+std::optional<Question> ProfileDialog::removalQuestion() const {
   return Question::ask(app_.context(), "Вы действительно хотите удалить эту учетную запись?",
                        "Удаление");
 }

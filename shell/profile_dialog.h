@@ -8,13 +8,11 @@
 
 #include "health/pregnancy_dates.h"
 #include "shell/application.h"
-#include "shell/editor/field_editor.h"
-#include "shell/message_box.h"
-#include "shell/question.h"
+#include "shell/settings_dialog.h"
 
 namespace lad::shell {
 
-class ProfileDialog {
+class ProfileDialog : public SettingsDialog {
  public:
   // Editor codes: the active profile changed, or a new profile.
   static constexpr int kChangedProfile = 1000;
@@ -28,24 +26,24 @@ class ProfileDialog {
   const List& rows() const { return editor_.rows(); }
   // The row of a field, or nullptr.
   const Map* row(std::string_view field) const { return editor_.row(field); }
-  const FieldEditor& editor() const { return editor_; }
+  const FieldEditor& editor() const override { return editor_; }
 
   // The user changed a field. Dates keep each other consistent and height and weight recount
   // the body index; a refused conception date comes back as a message. A new portrait comes
   // as its bytes, and null takes the portrait away.
-  std::optional<MessageBox> change(std::string_view field, const Value& source);
+  std::optional<MessageBox> change(std::string_view field, const Value& source) override;
 
   // The question asked before a removal, and the removal it leads to on consent.
-  Question removalQuestion() const;
-  void confirmRemoval();
+  std::optional<Question> removalQuestion() const override;
+  void confirmRemoval() override;
 
   // Brings the rows into their stored forms and checks them, as every editor does on closing:
   // the message of the first required row left empty, or nullopt when they can be saved.
-  std::optional<MessageBox> close() { return editor_.close(); }
+  std::optional<MessageBox> close() override { return editor_.close(); }
 
   // Saves (or removes) the profile and returns its guid; a new pregnancy gets its guid here.
   // A picture that cannot be read leaves the portrait as it was and says why in photoError.
-  std::string finish(std::string* photoError = nullptr);
+  std::string finish(std::string* photoError = nullptr) override;
 
  private:
   std::string text(std::string_view field) const;

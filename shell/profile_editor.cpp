@@ -15,10 +15,15 @@ constexpr std::string_view kUnreadablePhoto = "Не удалось прочит�
 }  // namespace
 
 ProfileEditor::ProfileEditor(Application& app, ScreenHost& host, std::optional<std::string> gid)
-    : app_(app), host_(host), dialog_(app, std::move(gid)) {}
+    : ProfileEditor(app, host, std::make_unique<ProfileDialog>(app, std::move(gid))) {}
+
+ProfileEditor::ProfileEditor(Application& app, ScreenHost& host,
+                             std::unique_ptr<SettingsDialog> dialog)
+    : app_(app), host_(host), dialog_(std::move(dialog)) {}
 
 Value ProfileEditor::view() {
-  return editorView(app_.context(), dialog_.caption(), dialog_.rows(), previews_);
+  const FieldEditor& editor = dialog_->editor();
+  return editorView(app_.context(), editor.caption(), editor.rows(), previews_);
 }
 
 EventResult ProfileEditor::tap(std::string_view target) {
@@ -27,11 +32,12 @@ EventResult ProfileEditor::tap(std::string_view target) {
     return {};
   }
   if (target == kEditorOk) return save();
-  if (targetField(target) == kRemoveField && dialog_.row(kRemoveField)) {
+  if (targetField(target) == kRemoveField && dialog_->editor().row(kRemoveField)) {
     askRemoval();
     return {};
   }
-  if (const Map* row = dialog_.row(targetField(target)); row && (*row)["tp"].intValue() == kDate) {
+  if (const Map* row = dialog_->editor().row(targetField(target));
+      row && (*row)["tp"].intValue() == kDate) {
     pickDate(std::string(targetField(target)), *row);
     return {};
   }
@@ -40,7 +46,7 @@ EventResult ProfileEditor::tap(std::string_view target) {
 
 EventResult ProfileEditor::change(std::string_view target, const Value& value) {
   const std::string_view field = targetField(target);
-  const Map* row = dialog_.row(field);
+  const Map* row = dialog_->editor().row(field);
   if (!row || field == kRemoveField)
     return EventResult::refused("the settings have no field " + std::string(target));
   Value source = value;
@@ -54,13 +60,13 @@ EventResult ProfileEditor::change(std::string_view target, const Value& value) {
     }
     source = Value(std::move(*picture));
   }
-  if (auto refusal = dialog_.change(field, source)) host_.showMessage(std::move(*refusal));
+  if (auto refusal = dialog_->change(field, source)) host_.showMessage(std::move(*refusal));
   return {};
 }
 
 // Checks the required rows first; a missing one keeps the screen open with its message.
 EventResult ProfileEditor::save() {
-  if (auto missing = dialog_.close()) {
+  if (auto missing = dialog_->close()) {
     host_.showMessage(std::move(*missing));
     return {};
   }
@@ -78,17 +84,19 @@ void ProfileEditor::pickDate(std::string field, const Map& row) {
 }
 
 void ProfileEditor::askRemoval() {
-  host_.openPopup(std::make_unique<Question>(dialog_.removalQuestion()),
+  auto question = dialog_->removalQuestion();
+  if (!question) return;
+  host_.openPopup(std::make_unique<Question>(std::move(*question)),
                   [this](const PopupAnswer& answer) {
                     if (answer.button != kConsent) return EventResult();
-                    dialog_.confirmRemoval();
+                    dialog_->confirmRemoval();
                     return finish();
                   });
 }
 
 EventResult ProfileEditor::finish() {
   std::string photoError;
-  saved_ = dialog_.finish(&photoError);
+  saved_ = dialog_->finish(&photoError);
   closed_ = true;
   if (!photoError.empty())
     host_.showMessage(MessageBox::make(app_.context(), photoError, "Ошибка"));

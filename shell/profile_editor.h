@@ -1,7 +1,9 @@
-// The screen of a pregnancy's settings: the profile dialog's rows in the field editor, saved
-// with "Готово", left with "Отменить", and the profile removed after a question.
+// The screen of a profile's settings (a pregnancy's, or the woman's): the dialog's rows in the
+// field editor, saved with "Готово", left with "Отменить", and a pregnancy removed after a
+// question.
 #pragma once
 
+#include <memory>
 #include <optional>
 #include <string>
 
@@ -16,6 +18,7 @@ class ProfileEditor : public Screen {
  public:
   // With a guid the settings of that pregnancy; without one a new pregnancy.
   ProfileEditor(Application& app, ScreenHost& host, std::optional<std::string> gid);
+  ProfileEditor(Application& app, ScreenHost& host, std::unique_ptr<SettingsDialog> dialog);
 
   Value view() override;
   EventResult tap(std::string_view target) override;
@@ -34,7 +37,7 @@ class ProfileEditor : public Screen {
 
   Application& app_;
   ScreenHost& host_;
-  ProfileDialog dialog_;
+  std::unique_ptr<SettingsDialog> dialog_;
   PhotoPreviews previews_;
   std::string saved_;
   bool closed_ = false;

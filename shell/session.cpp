@@ -10,6 +10,7 @@
 #include "shell/theme.h"
 #include "shell/views/pages.h"
 #include "shell/welcome_screen.h"
+#include "shell/woman_dialog.h"
 #include "store/profiles.h"
 
 namespace lad::shell {
@@ -54,13 +55,19 @@ Session::Session(Application& app)
   if (passwordOn(app.context().settings())) showLock(LockMode::Check);
 }
 
-// The menu rows whose screens the session shows. The child's and the woman's settings are
-// other dialogs, so only the pregnancy editions take these two rows.
+// The menu rows whose screens the session shows: the settings of a pregnancy or of the woman;
+// the child's settings are still to come.
 void Session::addMenuCommands() {
-  if (isPregnancyEdition(app_.context().values().appid)) {
+  const int appid = app_.context().values().appid;
+  if (isPregnancyEdition(appid)) {
     menu_.onCommand(kProfileSettingsRow, showing([this] { showProfile(menu_.activeId()); }));
     menu_.onCommand(kNewProfileRow, showing([this] { showProfile(std::nullopt); }));
   }
+  if (isCycleEdition(appid))
+    menu_.onCommand(kProfileSettingsRow, showing([this] {
+                      push(std::make_shared<ProfileEditor>(
+                          app_, *this, std::make_unique<WomanDialog>(app_, profileId())));
+                    }));
   menu_.onCommand(kBackgroundRow, showing([this] { showBackgrounds(); }));
   menu_.onCommand(kPasswordSwitch, [this] { return togglePassword(); });
 }

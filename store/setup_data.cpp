@@ -261,4 +261,13 @@ void saveSetupData(Store& store, SetupRegime regime, Map setup, const std::strin
   }
 }
 
+void saveWomanSetup(Store& store, const Map& setup, const std::string& gid) {
+  if (!isCycleEdition(store.context().values().appid)) return;
+  StoreBracket bracket = store.connectToBase();
+  if (!bracket.db()) return;
+  writeProfile(store.context(), *bracket.db(), profileTable(store.context().values().appid), setup,
+               gid, true);
+  bracket.markChanged();
+}
+
 }  // namespace lad

@@ -28,4 +28,8 @@ enum SetupRegime { kSetupFromEditor = 1, kSetupFromCloud = 2 };
 // woman's edition has no profile to save.
 void saveSetupData(Store& store, SetupRegime regime, Map setup, const std::string& gid);
 
+// Writes the woman's profile row from the editor: "sbirthdate" ("yyyy-MM-dd"), "bodytype" and
+// "rost". Another device's setup never reaches it.
+void saveWomanSetup(Store& store, const Map& setup, const std::string& gid);
+
 }  // namespace lad

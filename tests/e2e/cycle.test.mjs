@@ -1,7 +1,8 @@
 // Browser test of the woman's cycle on a fresh installation of the cycle edition: an empty year
 // says how to add a mark; the first and last days of a period and an ovulation marked in the day
 // editor from the calendar show in the calendar's colours and in the diary's cells, whose mark
-// opens the calendar again. Screenshots of the calendar at phone and tablet size.
+// opens the calendar again; her settings keep what she typed. Screenshots of the calendar at
+// phone and tablet size, and of the settings.
 //   node tests/e2e/cycle.test.mjs --server PATH_TO_SERVER --out SCREENSHOT_DIR
 import assert from 'node:assert/strict';
 import path from 'node:path';
@@ -52,22 +53,61 @@ async function checkCalendar(page, outDir) {
   await page.screenshot({ path: path.join(outDir, 'cycle-calendar.png'), fullPage: true });
 }
 
+/** Runs a search in the diary until `found` shows: a redraw that comes between the typing and
+ *  the search draws the field anew, empty, and then it is typed again. */
+async function searchFor(page, text, found) {
+  for (let attempt = 1; ; attempt += 1) {
+    await page.fill('.ring-page .diary-search-input', text);
+    await page.press('.ring-page .diary-search-input', 'Enter');
+    try {
+      await page.waitForSelector(found, { timeout: 3000 });
+      return;
+    } catch (error) {
+      if (attempt === 4) throw error;
+    }
+  }
+}
+
 /** The diary of that year shows the ovulation's day with its mark, which leads to the calendar. */
 async function checkDiary(page) {
   await page.tap('.ring-page .to-menu');
   await page.tap('[data-id="menu:8"]');
   await page.waitForSelector('.ring-page .diary');
   await page.tap('.ring-page .diary-year button >> nth=0');
-  await page.fill('.ring-page .diary-search-input', 'Овуляция');
-  await page.press('.ring-page .diary-search-input', 'Enter');
+  await page.waitForFunction(
+    (y) => document.querySelector('.ring-page .diary-year-caption')?.textContent?.startsWith(y),
+    String(YEAR),
+  );
   const cell = `.ring-page .day-cell[data-id="diary:day:${day('17', '03')}"]`;
-  await page.waitForSelector(cell);
+  await searchFor(page, 'Овуляция', cell);
   assert.equal(await page.textContent(`${cell} .day-state`), 'Овуляция');
   assert.equal(await page.textContent(`${cell} .cycle-mark`), '15-й день цикла');
   await page.tap(`${cell} .cycle-mark`);
   await page.waitForSelector('#app > .cycle-calendar .page-header button');
   await page.tap('#app > .cycle-calendar .page-header button');
   await page.waitForSelector(cell);
+}
+
+/** The woman's settings keep her height, build and a meal time, and show them when reopened. */
+async function checkSettings(page, outDir) {
+  await page.tap('.ring-page .to-menu');
+  const open = async () => {
+    await page.tap('[data-id="menu:22"]');
+    await page.waitForSelector('.editor [data-field="field:meal1"]');
+  };
+  await open();
+  await page.fill('[data-field="field:rost"]', '168');
+  await page.fill('[data-field="field:meal1"]', '08:30');
+  await page.tap('.segment:has-text("Полное")');
+  await page.screenshot({ path: path.join(outDir, 'cycle-settings.png') });
+  await page.tap('.editor-ok');
+  await page.waitForSelector('.editor', { state: 'detached' });
+  await open();
+  assert.equal(await page.inputValue('[data-field="field:rost"]'), '168');
+  assert.equal(await page.inputValue('[data-field="field:meal1"]'), '08:30');
+  assert.equal(await page.inputValue('[data-field="field:meal2"]'), '11:00');
+  assert.ok(await page.isChecked('.segment:has-text("Полное") input'));
+  await page.tap('.editor-cancel');
 }
 
 await runBrowserTest('cycle', async ({ browser, executable, outDir }) => {
@@ -77,6 +117,7 @@ await runBrowserTest('cycle', async ({ browser, executable, outDir }) => {
       const { context, page, errors } = await openPastGreeting(browser, base);
       await checkCalendar(page, outDir);
       await checkDiary(page);
+      await checkSettings(page, outDir);
       assert.deepEqual(errors, []);
       await context.close();
 

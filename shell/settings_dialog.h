@@ -1,0 +1,32 @@
+// What the settings screen edits: a profile's rows in the field editor, the rules applied while
+// the user types, and the save at the end; a profile that can be removed asks first.
+#pragma once
+
+#include <optional>
+#include <string>
+#include <string_view>
+
+#include "shell/editor/field_editor.h"
+#include "shell/message_box.h"
+#include "shell/question.h"
+
+namespace lad::shell {
+
+class SettingsDialog {
+ public:
+  virtual ~SettingsDialog() = default;
+
+  virtual const FieldEditor& editor() const = 0;
+  // The user changed a field; a refusal comes back as a message.
+  virtual std::optional<MessageBox> change(std::string_view field, const Value& source) = 0;
+  // The message of the first required row left empty, or nullopt when the rows can be saved.
+  virtual std::optional<MessageBox> close() = 0;
+  // Saves the profile and returns its guid; a picture that cannot be read says why.
+  virtual std::string finish(std::string* photoError) = 0;
+
+  // The question before a removal, for a profile that can be removed.
+  virtual std::optional<Question> removalQuestion() const { return std::nullopt; }
+  virtual void confirmRemoval() {}
+};
+
+}  // namespace lad::shell
