@@ -7,6 +7,7 @@
 #include "core/context.h"
 #include "core/word_forms.h"
 #include "store/reading_forms.h"
+#include "store/regimen.h"
 
 namespace lad {
 
@@ -17,13 +18,6 @@ struct WordForms {
   const char* few;
   const char* many;
 };
-
-// The two fields of a "<td>" pair; the second is empty when the value has none.
-std::pair<std::string, std::string> pairOf(std::string_view value) {
-  const auto at = value.find("<td>");
-  if (at == std::string_view::npos) return {std::string(value), ""};
-  return {std::string(value.substr(0, at)), std::string(value.substr(at + 4))};
-}
 
 std::string counted(const Context& context, std::int64_t n, const WordForms& w) {
   return std::to_string(n) + " " +

@@ -1,9 +1,12 @@
 #include "store/records.h"
 
+#include <map>
+
 #include "core/context.h"
 #include "core/db_cells.h"
 #include "store/dictionary.h"
 #include "store/keywords.h"
+#include "store/pill_courses.h"
 #include "store/profiles.h"
 #include "store/setup_data.h"
 #include "store/store.h"
@@ -14,6 +17,14 @@ namespace lad {
 namespace {
 
 constexpr int kFirstStoredDayType = 2;
+
+// What every row of a day's save shares.
+struct DaySave {
+  const std::string& gid;
+  Date day;
+  const List& listData;
+  std::map<std::string, std::string> courses;  // course fields' values before the save
+};
 
 // Statement text with the edition's diary table and guid column put in for "{data}" and
 // "{guid}".
@@ -54,9 +65,24 @@ std::string lastDateValue(Store& store, StoreBracket& bracket, const std::string
   return found->first;
 }
 
+// The values of the day's course fields as they stood before the day is cleared: the courses
+// are reconciled against them, and their removal finds the day by them.
+std::map<std::string, std::string> coursesBefore(Store& store, StoreBracket& bracket,
+                                                 const List& rows, const std::string& gid,
+                                                 Date day) {
+  std::map<std::string, std::string> old;
+  for (const Value& row : rows)
+    if (row["tp"].intValue() == kKindPills) {
+      const std::string field = row["field"].text();
+      old[field] = getDateValue(store, bracket, day, field, gid);
+    }
+  return old;
+}
+
 // One field row of a day: what it writes, by its kind.
-bool saveRow(Store& store, StoreBracket& bracket, const Map& row, const std::string& gid,
-             Date day) {
+bool saveRow(Store& store, StoreBracket& bracket, const Map& row, const DaySave& save) {
+  const std::string& gid = save.gid;
+  const Date day = save.day;
   const int kind = static_cast<int>(row["tp"].intValue());
   const std::string field = row["field"].text();
   const std::string source = row["source"].text();
@@ -69,10 +95,12 @@ bool saveRow(Store& store, StoreBracket& bracket, const Map& row, const std::str
     case kKindDayType:
       if (row["source"].intValue() < kFirstStoredDayType) return true;
       break;
-    case kKindPills:
-      // Spreading a changed regimen over its other days comes with the medication regimens;
-      // until then the day keeps the value as the editor gave it.
-      break;
+    case kKindPills: {
+      const std::string& old = save.courses.at(field);
+      insertValue(store, bracket, field, old, day, gid, false, false);
+      saveNoteComplex(store, bracket, field, source, day, gid, save.listData, old);
+      return true;
+    }
   }
   if (source.empty()) return true;
   SqliteStatement st = bracket.db()->prepare(
@@ -82,14 +110,15 @@ bool saveRow(Store& store, StoreBracket& bracket, const Map& row, const std::str
   return st.run();
 }
 
-bool replaceDay(Store& store, StoreBracket& bracket, const List& rows, const std::string& gid,
-                Date day) {
+bool replaceDay(Store& store, StoreBracket& bracket, const List& rows, const List& listData,
+                const std::string& gid, Date day) {
+  const DaySave save{gid, day, listData, coursesBefore(store, bracket, rows, gid, day)};
   SqliteStatement clear = bracket.db()->prepare(
       sqlFor(store, "delete from {data} where {guid}=? and date(sdat)=date(?)"));
   bindDayOf(store, clear, gid, day, std::nullopt);
   if (!clear.run()) return false;
   for (const Value& row : rows)
-    if (row.asMap() && !saveRow(store, bracket, *row.asMap(), gid, day)) return false;
+    if (row.asMap() && !saveRow(store, bracket, *row.asMap(), save)) return false;
   return true;
 }
 
@@ -182,7 +211,7 @@ void saveNoteData(Store& store, NoteRegime regime, const List& rows, const List&
     const SqliteConnection& db = *bracket.db();
     // One transaction: a failure half-way leaves the day as it was.
     if (!db.execute("begin")) return;
-    if (replaceDay(store, bracket, rows, gid, day))
+    if (replaceDay(store, bracket, rows, listData, gid, day))
       db.execute("commit");
     else
       db.execute("rollback");

@@ -91,14 +91,6 @@ TEST_F(RecordsTest, KindsWithRulesOfTheirOwn) {
   EXPECT_EQ(valueOn("daytype", day(29)), "3");
 }
 
-// The medication regimens, which spread a changed row over its other days, are not built yet:
-// until they are the pills row is stored as the editor gave it.
-TEST_F(RecordsTest, PillsAreStoredAsGivenUntilRegimensSpreadThem) {
-  saveNoteData(*store, kNoteFromEditor, {row(23, "pills", "[{\"key\":\"K\"}]")}, {}, kFirst,
-               day(29));
-  EXPECT_EQ(valueOn("pills", day(29)), "[{\"key\":\"K\"}]");
-}
-
 TEST_F(RecordsTest, ABirthIsRecordedOnTheProfileAndUndoneOnlyOnItsDay) {
   saveNoteData(*store, kNoteFromEditor, {row(16, "birthresult", "{\"ves\":\"3.2\"}")}, {}, kFirst,
                day(29));
