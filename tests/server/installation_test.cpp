@@ -10,15 +10,11 @@
 namespace lad::server::test {
 namespace {
 
-ContextOptions optionsFor(const std::filesystem::path& dataDir) {
-  return greetedInstallation(dataDir);
-}
-
 TEST(InstallationTest, ShutdownWritesTheSettingsFileAndCanBeRepeated) {
   TempDir root;
   const auto dataDir = root.path() / "data";
   const auto file = settingsFileOf(dataDir);
-  Installation installation(optionsFor(dataDir));
+  Installation installation(greetedInstallation(dataDir));
   // A change that nothing has written yet.
   installation.withContext([](Context& c) { c.settings().set("probe", 7); });
   ASSERT_TRUE(std::filesystem::remove(file));
@@ -35,34 +31,6 @@ TEST(InstallationTest, ShutdownWritesTheSettingsFileAndCanBeRepeated) {
   installation.shutdown();
   EXPECT_EQ(settingsOnDisk(dataDir), settings);
   EXPECT_THROW(installation.view(""), std::runtime_error);
-}
-
-TEST(InstallationTest, EventsChangeSettingsThatOutliveTheInstallation) {
-  TempDir root;
-  const auto dataDir = root.path() / "data";
-  std::string appguid;
-  {
-    Installation installation(optionsFor(dataDir));
-    Reply reply = installation.event("", R"({"type":"tap","target":"menu:51"})");
-    EXPECT_EQ(reply.status, 200) << reply.body;
-    EXPECT_TRUE(reply.newSession);
-    EXPECT_FALSE(reply.session.empty());
-    // The same session is found again by its id.
-    Reply again = installation.view(reply.session);
-    EXPECT_FALSE(again.newSession);
-    EXPECT_EQ(again.session, reply.session);
-    appguid =
-        installation.withContext([](Context& c) { return c.settings().stringForKey("appguid"); });
-    ASSERT_FALSE(appguid.empty());
-  }
-  Installation reopened(optionsFor(dataDir));
-  Reply view = reopened.view("");
-  ASSERT_EQ(view.status, 200);
-  Json row = rowOf(Json::parse(view.body), "menu:51");
-  ASSERT_TRUE(row.is_object()) << view.body;
-  EXPECT_EQ(row["checked"], true);
-  EXPECT_EQ(reopened.withContext([](Context& c) { return c.settings().stringForKey("appguid"); }),
-            appguid);
 }
 
 }  // namespace

@@ -4,22 +4,12 @@
 
 #include "server/listen_policy.h"
 #include "server_fixture.h"
-#include "shell/lock/password_hash.h"
 
 namespace lad::server::test {
 namespace {
 
 class LockAccessTest : public ServerTest {
  protected:
-  void lockWith(const std::string& code) {
-    installation_->withContext([&](Context& c) {
-      c.settings().set("pass", true);
-      c.settings().set("password", *shell::hashPassword(code));
-    });
-  }
-  httplib::Result tap(const std::string& session, const std::string& target) {
-    return postEvent(R"({"type":"tap","target":")" + target + "\"}", session);
-  }
   Json viewOf(const std::string& session) {
     auto res = client()->Get("/api/view", sessionHeaders(session));
     return res ? Json::parse(res->body) : Json();
@@ -47,9 +37,9 @@ TEST_F(LockAccessTest, LockedSessionSeesOnlyTheLockUntilTheCodeIsRight) {
   ASSERT_TRUE(postEvent(R"({"type":"visible"})", before));
   EXPECT_EQ(viewOf(before)["view"]["kind"], "lock");
 
-  for (char d : std::string("1111")) tap(session, std::string("lock:") + d);
+  typeCode(session, "1111");
   EXPECT_EQ(viewOf(session)["view"]["caption"], "Пароль указан неправильно");
-  for (char d : std::string("246")) tap(session, std::string("lock:") + d);
+  typeCode(session, "246");
   auto last = tap(session, "lock:8");
   ASSERT_TRUE(last);
   EXPECT_EQ(last->status, 200);
@@ -77,7 +67,7 @@ TEST_F(LockAccessTest, AFingerprintRegistrationNamesTheHostOfTheRequest) {
   const httplib::Headers host{{"Host", "localhost:" + std::to_string(port_)}};
   ASSERT_EQ(postEvent(R"({"type":"authenticator","available":true})", session, host)->status, 200);
   tap(session, "menu:52");
-  for (char d : std::string("24682468")) tap(session, std::string("lock:") + d);
+  typeCode(session, "24682468");
   httplib::Headers viewHeaders = sessionHeaders(session);
   viewHeaders.insert(host.begin(), host.end());
   auto res = client()->Get("/api/view", viewHeaders);

@@ -3,7 +3,6 @@
 #include <gtest/gtest.h>
 
 #include "server_fixture.h"
-#include "shell/lock/password_hash.h"
 #include "store/portrait.h"
 
 namespace lad::server::test {
@@ -45,17 +44,13 @@ TEST_F(PortraitRouteTest, TheCardShowsThePortraitWhichOnlyAnUnlockedSessionGets)
   EXPECT_EQ(fetch(address, "")->status, 403);  // no session
   EXPECT_EQ(fetch(address, "not-a-session")->status, 403);
 
-  installation_->withContext([](Context& c) {
-    c.settings().set("pass", true);
-    c.settings().set("password", *shell::hashPassword("2468"));
-  });
+  lockWith("2468");
   ASSERT_TRUE(postEvent(R"({"type":"visible"})", session));
   auto locked = fetch(address, session);
   ASSERT_TRUE(locked);
   EXPECT_EQ(locked->status, 403);
   EXPECT_EQ(locked->body.find("portrait bytes"), std::string::npos);
-  for (char d : std::string("2468"))
-    postEvent(R"({"type":"tap","target":"lock:)" + std::string(1, d) + R"("})", session);
+  typeCode(session, "2468");
   EXPECT_EQ(fetch(address, session)->status, 200) << "once unlocked";
 }
 

@@ -24,6 +24,7 @@
 #include "core/value.h"
 #include "server/http_server.h"
 #include "server/installation.h"
+#include "shell/lock/password_hash.h"
 #include "tests/support/test_files.h"
 
 namespace lad::server::test {
@@ -33,6 +34,10 @@ using Json = nlohmann::json;
 
 // How long any single wait may take before the test gives up instead of hanging.
 constexpr auto kDeadline = 15s;
+
+// What a stream hears for a redraw, and the marker a test pushes behind the events it awaits.
+constexpr char kRefresh[] = "event: refresh\ndata: {}\n\n";
+constexpr char kMarker[] = "event: notice\ndata: {\"marker\":1}\n\n";
 
 using lad::testing::readFile;
 using lad::testing::TempDir;
@@ -253,6 +258,21 @@ class ServerTest : public ::testing::Test {
     headers.insert(extra.begin(), extra.end());
     return client()->Post("/api/event", headers, body, contentType.c_str());
   }
+
+  httplib::Result tap(const std::string& session, const std::string& target) {
+    return postEvent(R"({"type":"tap","target":")" + target + "\"}", session);
+  }
+  void typeCode(const std::string& session, const std::string& digits) {
+    for (char d : digits) tap(session, std::string("lock:") + d);
+  }
+  // Turns the lock on with this code, as a code set through the lock would.
+  void lockWith(const std::string& code) {
+    installation_->withContext([&](Context& c) {
+      c.settings().set("pass", true);
+      c.settings().set("password", *shell::hashPassword(code));
+    });
+  }
+  void pushMarker() { installation_->hub().publish({"notice", "{\"marker\":1}"}); }
 
   // The settings as the installation holds them, written out first so that the file is current.
   std::string settingsNow() {

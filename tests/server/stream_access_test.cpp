@@ -7,7 +7,6 @@
 #include <vector>
 
 #include "server_fixture.h"
-#include "shell/lock/password_hash.h"
 #include "tests/support/loopback_client.h"
 
 namespace lad::server::test {
@@ -15,22 +14,13 @@ namespace {
 
 using lad::testing::LoopbackClient;
 
-constexpr char kRefresh[] = "event: refresh\ndata: {}\n\n";
-constexpr char kMarker[] = "event: notice\ndata: {\"marker\":1}\n\n";
-
 std::string streamRequest(const std::string& cookie) {
   std::string request = "GET /api/events HTTP/1.1\r\nHost: 127.0.0.1\r\n";
   if (!cookie.empty()) request += "Cookie: lsid=" + cookie + "\r\n";
   return request + "\r\n";
 }
 
-class StreamAccessTest : public ServerTest {
- protected:
-  void pushMarker() { installation_->hub().publish({"notice", "{\"marker\":1}"}); }
-  httplib::Result tap(const std::string& session, const std::string& target) {
-    return postEvent(R"({"type":"tap","target":")" + target + "\"}", session);
-  }
-};
+using StreamAccessTest = ServerTest;
 
 TEST_F(StreamAccessTest, OnlyAKnownSessionGetsAStream) {
   for (const std::string cookie : {"", "no-such-session"}) {
@@ -42,16 +32,18 @@ TEST_F(StreamAccessTest, OnlyAKnownSessionGetsAStream) {
     EXPECT_NE(res->body.find("\"error\""), std::string::npos) << res->body;
   }
   StreamReader stream(port_, openSession());
-  EXPECT_TRUE(stream.waitFor("retry:"));
+  // The greeting comes first, and only once the stream is subscribed.
+  ASSERT_TRUE(stream.waitFor("retry:"));
+  EXPECT_TRUE(stream.text().starts_with("retry: ")) << stream.text();
   EXPECT_EQ(stream.status(), 200);
+  // One Content-Type only: a client that reads the first one must see an event stream.
+  EXPECT_EQ(stream.contentTypes(), std::vector<std::string>{"text/event-stream"});
+  EXPECT_EQ(stream.cacheControl(), "no-store");
 }
 
 TEST_F(StreamAccessTest, LockedSessionHearsOnlyItsOwnLock) {
   const std::string open = openSession();  // opened before the lock: stays open until activated
-  installation_->withContext([](Context& c) {
-    c.settings().set("pass", true);
-    c.settings().set("password", *shell::hashPassword("2468"));
-  });
+  lockWith("2468");
   const std::string locked = openSession();
   StreamReader openStream(port_, open);
   StreamReader lockedStream(port_, locked);

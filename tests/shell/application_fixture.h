@@ -7,6 +7,7 @@
 #include <memory>
 
 #include "shell/application.h"
+#include "shell/session.h"
 #include "tests/support/test_files.h"
 
 namespace lad::testing {
@@ -21,6 +22,29 @@ class ApplicationTest : public ::testing::Test {
     return *app;
   }
   SettingsStore& settings() { return app->context().settings(); }
+
+  // A browser's session on the launched installation, past the greeting if the launch had one.
+  std::unique_ptr<shell::Session> greetedSession() {
+    auto s = std::make_unique<shell::Session>(*app);
+    if (s->view()["kind"].text() == "welcome") {
+      EXPECT_TRUE(tap(*s, "welcome:close").ok());
+    }
+    return s;
+  }
+  // Events as the browser sends them.
+  static shell::EventResult send(shell::Session& s, const std::string& json) {
+    return s.handle(*Value::fromJson(json));
+  }
+  static shell::EventResult tap(shell::Session& s, std::string_view target) {
+    Map m;
+    m.set("type", "tap");
+    m.set("target", std::string(target));
+    return s.handle(Value(std::move(m)));
+  }
+  // Digits typed on the lock's pad.
+  static void type(shell::Session& s, std::string_view digits) {
+    for (char d : digits) tap(s, "lock:" + std::string(1, d));
+  }
 
   TempDir dir;
   std::shared_ptr<ManualClock> clock =

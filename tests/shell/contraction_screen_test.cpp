@@ -18,16 +18,10 @@ class ContractionScreenTest : public lad::testing::ApplicationTest {
 
   // A session on the counter, opened by its shortcut.
   std::unique_ptr<Session> counter() {
-    auto s = std::make_unique<Session>(*app);
-    if (s->view()["kind"].text() == "welcome") {
-      EXPECT_TRUE(s->handle(event(R"({"type":"tap","target":"welcome:close"})")).ok());
-    }
+    auto s = greetedSession();
     EXPECT_TRUE(s->handle(event(R"({"type":"shortcut","name":"SCHVATKI"})")).ok());
     EXPECT_TRUE(s->handle(event(R"({"type":"visible"})")).ok());
     return s;
-  }
-  EventResult tap(Session& s, std::string_view target) {
-    return s.handle(event(R"({"type":"tap","target":")" + std::string(target) + "\"}"));
   }
   // Times one contraction of len seconds after a pause.
   void time(Session& s, std::chrono::seconds pause, std::chrono::seconds len) {

@@ -2,7 +2,6 @@
 
 #include "core/base64.h"
 #include "shell/lock/fingerprint_keys.h"
-#include "shell/session.h"
 #include "tests/shell/application_fixture.h"
 #include "tests/support/test_authenticator.h"
 
@@ -30,15 +29,6 @@ class FingerprintLockTest : public lad::testing::ApplicationTest {
     m.set("available", reader);
     EXPECT_TRUE(s->handle(Value(std::move(m))).ok());
     return s;
-  }
-  static EventResult tap(Session& s, std::string_view target) {
-    Map m;
-    m.set("type", "tap");
-    m.set("target", std::string(target));
-    return s.handle(Value(std::move(m)));
-  }
-  static void type(Session& s, std::string_view digits) {
-    for (char d : digits) tap(s, "lock:" + std::string(1, d));
   }
   static Value keyOf(Session& s) { return s.view()["fingerprint"]; }
   static std::string challengeOf(Session& s) { return decoded(keyOf(s)["request"]["challenge"]); }

@@ -3,7 +3,6 @@
 #include <gtest/gtest.h>
 
 #include "shell/lock/password_hash.h"
-#include "shell/session.h"
 #include "tests/shell/application_fixture.h"
 
 namespace lad::shell {
@@ -147,15 +146,8 @@ TEST_F(PasswordLockTest, CodeKeptInClearByAnOlderVersionOpensAndIsThenHashed) {
 }
 
 TEST_F(PasswordLockTest, SwitchRoundTripThroughTheSession) {
-  auto tap = [](Session& s, const std::string& target) {
-    Map m;
-    m.set("type", "tap");
-    m.set("target", target);
-    return s.handle(Value(std::move(m)));
-  };
-  auto typeIn = [&](Session& s, std::string_view digits) {
-    for (char d : digits) tap(s, "lock:" + std::string(1, d));
-  };
+  const auto typeIn = ApplicationTest::type;
+  const auto tap = ApplicationTest::tap;
   // The switch on, a code set (the journey's browser test locks and unlocks with it), then a
   // change of code: only the new one opens a session.
   Session s(*app);
@@ -163,10 +155,10 @@ TEST_F(PasswordLockTest, SwitchRoundTripThroughTheSession) {
   tap(s, "welcome:close");
   tap(s, "menu:52");
   typeIn(s, "24682468");
-  ASSERT_TRUE(tap(s, std::string(kMessageClose)).ok());
+  ASSERT_TRUE(tap(s, kMessageClose).ok());
   s.askNewPassword();
   typeIn(s, "13571357");
-  tap(s, std::string(kMessageClose));
+  tap(s, kMessageClose);
   Session third(*app);
   typeIn(third, "2468");
   EXPECT_TRUE(third.locked());

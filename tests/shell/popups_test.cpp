@@ -117,10 +117,8 @@ TEST_F(ApplicationTest, AHintShowsUntilItsKeyIsFinishedAndStaysFinished) {
 
 TEST_F(ApplicationTest, ASessionShowsAPopupOverItsScreenUntilItIsAnswered) {
   launchApp();
-  Session s(*app);
-  if (s.view()["kind"].text() == "welcome") {
-    ASSERT_TRUE(s.handle(*Value::fromJson(R"({"type":"tap","target":"welcome:close"})")).ok());
-  }
+  auto session = greetedSession();
+  Session& s = *session;
   std::vector<PopupAnswer> answers;
   s.openPopup(std::make_unique<WheelPicker>(app->context(), kTimePicker, "Время", "08:00"),
               [&](const PopupAnswer& a) {

@@ -20,13 +20,12 @@ class ProfileEditorTest : public lad::testing::ApplicationTest {
  protected:
   ProfileEditorTest() {
     launchApp();
-    session = std::make_unique<Session>(*app);
-    if (session->view()["kind"].text() == "welcome") tap("welcome:close");
+    session = greetedSession();
   }
 
-  EventResult send(const std::string& json) { return session->handle(*Value::fromJson(json)); }
+  EventResult send(const std::string& json) { return ApplicationTest::send(*session, json); }
   void tap(const std::string& target) {
-    ASSERT_TRUE(send(R"({"type":"tap","target":")" + target + R"("})").ok()) << target;
+    ASSERT_TRUE(ApplicationTest::tap(*session, target).ok()) << target;
   }
   EventResult change(const std::string& field, const Value& value) {
     Map e;

@@ -13,14 +13,6 @@ class SessionTest : public lad::testing::ApplicationTest {
   SessionTest() { launchApp(); }
 
   static Value event(const std::string& json) { return *Value::fromJson(json); }
-  // A session whose greeting, if it had one, has been closed.
-  std::unique_ptr<Session> greeted() {
-    auto s = std::make_unique<Session>(*app);
-    if (s->view()["kind"].text() == "welcome") {
-      EXPECT_TRUE(s->handle(event(R"({"type":"tap","target":"welcome:close"})")).ok());
-    }
-    return s;
-  }
 };
 
 TEST_F(SessionTest, ViewportSetsScaleInPortraitAndTellsTablets) {
@@ -42,15 +34,15 @@ TEST_F(SessionTest, TheFirstScreenOfTheLaunchGreetsAndTakesTapsUntilClosed) {
   Session first(*app), second(*app);
   EXPECT_EQ(first.view()["kind"].text(), "welcome");
   EXPECT_EQ(second.view()["kind"].text(), "page") << "the greeting comes once";
-  EXPECT_FALSE(first.handle(event(R"({"type":"tap","target":"menu:51"})")).ok())
+  EXPECT_FALSE(tap(first, "menu:51").ok())
       << "a tap meant for the menu under the greeting is stale";
   EXPECT_FALSE(app->context().settings().boolForKey("emptyNote"));
-  ASSERT_TRUE(first.handle(event(R"({"type":"tap","target":"welcome:close"})")).ok());
+  ASSERT_TRUE(tap(first, "welcome:close").ok());
   EXPECT_EQ(first.view()["kind"].text(), "page");
 }
 
 TEST_F(SessionTest, AShortcutRunsAtTheNextActivationOnTheActivePregnancy) {
-  auto s = greeted();
+  auto s = greetedSession();
   ASSERT_TRUE(s->handle(event(R"({"type":"shortcut","name":"SCHVATKI"})")).ok());
   EXPECT_EQ(s->activeId(), "");
   ASSERT_TRUE(s->handle(event(R"({"type":"visible"})")).ok());
@@ -60,10 +52,10 @@ TEST_F(SessionTest, AShortcutRunsAtTheNextActivationOnTheActivePregnancy) {
 
 TEST_F(SessionTest, PagesOpenFromAnOpenCardAndLeaveByDragOrTilt) {
   const std::string card = "card:00000000-0000-0000-0001-000000000001";
-  auto s = greeted();
-  EXPECT_FALSE(s->handle(event(R"({"type":"tap","target":"menu:3"})")).ok());  // no open card
+  auto s = greetedSession();
+  EXPECT_FALSE(tap(*s, "menu:3").ok());  // no open card
   ASSERT_TRUE(s->handle(event(R"({"type":"tap","target":")" + card + R"("})")).ok());
-  ASSERT_TRUE(s->handle(event(R"({"type":"tap","target":"menu:3"})")).ok());
+  ASSERT_TRUE(tap(*s, "menu:3").ok());
   EXPECT_EQ(s->frontPage(), 3);
   Value view = s->view();
   ASSERT_EQ(view["kind"].text(), "ring");
@@ -85,10 +77,10 @@ TEST_F(SessionTest, PagesOpenFromAnOpenCardAndLeaveByDragOrTilt) {
   EXPECT_FALSE(s->handle(event(R"({"type":"drag","offset":90,"width":320})")).ok());
   ASSERT_TRUE(s->handle(event(R"({"type":"tilt","x":-0.8})")).ok());
   EXPECT_EQ(s->frontPage(), std::nullopt);
-  ASSERT_TRUE(s->handle(event(R"({"type":"tap","target":"menu:53"})")).ok());
+  ASSERT_TRUE(tap(*s, "menu:53").ok());
   ASSERT_TRUE(s->handle(event(R"({"type":"tilt","x":-0.8})")).ok());
   EXPECT_EQ(s->frontPage(), 8) << "the ring goes on after the last page";
-  ASSERT_TRUE(s->handle(event(R"({"type":"tap","target":"ring:menu"})")).ok());
+  ASSERT_TRUE(tap(*s, "ring:menu").ok());
   EXPECT_EQ(s->frontPage(), std::nullopt);
 }
 
@@ -97,14 +89,14 @@ TEST_F(SessionTest, AShortcutWithoutAPregnancyTellsSoAndAMessageTakesTheTapsUnti
     StoreBracket bracket = app->store().connectToBase();
     ASSERT_TRUE(bracket.db()->execute("update preg set deleted=1"));
   }
-  auto s = greeted();
+  auto s = greetedSession();
   ASSERT_TRUE(s->handle(event(R"({"type":"shortcut","name":"NEWNOTE"})")).ok());
   ASSERT_TRUE(s->handle(event(R"({"type":"visible"})")).ok());
   const Value message = s->view()["message"];
   EXPECT_EQ(message["caption"].text(), "Активная беременность");
   EXPECT_EQ(message["text"].text(), "Активная беременность не найдена");
-  EXPECT_FALSE(s->handle(event(R"({"type":"tap","target":"menu:51"})")).ok());
-  ASSERT_TRUE(s->handle(event(R"({"type":"tap","target":"message:ok"})")).ok());
+  EXPECT_FALSE(tap(*s, "menu:51").ok());
+  ASSERT_TRUE(tap(*s, "message:ok").ok());
   EXPECT_FALSE(s->view().asMap()->contains("message"));
 
   // A shortcut that arrives while a message is up is dropped at the activation.
@@ -112,13 +104,13 @@ TEST_F(SessionTest, AShortcutWithoutAPregnancyTellsSoAndAMessageTakesTheTapsUnti
   s->handle(event(R"({"type":"visible"})"));
   s->handle(event(R"({"type":"shortcut","name":"NEWNOTE"})"));
   ASSERT_TRUE(s->handle(event(R"({"type":"visible"})")).ok());
-  ASSERT_TRUE(s->handle(event(R"({"type":"tap","target":"message:ok"})")).ok());
+  ASSERT_TRUE(tap(*s, "message:ok").ok());
   ASSERT_TRUE(s->handle(event(R"({"type":"visible"})")).ok());
   EXPECT_FALSE(s->view().asMap()->contains("message")) << "the dropped shortcut did not run";
 }
 
 TEST_F(SessionTest, HidingAndShowingTheBrowserDrivesTheLock) {
-  auto s = greeted();
+  auto s = greetedSession();
   app->context().settings().set("pass", true);
   ASSERT_TRUE(s->handle(event(R"({"type":"hidden"})")).ok());
   clock->advance(std::chrono::seconds(3));

@@ -4,7 +4,6 @@
 
 #include "shell/background_list.h"
 #include "shell/lock/password_lock.h"
-#include "shell/session.h"
 #include "tests/shell/application_fixture.h"
 
 namespace lad::shell {
@@ -14,7 +13,6 @@ class ThemeTest : public lad::testing::ApplicationTest {
  protected:
   ThemeTest() { launchApp(); }
   ProcessValues& values() { return app->context().values(); }
-  static EventResult tap(Screen& screen, std::string_view target) { return screen.tap(target); }
 };
 
 TEST_F(ThemeTest, ABackgroundWithoutAHighlightKeepsTheLastOneAndAnUnknownIdChangesNothing) {
@@ -41,10 +39,10 @@ TEST_F(ThemeTest, ChoosingABackgroundStoresItRedrawsEverythingAndOutlivesALaunch
   EXPECT_FALSE(rows[4]["checked"].boolValue());
   for (const char* bad :
        {"background:0", "background:10", "background:x", "background:5x", "menu:42"})
-    EXPECT_FALSE(tap(list, bad).ok()) << bad;
+    EXPECT_FALSE(list.tap(bad).ok()) << bad;
   EXPECT_FALSE(list.closed());
 
-  EXPECT_TRUE(tap(list, backgroundTarget(8)).installationChanged);
+  EXPECT_TRUE(list.tap(backgroundTarget(8)).installationChanged);
   EXPECT_TRUE(list.closed());
   EXPECT_EQ(settings().integerForKey("backgroundId"), 8);
   EXPECT_TRUE(values().themeDarkIcons);
@@ -56,18 +54,12 @@ TEST_F(ThemeTest, ChoosingABackgroundStoresItRedrawsEverythingAndOutlivesALaunch
 }
 
 TEST_F(ThemeTest, SessionShowsTheChosenBackgroundAndTheLockItsDarkerForm) {
-  auto tapIn = [](Session& s, const std::string& target) {
-    Map m;
-    m.set("type", "tap");
-    m.set("target", target);
-    return s.handle(Value(std::move(m)));
-  };
   Session s(*app);
   EXPECT_EQ(s.view()["theme"]["picture"].text(), "bg640-2.png");
-  tapIn(s, "welcome:close");
-  tapIn(s, "menu:42");
+  tap(s, "welcome:close");
+  tap(s, "menu:42");
   ASSERT_EQ(s.view()["children"].asList()->at(0)["rows"].asList()->size(), 9u);
-  ASSERT_TRUE(tapIn(s, backgroundTarget(4)).ok());
+  ASSERT_TRUE(tap(s, backgroundTarget(4)).ok());
   EXPECT_EQ(s.view()["theme"]["picture"].text(), "bg640-4.png");
   EXPECT_EQ(s.view()["theme"]["caption"].text(), "rgba(179,0,0,1)");
 
