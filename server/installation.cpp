@@ -22,6 +22,16 @@ std::string viewBody(shell::Session& s) {
 }
 
 const PushMessage kRefresh{"refresh", "{}"};
+// Reminders are looked for this often: each comes within its minute.
+constexpr auto kReminderCheck = std::chrono::seconds(1);
+
+PushMessage reminderMessage(const Context& context, const health::PlannedReminder& reminder) {
+  Map m;
+  m.set("caption", context.translate("Напоминание"));
+  m.set("text", reminder.body);
+  m.set("day", context.dates().dateToString(reminder.day, "dd.MM.yyyy"));
+  return {"reminder", Value(std::move(m)).toJson()};
+}
 
 }  // namespace
 
@@ -38,6 +48,8 @@ Installation::Installation(ContextOptions options) {
     const std::string& problem = app_->context().settings().loadProblem();
     if (!problem.empty()) std::fprintf(stderr, "%s\n", problem.c_str());
   });
+  loop_.addTimer(
+      kReminderCheck, [this] { deliverReminders(); }, true);
 }
 
 Installation::~Installation() {
@@ -160,6 +172,21 @@ void Installation::afterEvent(const shell::EventResult& result, const std::strin
       afterEvent(timer(), origin);
       refresh(origin);
     });
+}
+
+void Installation::deliverReminders() {
+  Context& context = app_->context();
+  const auto due = app_->reminders().takeDue(app_->store(), context.clock().now(),
+                                             app_->dataVersion(), context.values().pillsAlarm);
+  for (const health::PlannedReminder& reminder : due) {
+    for (auto& [id, entry] : sessions_) entry.session->showReminder(reminder.body);
+    // Its text goes only where the diary is open to read.
+    hub_.publish(reminderMessage(context, reminder), [&](const std::string& session) {
+      const auto it = sessions_.find(session);
+      return it != sessions_.end() && !it->second.session->locked();
+    });
+  }
+  if (!due.empty()) refresh("");
 }
 
 void Installation::refresh(const std::string& origin) {

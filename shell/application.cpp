@@ -48,6 +48,7 @@ Activation Application::becomeActive() {
   if (count % kReviewEvery == 0 && askReview_) askReview_();
   ProcessValues& values = context_->values();
   values.pushArrived = true;
+  reminders_.invalidate();
   return {lockDue()};
 }
 

@@ -14,6 +14,7 @@
 #include "health/contraction_timer.h"
 #include "shell/lock/lock_throttle.h"
 #include "shell/message_box.h"
+#include "shell/reminder_schedule.h"
 #include "store/store.h"
 
 namespace lad::shell {
@@ -59,6 +60,9 @@ class Application {
   std::uint64_t dataVersion() const { return dataVersion_; }
   void dataChanged() { ++dataVersion_; }
 
+  // The reminders planned from the diary, delivered by the host at their minute.
+  ReminderSchedule& reminders() { return reminders_; }
+
   // A file handed over by another program is kept for the analyses or the doctor's chat; the
   // message tells the user where to use it.
   MessageBox openURL(const std::filesystem::path& file);
@@ -76,6 +80,7 @@ class Application {
   LockThrottle lockThrottle_;
   std::map<std::string, health::ContractionTimer> contractionTimers_;
   std::uint64_t dataVersion_ = 0;
+  ReminderSchedule reminders_;
 };
 
 }  // namespace lad::shell

@@ -33,7 +33,7 @@ const SwitchSetting kSwitches[] = {
     {51, "emptyNote", nullptr, false, true, 0ms},
     {52, "pass", nullptr, false, false, 0ms},
     {53, "accStop", &ProcessValues::accStop, true, true, 0ms},
-    {54, "pillsAlarm", &ProcessValues::pillsAlarm, false, false, 0ms},
+    {54, "pillsAlarm", &ProcessValues::pillsAlarm, false, true, 0ms},
     {55, "chatIndi", &ProcessValues::chatIndi, false, true, 1s},
     {56, "showRec", &ProcessValues::showRec, false, true, 0ms},
 };

@@ -96,6 +96,14 @@ void Session::showMessage(MessageBox message) {
   message_ = std::move(message);
 }
 
+void Session::showReminder(const std::string& text) {
+  const MessageBox reminder = MessageBox::make(app_.context(), text, "Напоминание");
+  if (message_ && message_->caption == reminder.caption)
+    message_->text += "\n" + reminder.text;
+  else
+    message_ = reminder;
+}
+
 // Screens that closed themselves go, from the top down.
 void Session::popClosed() {
   while (!stack_.empty() && stack_.back()->closed()) stack_.pop_back();

@@ -66,6 +66,9 @@ class Session : public ScreenHost {
   // A tap may carry the popup's input in "value".
   void openPopup(std::unique_ptr<Popup> popup, PopupAction action) override;
   void showMessage(MessageBox message) override;
+  // A reminder whose minute came: the box "Напоминание", which gathers those that come
+  // together.
+  void showReminder(const std::string& text);
 
  private:
   EventResult dispatch(const Value& event);

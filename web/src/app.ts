@@ -4,6 +4,7 @@ import { fetchView, RefusedError, sendEvent } from './api.js';
 import { listen } from './events.js';
 import { authenticatorEvent, runCeremonies } from './fingerprint.js';
 import { showNotice } from './notice.js';
+import { askForNotifications, notifyReminder } from './reminders.js';
 import { followDrags, followTilt } from './gestures.js';
 import { editorValueOf, holdsUnsentValue, markSent } from './editor.js';
 import { popupValueOf } from './popup.js';
@@ -87,6 +88,7 @@ function startListening(): void {
   listen({
     refresh: () => void request(fetchView),
     notice: showNotice,
+    reminder: (caption, text) => void notifyReminder(caption, text),
     reconnected: () => void sync(),
   });
 }
@@ -112,6 +114,7 @@ function queue(event: () => Promise<ClientEvent>): void {
 function tap(control: HTMLElement): void {
   const id = control.dataset.id;
   if (id === undefined || control.classList.contains('disabled')) return;
+  askForNotifications(id);
   const value = popupValueOf(control);
   queue(async () =>
     value === undefined ? { type: 'tap', target: id } : { type: 'tap', target: id, value },
@@ -153,7 +156,13 @@ root.addEventListener('submit', (event) => {
   if (input) changed(input);
 });
 root.addEventListener('focusout', (event) => {
-  if (event.target instanceof HTMLElement && holdsUnsentValue(event.target)) changed(event.target);
+  const input = event.target;
+  if (
+    input instanceof HTMLElement &&
+    input.dataset.submitOnly === undefined &&
+    holdsUnsentValue(input)
+  )
+    changed(input);
 });
 root.addEventListener('keydown', (event) => {
   const control = controlOf(event.target);

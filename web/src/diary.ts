@@ -53,7 +53,7 @@ function renderSearch(node: DiaryNode): HTMLElement {
   input.placeholder = node.searchHint;
   input.setAttribute('aria-label', node.searchHint);
   input.dataset.submitOnly = '';
-  bindInput(input, node.searchTarget, () => input.value);
+  bindTyped(input, node.searchTarget, () => input.value);
   const run = element('button', 'diary-search-run', '⌕');
   run.type = 'submit';
   run.setAttribute('aria-label', node.searchHint);

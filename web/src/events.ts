@@ -3,6 +3,8 @@
 export interface PushHandlers {
   refresh(): void;
   notice(caption: string, text: string): void;
+  /** A reminder's minute came; the server's box shows it on the screen. */
+  reminder(caption: string, text: string): void;
   /** The channel came back after a break, so pushes may have been missed. */
   reconnected(): void;
 }
@@ -19,6 +21,10 @@ function open(handlers: PushHandlers, broken: boolean): void {
   source.addEventListener('notice', (event) => {
     const data = parse((event as MessageEvent<string>).data);
     if (data) handlers.notice(data.caption, data.text);
+  });
+  source.addEventListener('reminder', (event) => {
+    const data = parse((event as MessageEvent<string>).data);
+    if (data) handlers.reminder(data.caption, data.text);
   });
   source.addEventListener('open', () => {
     if (broken) handlers.reconnected();

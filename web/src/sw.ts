@@ -29,6 +29,18 @@ worker.addEventListener('fetch', (event) => {
   if (isStatic) event.respondWith(cacheFirst(request));
 });
 
+// A reminder's notification opens the app, in a window it already has if there is one.
+worker.addEventListener('notificationclick', (event) => {
+  event.notification.close();
+  const url = new URL(String(event.notification.data?.url ?? '/'), worker.location.origin).href;
+  event.waitUntil(
+    worker.clients.matchAll({ type: 'window' }).then((windows) => {
+      const open = windows.find((w) => new URL(w.url).origin === worker.location.origin);
+      return open ? open.navigate(url).then((w) => w?.focus()) : worker.clients.openWindow(url);
+    }),
+  );
+});
+
 async function precache(): Promise<void> {
   const cache = await caches.open(CACHE);
   // One file failing to load must not keep the others out of the cache. The files are fetched
