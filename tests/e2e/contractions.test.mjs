@@ -4,7 +4,7 @@
 //   node tests/e2e/contractions.test.mjs --server PATH_TO_SERVER --out SCREENSHOT_DIR
 import assert from 'node:assert/strict';
 import path from 'node:path';
-import { boxesOf, openPastGreeting, runBrowserTest } from './harness.mjs';
+import { advanceClock, boxesOf, openPastGreeting, runBrowserTest } from './harness.mjs';
 
 const TOO_FEW =
   'Данных мало. Нужно минимум 4 схватки (3 интервала между ними), чтобы начать определение тенденции.';
@@ -13,19 +13,6 @@ const NO_DATA =
 const ALARM_START = 'Внимание! Частота схваток увеличивается. И как минимум 3 из них';
 const START = '[data-id="contractions:start"]';
 const STOP = '[data-id="contractions:stop"]';
-
-async function advanceClock(page, seconds) {
-  const status = await page.evaluate(
-    (advance) =>
-      fetch('/api/test/clock', {
-        method: 'POST',
-        headers: { 'Content-Type': 'application/json' },
-        body: JSON.stringify({ advance }),
-      }).then((r) => r.status),
-    seconds,
-  );
-  assert.equal(status, 200, 'the test clock moves');
-}
 
 /** Waits until the element's text passes the test; a timeout names what was awaited and what
  *  was shown instead. */

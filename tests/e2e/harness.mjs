@@ -174,6 +174,20 @@ export async function openPastGreeting(
   return { context, page, errors };
 }
 
+/** Moves the server's test clock (a server started with --fake-clock) on by some seconds. */
+export async function advanceClock(page, seconds) {
+  const status = await page.evaluate(
+    (advance) =>
+      fetch('/api/test/clock', {
+        method: 'POST',
+        headers: { 'Content-Type': 'application/json' },
+        body: JSON.stringify({ advance }),
+      }).then((r) => r.status),
+    seconds,
+  );
+  assert.equal(status, 200, 'the test clock moves');
+}
+
 /** Opens the picker of an editor row and turns each wheel to the row with the given text. */
 export async function pickOnWheels(page, target, texts) {
   await page.tap(`button[data-id="${target}"]`);

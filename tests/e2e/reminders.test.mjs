@@ -3,22 +3,9 @@
 //   node tests/e2e/reminders.test.mjs --server PATH_TO_SERVER --out SCREENSHOT_DIR
 import assert from 'node:assert/strict';
 import path from 'node:path';
-import { onNewInstallation, openPastGreeting, runBrowserTest } from './harness.mjs';
+import { advanceClock, onNewInstallation, openPastGreeting, runBrowserTest } from './harness.mjs';
 
 const TEXT = 'Принять витамины';
-
-async function advanceClock(page, seconds) {
-  const status = await page.evaluate(
-    (advance) =>
-      fetch('/api/test/clock', {
-        method: 'POST',
-        headers: { 'Content-Type': 'application/json' },
-        body: JSON.stringify({ advance }),
-      }).then((r) => r.status),
-    seconds,
-  );
-  assert.equal(status, 200, 'the test clock moves');
-}
 
 /** "HH:mm" moved on by some minutes, within the day. */
 function later(time, minutes) {
