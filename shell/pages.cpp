@@ -3,6 +3,7 @@
 #include "core/edition.h"
 #include "shell/contraction_screen.h"
 #include "shell/cycle/cycle_calendar.h"
+#include "shell/cycle/cycle_today.h"
 #include "shell/diary/diary_list.h"
 #include "shell/title_page.h"
 
@@ -10,8 +11,9 @@ namespace lad::shell {
 
 std::set<int> builtPages(int appid) {
   std::set<int> pages{kTitlePage, kContractionsPage, kDiaryPage};
-  // The woman's page of the cycle edition is her calendar; the pregnancy's waits for its texts.
-  if (isCycleEdition(appid)) pages.insert(kWomanPage);
+  // The cycle edition's today and woman's pages are her cycle's; the pregnancy's wait for their
+  // texts.
+  if (isCycleEdition(appid)) pages.insert({kTodayPage, kWomanPage});
   return pages;
 }
 
@@ -21,6 +23,9 @@ std::shared_ptr<Screen> makePage(int page, const PageArgs& args) {
       return std::make_shared<TitlePage>(args.app, args.gid);
     case kContractionsPage:
       return ContractionScreen::open(args.app, args.gid, args.scale);
+    case kTodayPage:
+      if (!isCycleEdition(args.app.context().values().appid)) return nullptr;
+      return std::make_shared<CycleToday>(args.app, args.host, args.gid, args.diary);
     case kWomanPage:
       if (!isCycleEdition(args.app.context().values().appid)) return nullptr;
       return std::make_shared<CycleCalendar>(args.app, args.host, args.gid, args.diary, false,

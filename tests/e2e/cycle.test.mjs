@@ -75,6 +75,19 @@ async function checkDiary(page) {
   await page.waitForSelector(cell);
 }
 
+/** Today's page counts the days since the last marked first day and opens today's day. */
+async function checkToday(page, outDir) {
+  await page.tap('.ring-page .to-menu');
+  await page.tap('[data-id="menu:1"]');
+  await page.waitForSelector('.ring-page [data-id="today:day"]');
+  assert.match(await page.textContent('.ring-page'), /С первого дня последних месячных прошло/);
+  await page.screenshot({ path: path.join(outDir, 'cycle-today.png') });
+  await page.tap('.ring-page [data-id="today:day"]');
+  await page.waitForSelector('.day-editor');
+  await page.tap('.day-editor .editor-ok');
+  await page.waitForSelector('.ring-page [data-id="today:day"]');
+}
+
 /** The woman's settings keep her height, build and a meal time, and show them when reopened. */
 async function checkSettings(page, outDir) {
   await page.tap('.ring-page .to-menu');
@@ -104,6 +117,7 @@ await runBrowserTest('cycle', async ({ browser, executable, outDir }) => {
       const { context, page, errors } = await openPastGreeting(browser, base);
       await checkCalendar(page, outDir);
       await checkDiary(page);
+      await checkToday(page, outDir);
       await checkSettings(page, outDir);
       assert.deepEqual(errors, []);
       await context.close();
@@ -111,6 +125,10 @@ await runBrowserTest('cycle', async ({ browser, executable, outDir }) => {
       const tablet = await openPastGreeting(browser, base, { device: TABLET });
       await openCalendar(tablet.page);
       await tablet.page.screenshot({ path: path.join(outDir, 'cycle-calendar-tablet.png') });
+      await tablet.page.tap('.ring-page .to-menu');
+      await tablet.page.tap('[data-id="menu:1"]');
+      await tablet.page.waitForSelector('.ring-page [data-id="today:day"]');
+      await tablet.page.screenshot({ path: path.join(outDir, 'cycle-today-tablet.png') });
       await tablet.context.close();
     },
     { name: 'lunoveya' },
