@@ -106,6 +106,13 @@ std::vector<CycleDay> cycleYear(Store& store, int year, Date today) {
   return days;
 }
 
+std::optional<CycleDay> cycleToday(Store& store, Date now) {
+  const DateCodec& dates = store.context().dates();
+  const auto year = cycleYear(store, dates.decodeDate(now).year, now);
+  const CycleDay* today = cycleDayAt(year, dates, now);
+  return today ? std::optional(*today) : std::nullopt;
+}
+
 const CycleDay* cycleDayAt(const std::vector<CycleDay>& year, const DateCodec& dates, Date day) {
   if (year.empty()) return nullptr;
   const int index = dates.getDays(year.front().day, day);

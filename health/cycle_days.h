@@ -4,6 +4,7 @@
 // shown for a day she could not have marked yet.
 #pragma once
 
+#include <optional>
 #include <vector>
 
 #include "health/woman_states.h"
@@ -29,6 +30,9 @@ struct CycleDay {
 
 // Every day from 1 January to 31 December of the year, from the woman's diary.
 std::vector<CycleDay> cycleYear(Store& store, int year, Date today);
+
+// Today as the woman's diary makes it.
+std::optional<CycleDay> cycleToday(Store& store, Date now);
 
 // The day of that date in the list, or nullptr.
 const CycleDay* cycleDayAt(const std::vector<CycleDay>& year, const DateCodec& dates, Date day);

@@ -122,8 +122,7 @@ Reply Installation::event(const std::string& session, std::string_view body,
 FileReply Installation::privateFile(const std::string& session,
                                     const std::function<FileReply()>& find) {
   return loop_.call([&]() -> FileReply {
-    const auto it = sessions_.find(session);
-    if (it == sessions_.end() || it->second.session->locked())
+    if (!unlocked(session))
       return {403, {}, "the diary's pictures are shown only to an unlocked session"};
     FileReply reply = find();
     if (reply.status == 200 && !std::filesystem::is_regular_file(reply.file))
@@ -181,20 +180,20 @@ void Installation::deliverReminders() {
   for (const health::PlannedReminder& reminder : due) {
     for (auto& [id, entry] : sessions_) entry.session->showReminder(reminder.body);
     // Its text goes only where the diary is open to read.
-    hub_.publish(reminderMessage(context, reminder), [&](const std::string& session) {
-      const auto it = sessions_.find(session);
-      return it != sessions_.end() && !it->second.session->locked();
-    });
+    hub_.publish(reminderMessage(context, reminder),
+                 [this](const std::string& session) { return unlocked(session); });
   }
   if (!due.empty()) refresh("");
 }
 
 void Installation::refresh(const std::string& origin) {
-  hub_.publish(kRefresh, [&](const std::string& session) {
-    if (session == origin) return true;
-    const auto it = sessions_.find(session);
-    return it != sessions_.end() && !it->second.session->locked();
-  });
+  hub_.publish(kRefresh,
+               [&](const std::string& session) { return session == origin || unlocked(session); });
+}
+
+bool Installation::unlocked(const std::string& session) const {
+  const auto it = sessions_.find(session);
+  return it != sessions_.end() && !it->second.session->locked();
 }
 
 }  // namespace lad::server

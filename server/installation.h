@@ -79,6 +79,8 @@ class Installation {
   // Redraws every unlocked browser, and the one whose event or timer asked for it: a locked
   // browser hears of nothing but its own lock.
   void refresh(const std::string& origin);
+  // A session this installation knows whose lock is open. Main loop only.
+  bool unlocked(const std::string& session) const;
   // Shows the reminders whose minute has come in every browser, and tells the unlocked ones,
   // which may show them as system notifications while hidden.
   void deliverReminders();

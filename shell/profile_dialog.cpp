@@ -78,11 +78,6 @@ ProfileDialog::ProfileDialog(Application& app, std::optional<std::string> gid)
               settingsRows(app.context(), gid_.has_value()),
               settingsValues(app.context(), loadSetupData(app.store(), gid_), gid_)) {}
 
-std::string ProfileDialog::text(std::string_view field) const {
-  const Map* r = editor_.row(field);
-  return r ? (*r)["source"].text() : std::string();
-}
-
 // The portrait is written or removed when the dialog is finished.
 void ProfileDialog::changePhoto(const Value& picture) {
   editor_.setRowKey("photo", "image", picture);
@@ -101,7 +96,8 @@ std::optional<MessageBox> ProfileDialog::change(std::string_view field, const Va
 
 void ProfileDialog::correctDates(PregnancyDateField changed, std::optional<MessageBox>& refusal) {
   const Context& c = app_.context();
-  const PregnancyDateTexts dates{text("sdat1"), text("sdat2"), text("sbirthdate")};
+  const PregnancyDateTexts dates{editor_.text("sdat1"), editor_.text("sdat2"),
+                                 editor_.text("sbirthdate")};
   const DateCorrection corrected = setupCorrectDate(c, dates, changed);
   editor_.change("sdat1", Value(corrected.fields.sdat1));
   editor_.change("sdat2", Value(corrected.fields.sdat2));
@@ -111,7 +107,8 @@ void ProfileDialog::correctDates(PregnancyDateField changed, std::optional<Messa
 }
 
 void ProfileDialog::correctBodyIndex() {
-  const BodyIndex index = lad::correctBodyIndex(app_.context(), text("rost"), text("ves"));
+  const BodyIndex index =
+      lad::correctBodyIndex(app_.context(), editor_.text("rost"), editor_.text("ves"));
   editor_.setRowKey("bodytype", "caption", Value(index.text));
   editor_.change("bodytype", Value(index.bodytype));
 }

@@ -46,7 +46,6 @@ class ProfileDialog : public SettingsDialog {
   std::string finish(std::string* photoError = nullptr) override;
 
  private:
-  std::string text(std::string_view field) const;
   void changePhoto(const Value& picture);
   void correctDates(PregnancyDateField changed, std::optional<MessageBox>& refusal);
   void correctBodyIndex();

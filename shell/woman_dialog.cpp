@@ -59,11 +59,6 @@ WomanDialog::WomanDialog(Application& app, std::string gid)
       gid_(std::move(gid)),
       editor_(app.context(), "Настройки", womanRows(app.context()), womanValues(app, gid_)) {}
 
-std::string WomanDialog::text(std::string_view field) const {
-  const Map* r = editor_.row(field);
-  return r ? (*r)["source"].text() : std::string();
-}
-
 std::optional<MessageBox> WomanDialog::change(std::string_view field, const Value& source) {
   editor_.change(field, source);
   return std::nullopt;
@@ -76,7 +71,7 @@ std::string WomanDialog::meals() const {
   const auto stored = splitOn(before, kMealSeparator);
   std::string joined;
   for (std::size_t i = 0; i < kMeals.size(); ++i) {
-    std::string time = text(mealField(i));
+    std::string time = editor_.text(mealField(i));
     if (!c.dates().dateFromStringFormat(time, "HH:mm"))
       time = i < stored.size() ? std::string(stored[i]) : "";
     joined += (i ? std::string(kMealSeparator) : "") + time;
@@ -87,9 +82,9 @@ std::string WomanDialog::meals() const {
 std::string WomanDialog::finish(std::string*) {
   const Context& c = app_.context();
   Map setup;
-  if (auto born = c.dates().dateFromStringFormat(text("sbirthdate"), "dd.MM.yyyy"))
+  if (auto born = c.dates().dateFromStringFormat(editor_.text("sbirthdate"), "dd.MM.yyyy"))
     setup.set("sbirthdate", c.dates().dateToString(*born, "yyyy-MM-dd"));
-  setup.set("rost", text("rost"));
+  setup.set("rost", editor_.text("rost"));
   const Map* build = editor_.row("build");
   setup.set("bodytype", (build ? (*build)["source"].intValue() : 1) + 1);
   saveWomanSetup(app_.store(), setup, gid_);

@@ -19,7 +19,6 @@ class WomanDialog : public SettingsDialog {
   std::string finish(std::string* photoError) override;
 
  private:
-  std::string text(std::string_view field) const;
   std::string meals() const;
 
   Application& app_;

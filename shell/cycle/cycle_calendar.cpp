@@ -54,7 +54,20 @@ CycleCalendar::CycleCalendar(Application& app, ScreenHost& host, std::string gid
     : app_(app), host_(host), gid_(std::move(gid)), state_(state), closable_(closable) {
   state_.keepFor(gid_);
   if (fromMenu || state_.calendarYear == 0) state_.calendarYear = presentYear();
-  days_ = health::cycleYear(app_.store(), state_.calendarYear, app_.context().clock().now());
+  load();
+}
+
+// The year shown, and today's place, which another year than the present one does not hold.
+void CycleCalendar::load() {
+  const Context& context = app_.context();
+  const Date now = context.clock().now();
+  days_ = health::cycleYear(app_.store(), state_.calendarYear, now);
+  std::optional<health::CycleDay> today;
+  if (state_.calendarYear != presentYear())
+    today = health::cycleToday(app_.store(), now);
+  else if (const health::CycleDay* d = health::cycleDayAt(days_, context.dates(), now))
+    today = *d;
+  summary_ = today ? cycleSummary(context, *today) : "";
 }
 
 int CycleCalendar::presentYear() const {
@@ -69,13 +82,10 @@ Value CycleCalendar::view() {
   const int year = state_.calendarYear;
   CycleCalendarView v;
   v.title = context.translate("Календарь цикла");
-  v.year = std::to_string(year);
-  v.back = {std::string(kYearBack), "‹", year > kFirstYear};
-  v.forward = {std::string(kYearForward), "›", year < presentYear()};
-  const auto present =
-      year == presentYear() ? days_ : health::cycleYear(app_.store(), presentYear(), now);
-  if (const health::CycleDay* today = health::cycleDayAt(present, dates, now))
-    v.summary = cycleSummary(context, *today);
+  v.year = {std::to_string(year),
+            {std::string(kYearBack), "‹", year > kFirstYear},
+            {std::string(kYearForward), "›", year < presentYear()}};
+  v.summary = summary_;
   if (!anyMark(days_)) v.empty = context.translate(kNoMarks);
   v.weekdays = weekdayNames(context);
   for (const health::CycleDay& d : days_) {
@@ -113,7 +123,7 @@ EventResult CycleCalendar::changeYear(int by) {
   if (year < kFirstYear || year > presentYear())
     return EventResult::refused("no calendar year " + std::to_string(year));
   state_.calendarYear = year;
-  days_ = health::cycleYear(app_.store(), year, app_.context().clock().now());
+  load();
   return {};
 }
 

@@ -27,6 +27,7 @@ class CycleCalendar : public Screen {
 
  private:
   int presentYear() const;
+  void load();
   EventResult changeYear(int by);
 
   Application& app_;
@@ -36,6 +37,7 @@ class CycleCalendar : public Screen {
   bool closable_;
   bool closed_ = false;
   std::vector<health::CycleDay> days_;
+  std::string summary_;  // where today stands
 };
 
 }  // namespace lad::shell

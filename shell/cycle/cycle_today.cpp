@@ -44,22 +44,24 @@ std::string dateLine(const Context& context, Date now) {
 }  // namespace
 
 CycleToday::CycleToday(Application& app, ScreenHost& host, std::string gid, DiaryState& state)
-    : app_(app), host_(host), gid_(std::move(gid)), state_(state) {}
+    : app_(app),
+      host_(host),
+      gid_(std::move(gid)),
+      state_(state),
+      today_(health::cycleToday(app_.store(), app_.context().clock().now())) {}
 
 Value CycleToday::view() {
   const Context& context = app_.context();
   const Date now = context.clock().now();
-  const auto year = health::cycleYear(app_.store(), context.dates().decodeDate(now).year, now);
-  const health::CycleDay* today = health::cycleDayAt(year, context.dates(), now);
   List children;
   children.push_back(TextView{dateLine(context, now), "", std::nullopt}.toValue());
-  const std::string summary = today ? cycleSummary(context, *today) : "";
+  const std::string summary = today_ ? cycleSummary(context, *today_) : "";
   children.push_back(
       TextView{summary.empty() ? context.translate(kNoCycle) : summary, "", std::nullopt}
           .toValue());
-  if (today && today->mark > health::kOrdinaryDay)
+  if (today_ && today_->mark > health::kOrdinaryDay)
     children.push_back(TextView{
-        fillIn(context.translate("Сегодня отмечено: %@."), {womanDayToRead(context, today->mark)}),
+        fillIn(context.translate("Сегодня отмечено: %@."), {womanDayToRead(context, today_->mark)}),
         "", std::nullopt}
                            .toValue());
   children.push_back(

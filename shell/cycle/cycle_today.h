@@ -2,8 +2,10 @@
 // mark, and the ways to mark today and to see the year's calendar.
 #pragma once
 
+#include <optional>
 #include <string>
 
+#include "health/cycle_days.h"
 #include "shell/application.h"
 #include "shell/diary/diary_state.h"
 #include "shell/screen.h"
@@ -23,6 +25,7 @@ class CycleToday : public Screen {
   ScreenHost& host_;
   std::string gid_;
   DiaryState& state_;
+  std::optional<health::CycleDay> today_;
 };
 
 }  // namespace lad::shell

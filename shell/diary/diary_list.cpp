@@ -6,6 +6,7 @@
 #include "core/edition.h"
 #include "core/menu_table.h"
 #include "core/settings.h"
+#include "core/text_fill.h"
 #include "shell/cycle/cycle_calendar.h"
 #include "shell/cycle/cycle_marks.h"
 #include "shell/diary/day_cells.h"
@@ -183,16 +184,14 @@ List DiaryList::items() {
   return out;
 }
 
-std::optional<DiaryYearView> DiaryList::yearView() const {
+std::optional<YearView> DiaryList::yearView() const {
   const Context& context = app_.context();
   if (isPregnancyEdition(context.values().appid)) return std::nullopt;
-  std::string caption = context.translate("%d-й год");
-  if (const auto at = caption.find("%d"); at != std::string::npos)
-    caption.replace(at, 2, std::to_string(state_.year));
+  const std::string caption = fillIn(context.translate("%d-й год"), state_.year);
   const bool child = isChildEdition(context.values().appid);
-  return DiaryYearView{caption,
-                       {std::string(kYearBack), "‹", state_.year > 1},
-                       {std::string(kYearForward), "›", !child || state_.year < kOldestChildYear}};
+  return YearView{caption,
+                  {std::string(kYearBack), "‹", state_.year > 1},
+                  {std::string(kYearForward), "›", !child || state_.year < kOldestChildYear}};
 }
 
 Value DiaryList::view() {

@@ -34,7 +34,7 @@ class DiaryList : public Screen {
   std::size_t scrollPlace() const;
   void placeWindow(std::size_t place);
   List items();
-  std::optional<DiaryYearView> yearView() const;
+  std::optional<YearView> yearView() const;
   EventResult changeYear(int by);
   EventResult openDay(Date day);
   EventResult openCalendar(Date day);

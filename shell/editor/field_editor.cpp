@@ -38,6 +38,11 @@ const Map* FieldEditor::row(std::string_view field) const {
   return rowOf(rows_, field);
 }
 
+std::string FieldEditor::text(std::string_view field) const {
+  const Map* r = row(field);
+  return r ? (*r)["source"].text() : std::string();
+}
+
 bool FieldEditor::change(std::string_view field, Value source) {
   Map* m = field.empty() ? nullptr : find(field);
   if (!m) return false;

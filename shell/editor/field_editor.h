@@ -21,6 +21,8 @@ class FieldEditor {
   const List& rows() const { return rows_; }
   // The row of a field, or nullptr.
   const Map* row(std::string_view field) const;
+  // The text of a field's value; "" for a field the form does not have.
+  std::string text(std::string_view field) const;
 
   // The user changed a field; false for a field the form does not have.
   bool change(std::string_view field, Value source);

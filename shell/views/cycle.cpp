@@ -44,9 +44,7 @@ Value CycleLegendView::toValue() const {
 Value CycleCalendarView::toValue() const {
   Map m = node(kKind);
   m.set("title", title);
-  m.set("year", year);
-  m.set("back", back.toValue());
-  m.set("forward", forward.toValue());
+  m.set("year", year.toValue());
   m.set("summary", summary);
   m.set("empty", empty);
   List names;

@@ -56,9 +56,7 @@ struct CycleLegendView {
 struct CycleCalendarView {
   static constexpr std::string_view kKind = "cycleCalendar";
   std::string title;
-  std::string year;
-  ButtonView back;
-  ButtonView forward;
+  YearView year;
   std::string summary;
   std::string empty;  // what to do when the year has no marks, or ""
   std::vector<std::string> weekdays;

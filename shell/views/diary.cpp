@@ -47,14 +47,6 @@ Value DayCellView::toValue() const {
   return m;
 }
 
-Value DiaryYearView::toValue() const {
-  Map m;
-  m.set("caption", caption);
-  m.set("back", back.toValue());
-  m.set("forward", forward.toValue());
-  return m;
-}
-
 Value DiaryView::toValue() const {
   Map m = node(kKind);
   m.set("title", title);

@@ -62,15 +62,6 @@ struct DayCellView {
   Value toValue() const;
 };
 
-// The year shown by the child's and the woman's diary, with its two buttons.
-struct DiaryYearView {
-  std::string caption;
-  ButtonView back;
-  ButtonView forward;
-
-  Value toValue() const;
-};
-
 // The list of days: the search field, the year, the "+" button and sections with their days;
 // a message stands instead of the days while there are none. A window of the days comes at
 // once: `earlier` and `more` ask for the days before and after it.
@@ -81,7 +72,7 @@ struct DiaryView {
   std::string search;
   std::string searchTarget;
   std::string searchHint;
-  std::optional<DiaryYearView> year;
+  std::optional<YearView> year;
   std::string message;
   List items;  // DiarySectionView and DayCellView values in order
   std::string earlier;

@@ -28,6 +28,14 @@ Value ButtonView::toValue() const {
   return m;
 }
 
+Value YearView::toValue() const {
+  Map m;
+  m.set("caption", caption);
+  m.set("back", back.toValue());
+  m.set("forward", forward.toValue());
+  return m;
+}
+
 Value ButtonsView::toValue() const {
   Map m = node(kKind);
   List list;

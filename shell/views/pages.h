@@ -40,6 +40,15 @@ struct ButtonView {
   Value toValue() const;
 };
 
+// A year chosen with the buttons on either side of its caption.
+struct YearView {
+  std::string caption;
+  ButtonView back;
+  ButtonView forward;
+
+  Value toValue() const;
+};
+
 // Buttons side by side, sharing the width.
 struct ButtonsView {
   static constexpr std::string_view kKind = "buttons";

@@ -1,6 +1,7 @@
-// Controls shared by the screens: buttons that send a tap, rows that a swipe offers to delete.
+// Controls shared by the screens: buttons that send a tap, a year between two buttons, rows
+// that a swipe offers to delete.
 import { element } from './dom.js';
-import type { ButtonNode } from './view.js';
+import type { ButtonNode, YearNode } from './view.js';
 
 /** A button that sends a tap with its id; a disabled one sends nothing. */
 export function renderButton(node: ButtonNode): HTMLElement {
@@ -9,6 +10,17 @@ export function renderButton(node: ButtonNode): HTMLElement {
   button.dataset.id = node.id;
   button.disabled = node.enabled === false;
   return button;
+}
+
+/** A year between its two buttons, as the diary and the cycle calendar choose it. */
+export function renderYear(year: YearNode): HTMLElement {
+  const box = element('div', 'diary-year');
+  box.append(
+    renderButton(year.back),
+    element('span', 'diary-year-caption', year.caption),
+    renderButton(year.forward),
+  );
+  return box;
 }
 
 const SWIPE_DISTANCE_PX = 40;

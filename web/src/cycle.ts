@@ -1,6 +1,6 @@
 // The woman's cycle on screen: a day's mark in its diary cell, and the calendar of a year with
 // each day in the colour of its phase.
-import { renderButton } from './controls.js';
+import { renderButton, renderYear } from './controls.js';
 import { element } from './dom.js';
 import type { CycleCalendarNode, CycleDay, CycleMark, CyclePhase } from './view.js';
 
@@ -23,13 +23,7 @@ export function renderCycleCalendar(node: CycleCalendarNode): HTMLElement {
   header.append(element('h1', 'page-title', node.title));
   if (node.close) header.append(renderButton(node.close));
   const body = element('main', 'page-body');
-  const year = element('div', 'diary-year');
-  year.append(
-    renderButton(node.back),
-    element('span', 'diary-year-caption', node.year),
-    renderButton(node.forward),
-  );
-  body.append(year);
+  body.append(renderYear(node.year));
   if (node.summary) body.append(element('p', 'cycle-summary', node.summary));
   if (node.empty) body.append(element('p', 'cycle-empty', node.empty));
   const months = element('div', 'cycle-months');

@@ -1,6 +1,6 @@
 // The diary on screen: the list of days with its search, year and sections, and the editor of
 // one day. The list comes a window at a time: when an end of it comes near, it asks for more.
-import { addSwipeToDelete, renderButton } from './controls.js';
+import { addSwipeToDelete, renderButton, renderYear } from './controls.js';
 import { renderCycleMark } from './cycle.js';
 import { element } from './dom.js';
 import { bindInput, bindTyped, photoDataUrl } from './editor.js';
@@ -31,16 +31,6 @@ export function renderDiary(node: DiaryNode): HTMLElement {
   if (node.more) body.append(moreSentinel(node.more));
   page.append(header, tools, body);
   return page;
-}
-
-function renderYear(year: NonNullable<DiaryNode['year']>): HTMLElement {
-  const box = element('div', 'diary-year');
-  box.append(
-    renderButton(year.back),
-    element('span', 'diary-year-caption', year.caption),
-    renderButton(year.forward),
-  );
-  return box;
 }
 
 /** The search runs on its button (or Enter) and on cancel, never on each key. */

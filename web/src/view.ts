@@ -334,6 +334,13 @@ export interface DayCellNode {
   deleteCaption: string;
 }
 
+/** A year chosen with the buttons on either side of its caption. */
+export interface YearNode {
+  caption: string;
+  back: ButtonNode;
+  forward: ButtonNode;
+}
+
 /** The diary: search, year, "+" and a window of the days under their sections; `earlier` and
  *  `more` ask for the days before and after it. */
 export interface DiaryNode {
@@ -343,7 +350,7 @@ export interface DiaryNode {
   search: string;
   searchTarget: string;
   searchHint: string;
-  year?: { caption: string; back: ButtonNode; forward: ButtonNode };
+  year?: YearNode;
   message: string;
   items: Array<DiarySectionNode | DayCellNode>;
   earlier: string;
@@ -386,9 +393,7 @@ export interface CycleDay {
 export interface CycleCalendarNode {
   kind: 'cycleCalendar';
   title: string;
-  year: string;
-  back: ButtonNode;
-  forward: ButtonNode;
+  year: YearNode;
   summary: string;
   empty: string;
   weekdays: string[];
