@@ -2,7 +2,7 @@
 
 #include "shell/editor/detail_rows.h"
 #include "shell/editor/field_check.h"
-#include "shell/wheel_picker.h"
+#include "shell/editor/row_picker.h"
 
 namespace lad::shell {
 
@@ -75,8 +75,7 @@ EventResult ProfileEditor::save() {
 
 // A date is chosen on the diary's own date wheel, so it reads "dd.MM.yyyy" in every browser.
 void ProfileEditor::pickDate(std::string field, const Map& row) {
-  host_.openPopup(std::make_unique<WheelPicker>(app_.context(), kDatePicker, row["caption"].text(),
-                                                row["source"].text()),
+  host_.openPopup(rowPicker(app_.context(), row),
                   [this, field = std::move(field)](const PopupAnswer& answer) {
                     if (answer.button != kConsent) return EventResult();
                     return change(fieldTarget(field), answer.value);

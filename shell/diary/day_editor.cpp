@@ -51,6 +51,7 @@ bool editable(std::int64_t kind) {
     case 9:
     case 15:
     case kKindBirth:
+    case kKindPills:
     case 30:
     case 31:
       return true;
@@ -229,7 +230,7 @@ void DayEditor::pickDayType(std::size_t index) {
 }
 
 void DayEditor::openForm(std::size_t index, int pos) {
-  if (auto form = DayRowForm::open(app_, row(index), pos))
+  if (auto form = DayRowForm::open(app_, row(index), pos, day_))
     form_.emplace(OpenForm{index, std::move(*form)});
 }
 
@@ -258,8 +259,20 @@ EventResult DayEditor::tapForm(std::string_view target) {
     setSource(edited, value);
   } else if (outcome == DayRowForm::Outcome::kCancelled) {
     form_.reset();
+  } else if (outcome == DayRowForm::Outcome::kPick) {
+    pickForForm(form_->form.takePick());
   }
   return {};
+}
+
+// A row of the open form picked on wheels: the answer goes into that row.
+void DayEditor::pickForForm(DayRowForm::Pick pick) {
+  host_.openPopup(
+      std::move(pick.popup), [this, target = std::move(pick.target)](const PopupAnswer& answer) {
+        if (answer.button == kConsent && form_ && !form_->form.change(target, answer.value))
+          return EventResult::refused("the form took no value for " + target);
+        return EventResult();
+      });
 }
 
 void DayEditor::setSource(Map& row, std::string source) {

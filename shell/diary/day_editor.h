@@ -40,6 +40,7 @@ class DayEditor : public Screen {
   EventResult tapForm(std::string_view target);
   EventResult tapRow(std::size_t index);
   void openForm(std::size_t index, int pos);
+  void pickForForm(DayRowForm::Pick pick);
   void pickDayType(std::size_t index);
   void offerEntry(std::size_t index, int pos);
   void setSource(Map& row, std::string source);

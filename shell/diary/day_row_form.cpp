@@ -1,15 +1,19 @@
 #include "shell/diary/day_row_form.h"
 
 #include "core/json_text.h"
+#include "health/pill_times.h"
 #include "shell/editor/detail_forms.h"
 #include "shell/editor/detail_rows.h"
 #include "shell/editor/editor_view.h"
 #include "shell/editor/entry_forms.h"
 #include "shell/editor/field_check.h"
+#include "shell/editor/row_picker.h"
 #include "shell/views/editors.h"
 #include "store/dictionary.h"
 #include "store/editor_value.h"
 #include "store/keywords.h"
+#include "store/profiles.h"
+#include "store/reading_forms.h"
 
 namespace lad::shell {
 
@@ -22,13 +26,18 @@ bool isMeasurement(int kind) {
 }
 
 bool isEntryList(int kind) {
-  return kind == 30 || kind == 31;
+  return kind == kKindPills || kind == 30 || kind == 31;
 }
 
-std::optional<FieldEditor> formOf(const Context& context, const Map& row, int pos) {
+// The fields whose change works out a course's intake times afresh.
+bool drivesIntakeTimes(std::string_view field) {
+  return field == "pillinter" || field == "pilleat";
+}
+
+std::optional<FieldEditor> formOf(const Context& context, const Map& row, int pos, Date day) {
   const int kind = static_cast<int>(row["tp"].intValue());
   const std::string source = row["source"].text();
-  if (isEntryList(kind)) return entryForm(context, row["field"].text(), source, pos);
+  if (isEntryList(kind)) return entryForm(context, row["field"].text(), source, pos, day);
   const bool measurement = isMeasurement(kind);
   if (pos >= 0 && !measurement) return std::nullopt;
   std::optional<Map> entry;
@@ -57,63 +66,139 @@ std::string withoutEntry(std::string_view value, int pos) {
   return kept.empty() ? "" : jsonFromObject(Value(std::move(kept)));
 }
 
-std::optional<DayRowForm> DayRowForm::open(Application& app, const Map& row, int pos) {
-  auto editor = formOf(app.context(), row, pos);
+std::optional<DayRowForm> DayRowForm::open(Application& app, const Map& row, int pos, Date day) {
+  auto editor = formOf(app.context(), row, pos, day);
   if (!editor) return std::nullopt;
   DayRowForm form(app, static_cast<int>(row["tp"].intValue()), pos, row["source"].text(),
-                  static_cast<int>(row["listid"].intValue()), std::move(*editor));
-  form.fillEntries();
+                  std::move(*editor));
+  form.fillEntries(form.editor_);
+  form.showChoices();
   return form;
 }
 
-DayRowForm::DayRowForm(Application& app, int kind, int pos, std::string old, int listid,
-                       FieldEditor editor)
-    : app_(&app),
-      kind_(kind),
-      pos_(pos),
-      old_(std::move(old)),
-      listid_(listid),
-      editor_(std::move(editor)) {}
+DayRowForm::DayRowForm(Application& app, int kind, int pos, std::string old, FieldEditor editor)
+    : app_(&app), kind_(kind), pos_(pos), old_(std::move(old)), editor_(std::move(editor)) {}
+
+// The editor in front: the dialog of a new entry, the chooser, or the form itself.
+FieldEditor& DayRowForm::top() {
+  if (addition_) return *addition_;
+  return chooser_ ? chooser_->editor : editor_;
+}
 
 // A dictionary list offers the entries of its list, the ticked ones marked.
-void DayRowForm::fillEntries() {
-  const Map* row = editor_.row(kListField);
-  if (!row || listid_ <= 0) return;
+void DayRowForm::fillEntries(FieldEditor& editor) {
+  const Map* row = editor.row(kListField);
+  const int listid = row ? static_cast<int>((*row)["listid"].intValue()) : 0;
+  if (listid <= 0) return;
   const std::string ticked = tickedText((*row)["source"]);
   List entries;
-  for (const Value& entry : loadConstList(app_->store(), listid_, ticked)) {
+  for (const Value& entry : loadConstList(app_->store(), listid, ticked)) {
     Map e;
     e.set("id", entry["index"].text());
     e.set("caption", entry["cap"].text());
     e.set("checked", entry["checked"].boolValue());
     entries.push_back(std::move(e));
   }
-  editor_.setRowKey(kListField, "listdata", Value(std::move(entries)));
+  editor.setRowKey(kListField, "listdata", Value(std::move(entries)));
+}
+
+// A dictionary choice row shows the name of its entry, or "пусто".
+void DayRowForm::showChoices() {
+  const List listData = loadConstList(app_->store(), 0, std::nullopt);
+  for (const Value& row : editor_.rows()) {
+    if (row["tp"].intValue() != kDictionaryChoice) continue;
+    const std::string guid = row["source"].text();
+    const std::string name = guid.empty() ? "" : checkStringToRead(guid, listData);
+    editor_.setRowKey(row["field"].text(), "shown",
+                      name.empty() ? app_->context().translate("пусто") : name);
+  }
+}
+
+// A course's hours follow its count and its relation to food until the user sets them.
+void DayRowForm::freezeIntakeTimes(std::string_view changed) {
+  if (kind_ != kKindPills || !drivesIntakeTimes(changed)) return;
+  Map course;
+  for (const Value& row : editor_.rows())
+    if (row["tp"].intValue() >= kDate && !row["field"].text().empty())
+      course.set(row["field"].text(), row["source"].text());
+  const Context& context = app_->context();
+  const auto times = health::getCurrentPillTime(
+      context, Regimen::fromValue(Value(std::move(course))),
+      loadConstList(app_->store(), 0, std::nullopt), getObed(app_->store()), context.clock().now());
+  editor_.change("pilltime", Value(times.value_or("")));
 }
 
 Value DayRowForm::view() const {
-  return addition_ ? addition_->view() : editor_.view();
+  if (addition_) return addition_->view();
+  return chooser_ ? chooser_->editor.view() : editor_.view();
 }
 
 DayRowForm::Outcome DayRowForm::tap(std::string_view target, std::optional<MessageBox>* refusal) {
+  const bool ok = target == kEditorOk, cancel = target == kEditorCancel;
   if (addition_) {
-    if (target == kEditorCancel) addition_.reset();
-    if (target == kEditorOk) return commitAddition(refusal);
+    if (cancel) addition_.reset();
+    return ok ? commitAddition(refusal) : Outcome::kOpen;
+  }
+  if (chooser_ && (ok || cancel)) {
+    if (ok) return commitChoice(refusal);
+    chooser_.reset();
     return Outcome::kOpen;
   }
-  if (target == kEditorCancel) return Outcome::kCancelled;
-  if (target == kEditorOk) return commit(refusal);
-  const Map* list = editor_.row(kListField);
-  if (targetField(target) != kAddEntryField || !list) return Outcome::kOpen;
+  if (cancel) return Outcome::kCancelled;
+  if (ok) return commit(refusal);
+  if (targetField(target) == kAddEntryField) return openAddition();
+  return chooser_ ? Outcome::kOpen : tapRow(target);
+}
+
+// A row of the form itself: a dictionary choice opens its chooser, a picked row its wheels.
+DayRowForm::Outcome DayRowForm::tapRow(std::string_view target) {
+  const Context& context = app_->context();
+  if (auto time = intakeTimeOf(target); time && editor_.row(time->field)) {
+    pick_ = {intakeTimePicker(context, *editor_.row(time->field), time->n), std::string(target)};
+  } else if (const Map* row = editor_.row(targetField(target))) {
+    if ((*row)["tp"].intValue() == kDictionaryChoice) {
+      openChooser(targetField(target));
+      return Outcome::kOpen;
+    }
+    pick_ = {rowPicker(context, *row), std::string(target)};
+  }
+  return pick_.popup ? Outcome::kPick : Outcome::kOpen;
+}
+
+DayRowForm::Outcome DayRowForm::openAddition() {
+  const Map* list = top().row(kListField);
+  if (!list) return Outcome::kOpen;
   if (auto dialog =
           addDialog(app_->context(), static_cast<int>((*list)["listedittype"].intValue())))
     addition_.emplace(std::move(*dialog));
   return Outcome::kOpen;
 }
 
+// The chooser is the form of a one-tick list over the row's dictionary, which takes new entries.
+void DayRowForm::openChooser(std::string_view field) {
+  const Map& row = *editor_.row(field);
+  DetailForm form{2,
+                  row["editcap"].text(),
+                  row["editdescr"].text(),
+                  row["source"].text(),
+                  static_cast<int>(row["listid"].intValue()),
+                  true};
+  auto chooser = detailPrepare(app_->context(), form);
+  if (!chooser) return;
+  chooser_.emplace(Chooser{std::string(field), std::move(*chooser)});
+  fillEntries(chooser_->editor);
+}
+
 bool DayRowForm::change(std::string_view target, const Value& value) {
-  FieldEditor& editor = addition_ ? *addition_ : editor_;
-  return editor.change(targetField(target), value);
+  if (addition_ || chooser_) return top().change(targetField(target), value);
+  if (auto time = intakeTimeOf(target); time && editor_.row(time->field)) {
+    auto times = withIntakeTime(app_->context(), *editor_.row(time->field), time->n, value.text());
+    return times && editor_.change(time->field, Value(*times));
+  }
+  const std::string_view field = targetField(target);
+  if (!editor_.change(field, value)) return false;
+  freezeIntakeTimes(field);
+  return true;
 }
 
 DayRowForm::Outcome DayRowForm::commit(std::optional<MessageBox>* refusal) {
@@ -125,17 +210,31 @@ DayRowForm::Outcome DayRowForm::commit(std::optional<MessageBox>* refusal) {
   return Outcome::kDone;
 }
 
+DayRowForm::Outcome DayRowForm::commitChoice(std::optional<MessageBox>* refusal) {
+  if ((*refusal = chooser_->editor.close())) return Outcome::kOpen;
+  const std::string field = chooser_->field;
+  const Map* list = chooser_->editor.row(kListField);
+  const std::string guid = list ? tickedText((*list)["source"]) : "";
+  chooser_.reset();
+  editor_.change(field, Value(guid));
+  showChoices();
+  freezeIntakeTimes(field);
+  return Outcome::kOpen;
+}
+
 // The new entry joins the dictionary and is ticked in the list at once.
 DayRowForm::Outcome DayRowForm::commitAddition(std::optional<MessageBox>* refusal) {
   if ((*refusal = addition_->close())) return Outcome::kOpen;
   const std::string name = addition_->row("name") ? (*addition_->row("name"))["source"].text() : "";
   addition_.reset();
-  const std::string guid = addConst(app_->store(), listid_, name, 0, std::nullopt);
-  const Map& list = *editor_.row(kListField);
+  FieldEditor& editor = top();
+  const Map& list = *editor.row(kListField);
+  const std::string guid =
+      addConst(app_->store(), static_cast<int>(list["listid"].intValue()), name, 0, std::nullopt);
   const std::string ticked = tickedText(list["source"]);
   const bool many = list["listtype"].intValue() == 2;
-  editor_.change(kListField, Value(many && !ticked.empty() ? ticked + "<tr>" + guid : guid));
-  fillEntries();
+  editor.change(kListField, Value(many && !ticked.empty() ? ticked + "<tr>" + guid : guid));
+  fillEntries(editor);
   return Outcome::kOpen;
 }
 

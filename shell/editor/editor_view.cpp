@@ -35,6 +35,7 @@ EditorRowView rowView(const Value& row, PhotoPreviews& previews) {
   v.required = row["required"].boolValue();
   v.editcap = row["editcap"].text();
   v.pic = row["pic"].text();
+  v.shown = row["shown"].text();
   if (const Bytes* picture = row["source"].asBytes()) {
     v.preview = previews.of(*picture);
     v.source = Value();

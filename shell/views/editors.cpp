@@ -15,6 +15,7 @@ Value EditorRowView::toValue() const {
   if (!editcap.empty()) m.set("editcap", editcap);
   if (!pic.empty()) m.set("pic", pic);
   if (!preview.empty()) m.set("preview", preview);
+  if (!shown.empty()) m.set("shown", shown);
   if (!scalemin.empty()) m.set("scalemin", scalemin);
   if (!scalemax.empty()) m.set("scalemax", scalemax);
   if (scaletype) m.set("scaletype", *scaletype);

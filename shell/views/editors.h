@@ -54,6 +54,7 @@ struct EditorRowView {
   std::string editcap;
   std::string pic;
   std::string preview;  // a photo row's picture as a small JPEG data URL
+  std::string shown;    // what a picked row shows when its source is not for reading
   std::string scalemin, scalemax;
   std::optional<int> scaletype, listtype;
   Value listdata;  // entries of a list row: id, caption, checked

@@ -247,6 +247,68 @@ TEST_F(DiaryTest, TheCyclesDayTypeIsOneOfSixAndAnOrdinaryDayKeepsNoRecord) {
   EXPECT_EQ(dayType(), "");
 }
 
+// The medicine form: its choices read by name, the hours follow the count until set by hand,
+// and the course written on one day stands on each of its days until it is deleted on any one.
+TEST_F(DiaryTest, ACourseFromTheMedicineFormStandsOnEachOfItsDaysUntilDeletedOnAnyOne) {
+  const auto courseDays = [&] {
+    StoreBracket bracket = app->store().connectToBase();
+    auto q = bracket.db()->prepare("select count(*) from pregdata where type='pills'");
+    return q.step() ? q.columnInt(0) : -1;
+  };
+  const auto row = [](Session& s, const std::string& field) {
+    const Value view = s.view();
+    for (const Value& r : *view["rows"].asList())
+      if (r["field"].text() == field) return r;
+    return Value();
+  };
+  const auto pick = [&](Session& s, List positions) {
+    return s.handle(event("tap", "popup:1", Value(std::move(positions))));
+  };
+  auto s = todayEditor();
+  const std::string pills = rowTarget(*s, "ne-pills128.png");
+  ASSERT_TRUE(tap(*s, pills).ok());
+  ASSERT_EQ(s->view()["caption"].text(), "Лекарства");
+  EXPECT_EQ(row(*s, "pillname")["shown"].text(), "пусто");
+  EXPECT_EQ(row(*s, "pillperiod")["shown"].text(), "Ежедневно");
+  EXPECT_EQ(row(*s, "pilleat")["shown"].text(), "Независимо от еды");
+  ASSERT_TRUE(tap(*s, "editor:ok").ok());
+  EXPECT_EQ(s->view()["message"]["text"].text(), "Поле 'Выбор лекарства' не заполнено!");
+  ASSERT_TRUE(tap(*s, "message:ok").ok());
+
+  // A medicine the list lacks is added in the chooser and chosen.
+  ASSERT_TRUE(tap(*s, "field:pillname").ok());
+  ASSERT_TRUE(tap(*s, "field:add").ok());
+  ASSERT_TRUE(change(*s, "field:name", Value("Магний B6")).ok());
+  ASSERT_TRUE(tap(*s, "editor:ok").ok());
+  ASSERT_TRUE(tap(*s, "editor:ok").ok());
+  EXPECT_EQ(row(*s, "pillname")["shown"].text(), "Магний B6");
+
+  // Four times a day over the waking hours, then the second hour moved by hand.
+  ASSERT_TRUE(tap(*s, "field:pillinter").ok());
+  ASSERT_EQ(s->view()["popup"]["caption"].text(), "Укажите количество приемов");
+  ASSERT_TRUE(pick(*s, List{Value(3), Value(0)}).ok());
+  EXPECT_EQ(row(*s, "pillinter")["source"].text(), "4<td>раз в день");
+  EXPECT_EQ(row(*s, "pilltime")["source"].text(), "08:00<td>12:30<td>17:15<td>22:00");
+  ASSERT_TRUE(tap(*s, "field:pilltime:1").ok());
+  ASSERT_TRUE(pick(*s, List{Value(13), Value(5)}).ok());
+  EXPECT_EQ(row(*s, "pilltime")["source"].text(), "08:00<td>13:05<td>17:15<td>22:00");
+  EXPECT_FALSE(change(*s, "field:pilltime:4", Value("09:00")).ok()) << "a fifth hour is not there";
+  EXPECT_FALSE(change(*s, "field:pilltime:0", Value("25:00")).ok());
+  ASSERT_TRUE(tap(*s, "editor:ok").ok());
+  ASSERT_EQ(s->view()["kind"].text(), "dayEditor");
+  ASSERT_TRUE(tap(*s, "day:close").ok());
+  EXPECT_EQ(courseDays(), 7) << "a course of one week from today";
+
+  // Taken out on its third day, the course leaves every day.
+  s = todayEditor();
+  for (int step = 0; step < 2; ++step) ASSERT_TRUE(tap(*s, "day:next").ok());
+  const std::string line = rowTarget(*s, "ne-pills128.png", "day:line:") + ":0";
+  ASSERT_TRUE(tap(*s, line).ok());
+  ASSERT_TRUE(tap(*s, "popup:1").ok());  // "Удалить"
+  ASSERT_TRUE(tap(*s, "day:close").ok());
+  EXPECT_EQ(courseDays(), 0);
+}
+
 TEST(TextFold, LatinAndRussianLettersFoldAndYoReadsAsYe) {
   const std::pair<const char*, const char*> cases[] = {{"ВЕС", "вес"},
                                                        {"АБВГДЕЖЗИЙКЛМНОП", "абвгдежзийклмноп"},

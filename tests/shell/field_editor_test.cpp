@@ -123,8 +123,10 @@ TEST_F(ApplicationTest, ANestedEditorsEntryLandsInItsRowBeforeTheFormCloses) {
              Value(R"([{"time":"12:00","pressure1":"120","pressure2":"80","comment":""}])"));
 
   const std::string old = sourceOf(day, "pressure");
-  EXPECT_FALSE(day.openNested("nothing", 30, -1, *entryForm(c, "pressure", old, -1)));
-  ASSERT_TRUE(day.openNested("pressure", 30, -1, *entryForm(c, "pressure", old, -1)));
+  EXPECT_FALSE(
+      day.openNested("nothing", 30, -1, *entryForm(c, "pressure", old, -1, c.clock().now())));
+  ASSERT_TRUE(
+      day.openNested("pressure", 30, -1, *entryForm(c, "pressure", old, -1, c.clock().now())));
   FieldEditor* sub = day.nested();
   ASSERT_TRUE(sub);
   EXPECT_EQ(day.view()["nested"]["caption"].text(), "Давление");
@@ -144,13 +146,13 @@ TEST_F(ApplicationTest, ANestedEditorsEntryLandsInItsRowBeforeTheFormCloses) {
   EXPECT_EQ((*list->asList())[0]["pressure2"].text(), "70");
   EXPECT_FALSE(day.close());
 
-  auto second = entryForm(c, "pressure", sourceOf(day, "pressure"), 1);
+  auto second = entryForm(c, "pressure", sourceOf(day, "pressure"), 1, c.clock().now());
   ASSERT_TRUE(second);
   EXPECT_EQ(sourceOf(*second, "pressure1"), "120") << "an entry opens on its own values";
-  EXPECT_EQ(sourceOf(*entryForm(c, "zhid", "", -1), "time"), "10:00");
-  EXPECT_FALSE(entryForm(c, "pressure", sourceOf(day, "pressure"), 2));
-  EXPECT_FALSE(entryForm(c, "pressure", "not json", 0));
-  EXPECT_FALSE(entryForm(c, "sleep", "", -1));
+  EXPECT_EQ(sourceOf(*entryForm(c, "zhid", "", -1, c.clock().now()), "time"), "10:00");
+  EXPECT_FALSE(entryForm(c, "pressure", sourceOf(day, "pressure"), 2, c.clock().now()));
+  EXPECT_FALSE(entryForm(c, "pressure", "not json", 0, c.clock().now()));
+  EXPECT_FALSE(entryForm(c, "sleep", "", -1, c.clock().now()));
 }
 
 TEST_F(ApplicationTest, ADaysMeasurementsAreAddedThroughTheirEditor) {

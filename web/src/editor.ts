@@ -127,6 +127,8 @@ function renderEditorRow(row: EditorRow): HTMLElement | null {
       return row.pic ? renderIcon(row.pic, 'editor-picture') : null;
     case RowKind.button:
       return row.id ? actionButton(row.id, row.caption, 'editor-button') : null;
+    case RowKind.intakeTimes:
+      return intakeTimes(row);
     default:
       return row.id ? pickerRow(row) : null;
   }
@@ -291,8 +293,24 @@ function switchRow(row: EditorRow): HTMLElement {
 /** A row whose value is picked on the server (wheels, dictionaries): shows it, opens on touch. */
 function pickerRow(row: EditorRow): HTMLElement {
   const b = actionButton(row.id ?? '', row.caption, 'editor-picker');
-  b.append(element('span', 'editor-picker-value', sourceText(row).split('<td>').join(' ')));
+  if (row.pic) b.prepend(renderIcon(row.pic, 'editor-field-pic'));
+  const shown = row.shown ?? sourceText(row).split('<td>').join(' ');
+  b.append(element('span', 'editor-picker-value', shown));
   return b;
+}
+
+/** The hours of a course: one button per time, each picked on its own ("field:pilltime:1"). */
+function intakeTimes(row: EditorRow): HTMLElement {
+  const group = element('div', 'editor-field editor-times');
+  if (row.pic) group.append(renderIcon(row.pic, 'editor-field-pic'));
+  group.append(element('span', 'editor-caption', row.caption));
+  const times = element('div', 'editor-time-list');
+  sourceText(row)
+    .split('<td>')
+    .filter((time) => time !== '')
+    .forEach((time, n) => times.append(actionButton(`${row.id}:${n}`, time, 'editor-time')));
+  group.append(times);
+  return group;
 }
 
 /**

@@ -259,6 +259,8 @@ export interface EditorRow {
   editcap?: string;
   pic?: string;
   preview?: string;
+  /** What a picked row shows in place of its source (a dictionary entry's name). */
+  shown?: string;
   scalemin?: string;
   scalemax?: string;
   scaletype?: number;
