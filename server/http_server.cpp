@@ -11,6 +11,7 @@
 #include "server/static_files.h"
 #include "shell/diary/day_cells.h"
 #include "shell/profile_cards.h"
+#include "shell/reminder_feed.h"
 
 namespace lad::server {
 
@@ -112,6 +113,8 @@ struct HttpServer::Impl {
     if (get && req.path.starts_with(shell::kPictureAddress))
       return picture(installation.dayPicture(
           session, req.path.substr(std::string_view(shell::kPictureAddress).size())));
+    if (get && req.path.starts_with(shell::kFeedAddress))
+      return calendarFeed(req.path.substr(shell::kFeedAddress.size()));
     if (options.testClock && req.method == "POST" && req.path == "/api/test/clock")
       return advanceTestClock(req);
     if (get && !req.path.starts_with("/api/"))
@@ -147,6 +150,16 @@ struct HttpServer::Impl {
     HttpResponse res;
     res.setHeader("Cache-Control", "private, no-store");
     res.setContent(std::move(*bytes), "image/jpeg");
+    return res;
+  }
+
+  // Known only to whoever holds the address: anyone else hears that there is nothing here.
+  HttpResponse calendarFeed(std::string_view name) {
+    auto feed = installation.calendarFeed(name);
+    if (!feed) return HttpResponse::error(404, "no such calendar");
+    HttpResponse res;
+    res.setHeader("Cache-Control", "private, no-store");
+    res.setContent(std::move(*feed), "text/calendar; charset=utf-8");
     return res;
   }
 

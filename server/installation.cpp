@@ -3,8 +3,10 @@
 #include <cstdio>
 
 #include "core/ids.h"
+#include "server/calendar_feed.h"
 #include "shell/app_manifest.h"
 #include "shell/lock/password_lock.h"
+#include "shell/reminder_feed.h"
 #include "store/day_photo.h"
 #include "store/folders.h"
 #include "store/portrait.h"
@@ -143,6 +145,18 @@ FileReply Installation::dayPicture(const std::string& session, const std::string
     if (!isDayPictureName(name)) return {400, {}, "not the name of a day's picture"};
     const std::filesystem::path documents = app_->context().documentsDir();
     return {200, typeFilePath(documents, name) / name, {}};
+  });
+}
+
+// The whole of today stays in the feed, so that a reminder does not leave the calendar at its
+// minute.
+std::optional<std::string> Installation::calendarFeed(std::string_view name) {
+  return loop_.call([&]() -> std::optional<std::string> {
+    Context& context = app_->context();
+    if (!shell::isFeedName(context.settings(), name)) return std::nullopt;
+    const Date now = context.clock().now();
+    const auto plan = health::planReminders(app_->store(), context.dates().noTime(now));
+    return server::calendarFeed(plan, now, context.translate("Напоминания дневника"));
   });
 }
 

@@ -5,6 +5,7 @@
 #include <filesystem>
 #include <functional>
 #include <memory>
+#include <optional>
 #include <string>
 #include <string_view>
 #include <unordered_map>
@@ -49,6 +50,9 @@ class Installation {
   // A picture of a diary day ("dd-MM-yyyy.jpg", its "-s.jpg" small copy, or either with a
   // child's guid before the date), under the same rule; 400 for any other name.
   FileReply dayPicture(const std::string& session, const std::string& name);
+  // The reminders of the days to come as an iCalendar feed, for the name ("TOKEN.ics") of the
+  // present feed address only; nullopt for any other name.
+  std::optional<std::string> calendarFeed(std::string_view name);
   // The lock is on with a code: only then may other machines be served.
   bool passwordSet();
   // The edition's web app manifest (JSON).

@@ -7,6 +7,7 @@
 #include "shell/diary/day_editor.h"
 #include "shell/pages.h"
 #include "shell/profile_editor.h"
+#include "shell/reminder_feed_screen.h"
 #include "shell/theme.h"
 #include "shell/views/pages.h"
 #include "shell/welcome_screen.h"
@@ -23,6 +24,7 @@ constexpr int kProfileSettingsRow = 22;
 constexpr int kNewProfileRow = 31;
 constexpr int kBackgroundRow = 42;
 constexpr int kPasswordSwitch = 52;
+constexpr int kReminderFeedRow = 57;
 
 bool isNumber(const Value& v) {
   return v.type() == Value::Type::Integer || v.type() == Value::Type::Double;
@@ -69,6 +71,8 @@ void Session::addMenuCommands() {
                           app_, *this, std::make_unique<WomanDialog>(app_, profileId())));
                     }));
   menu_.onCommand(kBackgroundRow, showing([this] { showBackgrounds(); }));
+  menu_.onCommand(kReminderFeedRow,
+                  showing([this] { push(std::make_shared<ReminderFeedScreen>(app_, *this)); }));
   menu_.onCommand(kPasswordSwitch, [this] { return togglePassword(); });
 }
 

@@ -40,4 +40,12 @@ Value TextView::toValue() const {
   return m;
 }
 
+Value AddressView::toValue() const {
+  Map m = node(kKind);
+  m.set("path", path);
+  m.set("copy", copy);
+  m.set("subscribe", subscribe);
+  return m;
+}
+
 }  // namespace lad::shell

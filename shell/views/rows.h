@@ -49,4 +49,15 @@ struct TextView {
   Value toValue() const;
 };
 
+// An address of this server for another app to open: the browser puts its own origin before
+// the path, shows it whole, copies it and opens it as a subscription.
+struct AddressView {
+  static constexpr std::string_view kKind = "address";
+  std::string path;
+  std::string copy;       // the copy button's caption
+  std::string subscribe;  // the subscribe link's caption
+
+  Value toValue() const;
+};
+
 }  // namespace lad::shell

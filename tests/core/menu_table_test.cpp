@@ -50,7 +50,7 @@ TEST(MenuTable, MenuItemCheckMarksOneRow) {
   const List before = menu;
   EXPECT_EQ(menuItemCheck(menu, 999, true), -1);
   EXPECT_EQ(menu, before);
-  EXPECT_EQ(menuItemCheck(menu, 53, true), 28);
+  EXPECT_EQ(menuItemCheck(menu, 53, true), 29);
   EXPECT_EQ((*menuRow(menu, 53)->find("checked")), Value(true));
   EXPECT_FALSE(menuRow(menu, 52)->contains("checked"));
 }

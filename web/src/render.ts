@@ -7,6 +7,7 @@ import { renderIcon, renderPicture } from './pictures.js';
 import { renderEditor } from './editor.js';
 import { renderRing } from './ring.js';
 import type {
+  AddressNode,
   ButtonsNode,
   CardNode,
   FingerprintKeyNode,
@@ -37,6 +38,8 @@ export function render(node: ViewNode): HTMLElement | null {
       return renderWelcome(node);
     case 'text':
       return renderText(node);
+    case 'address':
+      return renderAddress(node);
     case 'svg':
       return renderSvg(node);
     case 'timer':
@@ -238,6 +241,26 @@ function renderText(node: TextNode): HTMLElement {
   if (node.id) text.dataset.info = node.id;
   if (node.regim !== undefined) text.dataset.regim = String(node.regim);
   return text;
+}
+
+/** The whole address to read or copy, and a link that hands it to the phone's calendar. */
+function renderAddress(node: AddressNode): HTMLElement {
+  const url = new URL(node.path, window.location.origin);
+  const box = element('div', 'address');
+  const field = element('input', 'address-text');
+  field.readOnly = true;
+  field.value = url.href;
+  field.addEventListener('focus', () => field.select());
+  const copy = element('button', 'address-copy', node.copy);
+  copy.type = 'button';
+  copy.addEventListener('click', () => {
+    field.select();
+    navigator.clipboard?.writeText(url.href).catch(() => document.execCommand('copy'));
+  });
+  const subscribe = element('a', 'address-subscribe', node.subscribe);
+  subscribe.href = `webcal://${url.host}${url.pathname}`;
+  box.append(field, copy, subscribe);
+  return box;
 }
 
 /**

@@ -45,6 +45,14 @@ export interface TextNode {
   regim?: number;
 }
 
+/** An address of this server for another app: the page puts its own origin before the path. */
+export interface AddressNode {
+  kind: 'address';
+  path: string;
+  copy: string;
+  subscribe: string;
+}
+
 /** A picture the server drew (SVG), in CSS pixels. */
 export interface SvgNode {
   kind: 'svg';
@@ -417,6 +425,7 @@ export type ViewNode =
   | RowNode
   | WelcomeNode
   | TextNode
+  | AddressNode
   | ButtonsNode
   | MessageNode
   | CardNode

@@ -1,0 +1,71 @@
+// The calendar feed: served only at the installation's secret address, which a new token
+// replaces; its lines are folded and escaped as calendar apps read them.
+#include "server/calendar_feed.h"
+
+#include <gtest/gtest.h>
+
+#include "shell/reminder_feed.h"
+#include "tests/server/server_fixture.h"
+
+namespace lad::server::test {
+namespace {
+
+class CalendarFeedTest : public ServerTest {
+ protected:
+  std::string address() {
+    return installation_->withContext(
+        [](Context& c) { return shell::feedPath(shell::feedToken(c.settings())); });
+  }
+};
+
+TEST_F(CalendarFeedTest, OnlyThePresentAddressAnswersAndANewTokenEndsTheOldOne) {
+  const std::string first = address();
+  auto feed = client()->Get(first);
+  ASSERT_TRUE(feed);
+  EXPECT_EQ(feed->status, 200);
+  EXPECT_EQ(feed->get_header_value("Content-Type"), "text/calendar; charset=utf-8");
+  EXPECT_EQ(feed->body.rfind("BEGIN:VCALENDAR\r\n", 0), 0u);
+  EXPECT_EQ(address(), first) << "the token is made once";
+
+  for (const std::string& path :
+       {std::string("/calendar/"), std::string("/calendar/.ics"),
+        first.substr(0, first.size() - 5) + "X.ics", first.substr(0, first.size() - 4)})
+    EXPECT_EQ(client()->Get(path)->status, 404) << path;
+
+  installation_->withContext([](Context& c) { return shell::renewFeedToken(c.settings()); });
+  EXPECT_EQ(client()->Get(first)->status, 404) << "the old address stops working";
+  EXPECT_EQ(client()->Get(address())->status, 200);
+}
+
+TEST(CalendarFeedText, LongTextsFoldBetweenCharactersAndSpecialsAreEscaped) {
+  const Date at{std::chrono::sys_days{std::chrono::year{2026} / 11 / 26} + std::chrono::hours(7)};
+  const std::string body =
+      "Магний B6: 1/2 таблетки; запить водой, после еды\\" + std::string(60, 'x') + "\nконец";
+  const std::string feed = calendarFeed({{at, body, at, "G"}, {at, body, at, "G"}}, at, "Дневник");
+  std::string unfolded;
+  std::size_t from = 0;
+  while (from < feed.size()) {
+    const std::size_t end = feed.find("\r\n", from);
+    ASSERT_NE(end, std::string::npos) << "every line ends in CRLF";
+    const std::string line = feed.substr(from, end - from);
+    EXPECT_LE(line.size(), 75u);
+    if (line[0] == ' ') {
+      EXPECT_NE(static_cast<unsigned char>(line[1]) & 0xC0, 0x80) << "a fold splits a character";
+    }
+    unfolded += line[0] == ' ' ? line.substr(1) : "\n" + line;
+    from = end + 2;
+  }
+  EXPECT_NE(unfolded.find("\nDTSTART:20261126T070000Z\n"), std::string::npos);
+  EXPECT_NE(unfolded.find("\nSUMMARY:Магний B6: 1/2 таблетки\\; запить водой\\, после еды\\\\" +
+                          std::string(60, 'x') + "\\nконец\n"),
+            std::string::npos);
+  const auto uid = [&](std::size_t nth) {
+    std::size_t at = 0;
+    for (std::size_t i = 0; i <= nth; ++i) at = unfolded.find("\nUID:", at + 1);
+    return unfolded.substr(at, unfolded.find('\n', at + 1) - at);
+  };
+  EXPECT_NE(uid(0), uid(1)) << "two equal reminders stay two events";
+}
+
+}  // namespace
+}  // namespace lad::server::test
