@@ -1,0 +1,102 @@
+#include "health/growth_series.h"
+
+#include <gtest/gtest.h>
+
+#include "core/ids.h"
+#include "store/records.h"
+#include "store/store.h"
+#include "tests/store/day_fixture.h"
+
+namespace lad::health {
+namespace {
+
+// The first pregnancy of the edition's real template, begun on 2026-02-01.
+class GrowthSeriesTest : public testing::DayTest {
+ protected:
+  void SetUp() override { openEdition(1); }
+
+  Date day(const std::string& text) { return context->dates().dateFromString(text).value(); }
+  void record(const std::string& text, const std::string& type, const std::string& value) {
+    StoreBracket bracket = store->connectToBase();
+    insertValue(*store, bracket, type, value, day(text), kPregnancy, true, false);
+  }
+  Map setup(const std::string& ves) {
+    Map m;
+    m.set("dat1", day("2026-02-01"));
+    m.set("ves", ves);
+    return m;
+  }
+  const std::string kPregnancy = newID2(1, 1);
+};
+
+TEST(GrowthCurves, AWeeksSizeComesFromItsOwnPointOfEachCurve) {
+  const std::pair<int, std::pair<double, double>> weeks[] = {
+      {8, {1.0, 16}}, {7, {0, 0}}, {20, {300, 256}}, {43, {0, 0}}, {3, {0, 0}}, {42, {3630, 521}}};
+  for (const auto& [week, size] : weeks) {
+    const WeekSize s = getVesRost(week, 2);
+    EXPECT_EQ(s.ves, size.first) << week;
+    EXPECT_EQ(s.rost, size.second) << week;
+  }
+  const WeekSize twenty = getVesRost(20, 2);
+  EXPECT_DOUBLE_EQ(twenty.vespx, 30 + 580.0 / 40 * 20);
+  EXPECT_DOUBLE_EQ(twenty.vespy, 690 + 300 * 180.0 / -3500);
+  EXPECT_DOUBLE_EQ(twenty.rostpy, 430 + 256 * 180.0 / -550);
+  const WeekSize none = getVesRost(5, 2);
+  EXPECT_EQ(none.vespx, 30) << "a week off the curve leaves the marker at the corner";
+  EXPECT_EQ(none.rostpy, 430);
+
+  EXPECT_EQ(fillVes().size(), 36u);
+  EXPECT_EQ(fillRost().size(), 36u);
+  std::vector<std::string> labels;
+  for (const WeekPoint& p : fillVes())
+    if (!p.label.empty()) labels.push_back(std::to_string(p.week) + "=" + p.label);
+  EXPECT_EQ(labels.front(), "3=0.0");
+  EXPECT_EQ(labels.back(), "40=3462.0") << "the last label stands at week 40";
+
+  std::vector<std::string> thin;
+  for (const WeekPoint& p : fillWomanVes(1))
+    if (!p.label.empty()) thin.push_back(p.label);
+  EXPECT_EQ(thin, (std::vector<std::string>{"0.9", "1.6", "2.0", "3.2", "5.4", "7.7", "9.8", "11.3",
+                                            "13.6", "15.2"}));
+  EXPECT_EQ(fillWomanVes(2).back().week, 42);
+  EXPECT_TRUE(fillWomanVes(0).empty()) << "an unknown build has no norm";
+
+  EXPECT_EQ(shownLength(29, 0), 2);
+  EXPECT_EQ(shownLength(56, 0), 5);
+  EXPECT_EQ(shownLength(63, 23), 14);
+  EXPECT_EQ(shownLength(64, 23), 23);
+}
+
+TEST_F(GrowthSeriesTest, TheOwnGainStartsAtTheBaseOrTheFirstRecordAndSkipsWhatDoesNotRead) {
+  record("2026-01-20", "ves", "59.000");  // before the pregnancy: not in it
+  record("2026-02-05", "ves", "шестьдесят");
+  record("2026-02-10", "ves", "60.500");
+  record("2026-05-01", "ves", "63.500");
+  record("2026-06-01", "ves", "61.000");
+
+  OwnGain noBase = initWomanData(*store, kPregnancy, setup("0"));
+  ASSERT_EQ(noBase.points.size(), 3u);
+  EXPECT_EQ(noBase.points[0].value, 0) << "without a weight before, the first record is the base";
+  EXPECT_DOUBLE_EQ(noBase.largest, 3.0);
+
+  OwnGain withBase = initWomanData(*store, kPregnancy, setup("62"));
+  EXPECT_DOUBLE_EQ(withBase.points[0].value, -1.5) << "a gain may be negative";
+  EXPECT_DOUBLE_EQ(withBase.largest, 1.5);
+
+  deleteVes(withBase.points, day("2026-05-01"), context->dates());
+  ASSERT_EQ(withBase.points.size(), 2u);
+  EXPECT_DOUBLE_EQ(withBase.points[1].value, -1.0);
+
+  record("2026-03-01", "uzi", R"({"rost":"4.5","ves":"0.012"})");
+  record("2026-04-01", "uzi", "not json");
+  record("2026-05-01", "uzi", R"({"rost":"0","ves":"0.3"})");
+  const auto uzi = getUzi(*store, kPregnancy, day("2026-02-01"));
+  ASSERT_EQ(uzi.size(), 2u);
+  EXPECT_EQ(uzi[0].day, 28) << "in days from the first day";
+  EXPECT_EQ(uzi[0].rost, "45.0");
+  EXPECT_EQ(uzi[0].ves, "12.0");
+  EXPECT_EQ(uzi[1].rost, "0.0");
+}
+
+}  // namespace
+}  // namespace lad::health
