@@ -231,10 +231,12 @@ Value Session::ringView() {
       .toValue();
 }
 
-// The profile the pages show: the open card of a pregnancy or a child; the woman's diary has
-// no cards, so hers is the first profile, or her fixed one.
+// The profile the pages show: the open card. With every card closed the child's shortcut goes
+// to the first child; the woman's diary has no cards, so hers is the first profile, or her
+// fixed one.
 std::string Session::profileId() {
-  if (!menu_.activeId().empty() || menu_.hasCards()) return menu_.activeId();
+  if (!menu_.activeId().empty() || isPregnancyEdition(app_.context().values().appid))
+    return menu_.activeId();
   const List profiles = loadProfils(app_.store());
   return profiles.empty() ? newID2(1, 1) : profiles.front()["guid"].text();
 }

@@ -84,14 +84,13 @@ ChildDialog::ChildDialog(Application& app, std::optional<std::string> gid)
       editor_(app.context(), gid_ ? "Настройки" : "Новый ребенок",
               childRows(app.context(), gid_.has_value()),
               childValues(app, loadSetupData(app.store(), gid_), gid_)) {
-  for (const ListField& f : kListFields) markTicked(f.field);
+  fillEntries();
 }
 
-// The list's entries with the ticked ones marked, so that a redraw shows what was ticked.
-void ChildDialog::markTicked(std::string_view field) {
+// The entries of the blood groups and allergies, the stored ones ticked.
+void ChildDialog::fillEntries() {
   for (const ListField& f : kListFields) {
-    if (f.field != field) continue;
-    const Map* row = editor_.row(field);
+    const Map* row = editor_.row(f.field);
     List entries;
     for (const Value& entry : loadConstList(app_.store(), f.list, tickedText((*row)["source"]))) {
       Map e;
@@ -100,7 +99,7 @@ void ChildDialog::markTicked(std::string_view field) {
       e.set("checked", entry["checked"].boolValue());
       entries.push_back(std::move(e));
     }
-    editor_.setRowKey(field, "listdata", Value(std::move(entries)));
+    editor_.setRowKey(f.field, "listdata", Value(std::move(entries)));
   }
 }
 
@@ -110,7 +109,6 @@ std::optional<MessageBox> ChildDialog::change(std::string_view field, const Valu
     editor_.setRowKey("photo", "image", source);
     editor_.setRowKey("photo", "save", source.asBytes() ? kWritePhoto : kRemovePhoto);
   }
-  markTicked(field);
   return std::nullopt;
 }
 

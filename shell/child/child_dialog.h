@@ -17,8 +17,7 @@ class ChildDialog : public SettingsDialog {
   ChildDialog(Application& app, std::optional<std::string> gid);
 
   const FieldEditor& editor() const override { return editor_; }
-  // A ticked blood group or allergy is marked in its list; a new portrait comes as its bytes,
-  // and null takes the portrait away.
+  // A new portrait comes as its bytes, and null takes the portrait away.
   std::optional<MessageBox> change(std::string_view field, const Value& source) override;
   std::optional<MessageBox> close() override { return editor_.close(); }
   // Saves (or removes) the child and returns its guid; a new child gets its guid here. A birth
@@ -29,7 +28,7 @@ class ChildDialog : public SettingsDialog {
   void confirmRemoval() override { removed_ = true; }
 
  private:
-  void markTicked(std::string_view field);
+  void fillEntries();
   Map childSetup(const std::string& gid, std::string* photoError);
 
   Application& app_;

@@ -4,6 +4,7 @@
 
 #include "core/context.h"
 #include "core/text_fill.h"
+#include "health/child_teeth.h"
 #include "shell/diary/day_cells.h"
 #include "shell/list_choice.h"
 #include "shell/popup_menu.h"
@@ -51,6 +52,8 @@ bool editable(std::int64_t kind) {
     case 9:
     case 15:
     case kKindBirth:
+    case kKindTeeth:
+    case kKindSpans:
     case 30:
     case 31:
       return true;
@@ -116,6 +119,10 @@ void DayEditor::prepare(Date day) {
   const Map loaded = todayNoteForDay(app_.store(), day, gid_);
   rows_.clear();
   noteStructToTodayNote(app_.context(), loaded, rows_, listData_);
+  // The teeth form starts from the teeth present before the day.
+  for (Value& row : rows_)
+    if (row["tp"].intValue() == kKindTeeth)
+      row.asMap()->set("oldtooth", toothForDay(app_.store(), day, gid_));
   stored_ = Map();
   for (const Value& row : rows_) stored_.set(row["field"].text(), row["source"].text());
   storedPhoto_ = hasPhoto_ = loaded["isphoto"].boolValue();

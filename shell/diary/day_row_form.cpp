@@ -1,6 +1,7 @@
 #include "shell/diary/day_row_form.h"
 
 #include "core/json_text.h"
+#include "shell/diary/teeth_form.h"
 #include "shell/editor/detail_forms.h"
 #include "shell/editor/detail_rows.h"
 #include "shell/editor/editor_view.h"
@@ -22,13 +23,16 @@ bool isMeasurement(int kind) {
 }
 
 bool isEntryList(int kind) {
-  return kind == 30 || kind == 31;
+  return kind == kKindSpans || kind == 30 || kind == 31;
 }
 
 std::optional<FieldEditor> formOf(const Context& context, const Map& row, int pos) {
   const int kind = static_cast<int>(row["tp"].intValue());
   const std::string source = row["source"].text();
   if (isEntryList(kind)) return entryForm(context, row["field"].text(), source, pos);
+  if (kind == kKindTeeth)
+    return teethForm(context, row["editcap"].text(), row["editdescr"].text(),
+                     row["oldtooth"].text(), source);
   const bool measurement = isMeasurement(kind);
   if (pos >= 0 && !measurement) return std::nullopt;
   std::optional<Map> entry;
@@ -118,7 +122,9 @@ bool DayRowForm::change(std::string_view target, const Value& value) {
 
 DayRowForm::Outcome DayRowForm::commit(std::optional<MessageBox>* refusal) {
   if ((*refusal = editor_.close())) return Outcome::kOpen;
-  if (isMeasurement(kind_) && pos_ >= 0)
+  if (kind_ == kKindTeeth)
+    value_ = teethValue(editor_);
+  else if (isMeasurement(kind_) && pos_ >= 0)
     value_ = jsonFromDic(kind_, withoutEntry(old_, pos_), editor_.rows(), -1);
   else
     value_ = jsonFromDic(kind_, old_, editor_.rows(), pos_);

@@ -150,7 +150,7 @@ TEST_F(ApplicationTest, ANestedEditorsEntryLandsInItsRowBeforeTheFormCloses) {
   EXPECT_EQ(sourceOf(*entryForm(c, "zhid", "", -1), "time"), "10:00");
   EXPECT_FALSE(entryForm(c, "pressure", sourceOf(day, "pressure"), 2));
   EXPECT_FALSE(entryForm(c, "pressure", "not json", 0));
-  EXPECT_FALSE(entryForm(c, "sleep", "", -1));
+  EXPECT_FALSE(entryForm(c, "weight", "", -1));
 }
 
 TEST_F(ApplicationTest, ADaysMeasurementsAreAddedThroughTheirEditor) {
