@@ -7,7 +7,6 @@
 #include "health/child_intervals.h"
 #include "shell/editor/detail_rows.h"
 #include "shell/editor/editor_view.h"
-#include "shell/editor/field_check.h"
 #include "shell/question.h"
 #include "store/dictionary.h"
 
