@@ -97,11 +97,8 @@ FieldEditor FeedingScreen::listForm() const {
                           std::string(kFeedPrefix) + std::to_string(i)));
   }
   const auto totals = kormTotals(c, feedings_, loadLastKormBefore(app_.store(), day_, gid_));
-  if (!totals.empty()) {
-    std::string text = c.translate("итого");
-    for (const std::string& line : totals) text += "\n" + line;
-    rows.push_back(detailRow(c, kText, text, ""));
-  }
+  if (!totals.empty()) rows.push_back(detailRow(c, kText, "итого", ""));
+  for (const std::string& line : totals) rows.push_back(detailRow(c, kText, line, ""));
   rows.push_back(detailRow(c, kLine, "", ""));
   rows.push_back(detailRow(c, kText, "Добавить кормление", ""));
   for (int kind = kFeedBreast; kind <= kFeedOther; ++kind)

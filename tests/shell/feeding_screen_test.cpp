@@ -5,6 +5,7 @@
 #include "core/ids.h"
 #include "health/child_feeding.h"
 #include "shell/session.h"
+#include "shell/views/editors.h"
 #include "tests/shell/application_fixture.h"
 
 namespace lad::shell {
@@ -101,10 +102,11 @@ TEST_F(FeedingScreenTest, TheTotalsAndARemovedFeeding) {
   ASSERT_TRUE(change(*s, "field:tip", Value(newID2(4, 61))).ok());
   ASSERT_TRUE(tap(*s, "editor:ok").ok());
   const Value view = s->view();
-  bool totals = false;
+  std::vector<std::string> texts;
   for (const Value& row : *view["rows"].asList())
-    totals |= row["caption"].text() == "итого\nСмесь: 120 мл.\nТворог: 40 г.";
-  EXPECT_TRUE(totals);
+    if (row["tp"].intValue() == kText) texts.push_back(row["caption"].text());
+  EXPECT_EQ(texts, (std::vector<std::string>{"итого", "Смесь: 120 мл.", "Творог: 40 г.",
+                                             "Добавить кормление"}));
   EXPECT_EQ(caption(*s, "feed1"), "10:00  Нутрилон 1: 120 мл.");
   ASSERT_TRUE(tap(*s, "field:feed0").ok());
   ASSERT_TRUE(tap(*s, "popup:1").ok());
