@@ -1,6 +1,7 @@
 // Fuzz target of the sentences that say what a stored value means: the rows of a day (every kind
 // of field, through the one call the day editor makes), medicine courses in both forms, teeth,
-// diets, body measures, check lists and analyses. Any stored bytes may arrive; a value that
+// diets, body measures, check lists and analyses, the child's feedings and the clock texts of
+// a sleep or a walk. Any stored bytes may arrive; a value that
 // cannot be read gives "", and well-formed text gives well-formed text.
 #include <algorithm>
 #include <array>
@@ -12,9 +13,13 @@
 #include "core/clock.h"
 #include "core/context.h"
 #include "core/ids.h"
+#include "core/json_text.h"
 #include "core/launch.h"
 #include "core/text_parts.h"
 #include "fuzz/fuzz_input.h"
+#include "health/child_feeding.h"
+#include "health/child_intervals.h"
+#include "health/child_teeth.h"
 #include "store/list_codecs.h"
 #include "store/pill_reading.h"
 #include "store/reading_forms.h"
@@ -121,10 +126,19 @@ void forms(const lad::Context& context, std::string_view value) {
   // A measure is one line unless its own text holds an escaped line break.
   if (value.find('\\') == std::string_view::npos)
     check(std::count(sizes.begin(), sizes.end(), '\n') < 5);
+  // The teeth a record leaves are named once each; any two clock texts make a span.
+  const std::string present = lad::teethText(lad::applyTeeth({}, value));
+  check(present.empty() ||
+        lad::splitOn(present, "<tr>").size() == lad::applyTeeth({}, value).count());
+  const auto span = lad::countInterval(text, text, std::nullopt);
+  check(span && span->find(':') != std::string::npos);
+  const std::string feeding = lad::kormToString(context, text, installations().entries);
+  if (!lad::jsonIs(text)) check(feeding.empty());
   const std::string tests = lad::analizyStringToRead(text, installations().entries);
   const std::string checks = lad::checkStringToRead(text, installations().entries);
   if (validUtf8(value))
-    check(validUtf8(teeth) && validUtf8(sizes) && validUtf8(tests) && validUtf8(checks));
+    check(validUtf8(teeth) && validUtf8(sizes) && validUtf8(tests) && validUtf8(checks) &&
+          validUtf8(feeding));
 }
 
 }  // namespace

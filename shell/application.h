@@ -11,6 +11,7 @@
 #include <string>
 
 #include "core/context.h"
+#include "health/breast_timer.h"
 #include "health/contraction_timer.h"
 #include "shell/lock/lock_throttle.h"
 #include "shell/message_box.h"
@@ -54,6 +55,10 @@ class Application {
   health::ContractionTimer& contractionTimer(const std::string& pregguid) {
     return contractionTimers_[pregguid];
   }
+  // The breast timer of a child's feeding, likewise kept while no page shows it.
+  health::BreastTimer& breastTimer(const std::string& childguid) {
+    return breastTimers_[childguid];
+  }
 
   // Counts changes of the installation's data, so that a page built before one knows it must
   // load again.
@@ -79,6 +84,7 @@ class Application {
   std::function<void()> askReview_;
   LockThrottle lockThrottle_;
   std::map<std::string, health::ContractionTimer> contractionTimers_;
+  std::map<std::string, health::BreastTimer> breastTimers_;
   std::uint64_t dataVersion_ = 0;
   ReminderSchedule reminders_;
 };

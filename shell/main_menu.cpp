@@ -98,14 +98,18 @@ void MainMenu::updateMenu() {
 }
 
 bool MainMenu::hasCards() const {
-  return isPregnancyEdition(context_.values().appid);
+  const int appid = context_.values().appid;
+  return isPregnancyEdition(appid) || isChildEdition(appid);
 }
 
 // The cards, each open one followed by the items of its profile.
 List MainMenu::cardViews() {
   List views;
   bool activeFound = false;
-  for (const ProfileCard& card : pregnancyCards(context_, loadProfils(store_))) {
+  const List profiles = loadProfils(store_);
+  const auto cards = isChildEdition(context_.values().appid) ? childCards(context_, profiles)
+                                                             : pregnancyCards(context_, profiles);
+  for (const ProfileCard& card : cards) {
     const bool open = !card.guid.empty() && card.guid == activeId_;
     views.push_back(card.toValue(open));
     if (!open) continue;

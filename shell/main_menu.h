@@ -14,8 +14,8 @@ namespace lad::shell {
 
 struct SwitchSetting;
 
-// In the pregnancy editions the menu begins with a card per pregnancy; touching a card opens
-// it, with the pages and commands of that profile below it, and touching it again closes it.
+// In the pregnancy and child editions the menu begins with a card per profile; touching a card
+// opens it, with the pages and commands of that profile below it, and touching it again closes it.
 class MainMenu : public Screen {
  public:
   // Brings a page of the ring to the front for the open profile.
@@ -37,7 +37,7 @@ class MainMenu : public Screen {
   // The open profile, or "" while every card is closed.
   const std::string& activeId() const { return activeId_; }
   void setActiveId(std::string gid) { activeId_ = std::move(gid); }
-  // Whether profiles are chosen by their cards (the pregnancy editions).
+  // Whether profiles are chosen by their cards (the pregnancy and child editions).
   bool hasCards() const;
 
  private:

@@ -2,6 +2,7 @@
 
 #include <filesystem>
 
+#include "health/child_age.h"
 #include "health/pregnancy_calendar.h"
 #include "shell/views/node.h"
 #include "store/portrait.h"
@@ -12,6 +13,7 @@ namespace {
 
 constexpr std::string_view kCardPrefix = "card:";
 constexpr const char* kNoPicture = "ti-preg2.png";
+constexpr const char* kNoChildPicture = "ti-child.png";
 constexpr const char* kDateForm = "dd.MM.yyyy";
 
 std::string dateText(const Context& context, const Value& date) {
@@ -38,10 +40,11 @@ Map stateSetup(const Map& profile) {
   return setup;
 }
 
-ProfileCard cardOf(const Context& context, const Map& profile) {
+// The parts every card has: the portrait or the picture, the name and the sex.
+ProfileCard cardHead(const Context& context, const Map& profile, const char* picture) {
   ProfileCard card;
   card.guid = profile["guid"].text();
-  card.picture = kNoPicture;
+  card.picture = picture;
   if (std::filesystem::exists(portraitFile(context, card.guid))) {
     card.picture = portraitFile(context, card.guid).filename();
     card.portrait = std::string(kPortraitAddress) + card.guid;
@@ -49,6 +52,11 @@ ProfileCard cardOf(const Context& context, const Map& profile) {
   card.name = profile["childname"].text();
   if (card.name.empty()) card.name = context.translate("Без имени");
   card.sexIcon = sexIcon(profile["sex"]);
+  return card;
+}
+
+ProfileCard cardOf(const Context& context, const Map& profile) {
+  ProfileCard card = cardHead(context, profile, kNoPicture);
   const Value& birth = profile["sbirthdate2"];
   const std::string end = dateText(context, birth.asDate() ? birth : profile["sbirthdate"]);
   card.lines.push_back(dateText(context, profile["sdat1"]) + " - " + end);
@@ -65,6 +73,14 @@ ProfileCard cardOf(const Context& context, const Map& profile) {
   return card;
 }
 
+ProfileCard childCardOf(const Context& context, const Map& profile) {
+  ProfileCard card = cardHead(context, profile, kNoChildPicture);
+  card.lines.push_back(dateText(context, profile["sbirthdate"]));
+  if (const auto born = profile["sbirthdate"].asDate())
+    card.lines.push_back(monthAge(context, *born, context.clock().now(), true, false));
+  return card;
+}
+
 ProfileCard invitingCard(const Context& context) {
   return {
       "",
@@ -73,6 +89,25 @@ ProfileCard invitingCard(const Context& context) {
       "",
       {context.translate("Для добавления беременности нажмите на кнопку \"Новая беременность\"")},
       ""};
+}
+
+ProfileCard invitingChildCard(const Context& context) {
+  return {"",
+          kNoChildPicture,
+          context.translate("Детей пока нет"),
+          "",
+          {context.translate("Чтобы добавить ребенка, нажмите на кнопку \"Новый ребенок\"")},
+          ""};
+}
+
+std::vector<ProfileCard> cardsOf(const Context& context, const List& profiles,
+                                 ProfileCard (*card)(const Context&, const Map&),
+                                 ProfileCard (*inviting)(const Context&)) {
+  std::vector<ProfileCard> cards;
+  for (const Value& profile : profiles)
+    if (const Map* m = profile.asMap()) cards.push_back(card(context, *m));
+  if (cards.empty()) cards.push_back(inviting(context));
+  return cards;
 }
 
 }  // namespace
@@ -100,11 +135,11 @@ Value ProfileCard::toValue(bool open) const {
 }
 
 std::vector<ProfileCard> pregnancyCards(const Context& context, const List& profiles) {
-  std::vector<ProfileCard> cards;
-  for (const Value& profile : profiles)
-    if (const Map* m = profile.asMap()) cards.push_back(cardOf(context, *m));
-  if (cards.empty()) cards.push_back(invitingCard(context));
-  return cards;
+  return cardsOf(context, profiles, cardOf, invitingCard);
+}
+
+std::vector<ProfileCard> childCards(const Context& context, const List& profiles) {
+  return cardsOf(context, profiles, childCardOf, invitingChildCard);
 }
 
 }  // namespace lad::shell

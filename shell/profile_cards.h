@@ -1,5 +1,6 @@
-// The pregnancy cards at the top of the main menu: picture, name, sex, dates and the state of
-// each pregnancy, or one card that invites to add a pregnancy when there is none.
+// The profile cards at the top of the main menu: picture, name, sex, dates and the state of
+// each pregnancy or the age of each child, or one card that invites to add one when there is
+// none.
 #pragma once
 
 #include <string>
@@ -32,5 +33,7 @@ struct ProfileCard {
 
 // One card per profile of loadProfils, in its order.
 std::vector<ProfileCard> pregnancyCards(const Context& context, const List& profiles);
+// One card per child: portrait, name, sex, birth date and age today.
+std::vector<ProfileCard> childCards(const Context& context, const List& profiles);
 
 }  // namespace lad::shell

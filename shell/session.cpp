@@ -4,6 +4,7 @@
 #include <functional>
 
 #include "core/ids.h"
+#include "shell/child/child_dialog.h"
 #include "shell/diary/day_editor.h"
 #include "shell/pages.h"
 #include "shell/profile_editor.h"
@@ -57,11 +58,11 @@ Session::Session(Application& app)
   if (passwordOn(app.context().settings())) showLock(LockMode::Check);
 }
 
-// The menu rows whose screens the session shows: the settings of a pregnancy or of the woman;
-// the child's settings are still to come.
+// The menu rows whose screens the session shows: the settings of a pregnancy, a child or the
+// woman.
 void Session::addMenuCommands() {
   const int appid = app_.context().values().appid;
-  if (isPregnancyEdition(appid)) {
+  if (isPregnancyEdition(appid) || isChildEdition(appid)) {
     menu_.onCommand(kProfileSettingsRow, showing([this] { showProfile(menu_.activeId()); }));
     menu_.onCommand(kNewProfileRow, showing([this] { showProfile(std::nullopt); }));
   }
@@ -89,7 +90,11 @@ void Session::showBackgrounds() {
 }
 
 void Session::showProfile(std::optional<std::string> gid) {
-  push(std::make_shared<ProfileEditor>(app_, *this, std::move(gid)));
+  if (isChildEdition(app_.context().values().appid))
+    push(std::make_shared<ProfileEditor>(app_, *this,
+                                         std::make_unique<ChildDialog>(app_, std::move(gid))));
+  else
+    push(std::make_shared<ProfileEditor>(app_, *this, std::move(gid)));
 }
 
 void Session::push(std::shared_ptr<Screen> screen) {
@@ -230,10 +235,12 @@ Value Session::ringView() {
       .toValue();
 }
 
-// The profile the pages show: the open card of a pregnancy; the child's and the woman's
-// diaries have no cards yet, so theirs is the first profile, or the woman's fixed one.
+// The profile the pages show: the open card. With every card closed the child's shortcut goes
+// to the first child; the woman's diary has no cards, so hers is the first profile, or her
+// fixed one.
 std::string Session::profileId() {
-  if (!menu_.activeId().empty() || menu_.hasCards()) return menu_.activeId();
+  if (!menu_.activeId().empty() || isPregnancyEdition(app_.context().values().appid))
+    return menu_.activeId();
   const List profiles = loadProfils(app_.store());
   return profiles.empty() ? newID2(1, 1) : profiles.front()["guid"].text();
 }

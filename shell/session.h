@@ -55,7 +55,7 @@ class Session : public ScreenHost {
   void askNewPassword();
   // The menu's background row: the list of backgrounds.
   void showBackgrounds();
-  // The settings of a pregnancy, or a new one without a guid.
+  // The settings of a pregnancy or a child, or a new one without a guid.
   void showProfile(std::optional<std::string> gid);
   // The profile this browser works on.
   const std::string& activeId() const { return menu_.activeId(); }

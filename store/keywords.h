@@ -18,9 +18,11 @@ enum FieldKind {
   kKindHeight = 6,
   kKindWeight = 7,
   kKindIllness = 8,
+  kKindTeeth = 13,
   kKindDayType = 14,
   kKindBirth = 16,
   kKindPills = 23,
+  kKindSpans = 29,
   kKindPhoto = 100,
 };
 

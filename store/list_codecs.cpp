@@ -12,7 +12,6 @@ namespace {
 
 constexpr int kKindPressure = 30;
 constexpr int kKindLiquid = 31;
-constexpr int kKindSpan = 29;
 
 // "<a><sep><b>", then " - <comment>" when the comment is not empty.
 std::string measurementText(const Value& measurement, const char* first, const char* separator,
@@ -87,8 +86,8 @@ void multi2FromString(const Context& context, List& target, const std::optional<
   for (const Value& object : *objects) {
     Map m;
     m.set("source", object.toJson());
-    m.set("text", kind == kKindSpan ? intervalToRead2(object)
-                                    : pillsToRead(context, object, listData, forDate));
+    m.set("text", kind == kKindSpans ? intervalToRead2(object)
+                                     : pillsToRead(context, object, listData, forDate));
     target.push_back(Value(std::move(m)));
   }
 }

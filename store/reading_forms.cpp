@@ -25,6 +25,8 @@ std::string replacePlaceholder(std::string format, std::string_view value) {
   return format;
 }
 
+}  // namespace
+
 std::string toothName(std::int64_t code) {
   static constexpr std::array<const char*, 20> kNames{"верхний второй коренной (55)",
                                                       "верхний первый коренной (54)",
@@ -49,8 +51,6 @@ std::string toothName(std::int64_t code) {
   if (code < 1 || code > static_cast<std::int64_t>(kNames.size())) return "";
   return kNames[code - 1];
 }
-
-}  // namespace
 
 std::string checkStringToRead(const std::optional<std::string>& value, const List& entries) {
   std::string text;

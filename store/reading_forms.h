@@ -18,6 +18,8 @@ std::string checkStringToRead(const std::optional<std::string>& value, const Lis
 // One line per tooth code joined by "<tr>": a code up to 100 is a tooth that came through, one
 // above it (less 100) a tooth that fell out; codes 1 to 20 name the milk teeth.
 std::string toothStringToRead(const Context& context, const std::optional<std::string>& value);
+// The dental name of milk tooth 1 to 20, untranslated; "" for any other number.
+std::string toothName(std::int64_t code);
 
 // The whole names of the entries that the JSON list of tests refers to by "captiontype", joined
 // by ", ". The separator goes before each found name after the list's first position.

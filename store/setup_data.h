@@ -20,8 +20,9 @@ void initSetupStruct(const Context& context, Map& setup);
 // exactly when the row exists.
 Map loadSetupData(Store& store, const std::optional<std::string>& gid);
 
-// Saving regimes: from the profile editor, or as it came from another device.
-enum SetupRegime { kSetupFromEditor = 1, kSetupFromCloud = 2 };
+// Saving regimes: from the profile editor, which keeps the keys it does not show as stored; as
+// it came from another device; or from a dialog that shows every key (the child's), as it stands.
+enum SetupRegime { kSetupFromEditor = 1, kSetupFromCloud = 2, kSetupWhole = 3 };
 
 // Writes the profile: an update of its row, or an insert when there is none. A setup with
 // "active" false removes the profile softly, with its portrait; its diary rows stay. The

@@ -4,6 +4,8 @@
 
 #include "core/context.h"
 #include "core/text_fill.h"
+#include "health/child_teeth.h"
+#include "shell/child/feeding_screen.h"
 #include "shell/diary/day_cells.h"
 #include "shell/list_choice.h"
 #include "shell/popup_menu.h"
@@ -31,6 +33,7 @@ constexpr std::string_view kLinePrefix = "day:line:";
 constexpr std::string_view kNumberPrefix = "day:number:";
 constexpr std::string_view kPhoto = "day:photo";
 constexpr std::string_view kPhotoClear = "day:photo:clear";
+constexpr std::string_view kFeeding = "day:feeding";
 constexpr int kConsent = 1;  // "Да" of a question, the tick of a picker
 constexpr int kEditItem = 0;
 constexpr int kDeleteItem = 1;
@@ -52,6 +55,8 @@ bool editable(std::int64_t kind) {
     case 15:
     case kKindBirth:
     case kKindPills:
+    case kKindTeeth:
+    case kKindSpans:
     case 30:
     case 31:
       return true;
@@ -117,6 +122,10 @@ void DayEditor::prepare(Date day) {
   const Map loaded = todayNoteForDay(app_.store(), day, gid_);
   rows_.clear();
   noteStructToTodayNote(app_.context(), loaded, rows_, listData_);
+  // The teeth form starts from the teeth present before the day.
+  for (Value& row : rows_)
+    if (row["tp"].intValue() == kKindTeeth)
+      row.asMap()->set("oldtooth", toothForDay(app_.store(), day, gid_));
   stored_ = Map();
   for (const Value& row : rows_) stored_.set(row["field"].text(), row["source"].text());
   storedPhoto_ = hasPhoto_ = loaded["isphoto"].boolValue();
@@ -148,6 +157,8 @@ Value DayEditor::view() {
       r.lines[pos].id = indexTarget(kLinePrefix, i) + ":" + std::to_string(pos);
     v.rows.push_back(std::move(r));
   }
+  if (isChildEdition(context.values().appid))
+    v.rows.push_back(feedingDayRow(app_, gid_, day_, std::string(kFeeding)));
   v.photo = {context.translate("Фото"),
              "",
              std::string(kPhoto),
@@ -182,6 +193,8 @@ EventResult DayEditor::tap(std::string_view target) {
     pickDay();
     return {};
   }
+  if (target == kFeeding && isChildEdition(app_.context().values().appid))
+    return leave([this] { host_.push(std::make_shared<FeedingScreen>(app_, host_, gid_, day_)); });
   if (target == kPhotoClear) {
     hasPhoto_ = false;
     newPhoto_.reset();

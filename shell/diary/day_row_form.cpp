@@ -2,6 +2,7 @@
 
 #include "core/json_text.h"
 #include "health/pill_times.h"
+#include "shell/diary/teeth_form.h"
 #include "shell/editor/detail_forms.h"
 #include "shell/editor/detail_rows.h"
 #include "shell/editor/editor_view.h"
@@ -26,7 +27,7 @@ bool isMeasurement(int kind) {
 }
 
 bool isEntryList(int kind) {
-  return kind == kKindPills || kind == 30 || kind == 31;
+  return kind == kKindPills || kind == kKindSpans || kind == 30 || kind == 31;
 }
 
 // The fields whose change works out a course's intake times afresh.
@@ -38,6 +39,9 @@ std::optional<FieldEditor> formOf(const Context& context, const Map& row, int po
   const int kind = static_cast<int>(row["tp"].intValue());
   const std::string source = row["source"].text();
   if (isEntryList(kind)) return entryForm(context, row["field"].text(), source, pos, day);
+  if (kind == kKindTeeth)
+    return teethForm(context, row["editcap"].text(), row["editdescr"].text(),
+                     row["oldtooth"].text(), source);
   const bool measurement = isMeasurement(kind);
   if (pos >= 0 && !measurement) return std::nullopt;
   std::optional<Map> entry;
@@ -203,7 +207,9 @@ bool DayRowForm::change(std::string_view target, const Value& value) {
 
 DayRowForm::Outcome DayRowForm::commit(std::optional<MessageBox>* refusal) {
   if ((*refusal = editor_.close())) return Outcome::kOpen;
-  if (isMeasurement(kind_) && pos_ >= 0)
+  if (kind_ == kKindTeeth)
+    value_ = teethValue(editor_);
+  else if (isMeasurement(kind_) && pos_ >= 0)
     value_ = jsonFromDic(kind_, withoutEntry(old_, pos_), editor_.rows(), -1);
   else
     value_ = jsonFromDic(kind_, old_, editor_.rows(), pos_);

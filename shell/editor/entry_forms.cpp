@@ -69,6 +69,23 @@ Map newCourse(const Context& c, Date day) {
   return values;
 }
 
+// A row of a period, marked with its place among the start, end and length kept in step.
+Value periodRow(const Context& c, int kind, std::string_view caption, std::string_view field,
+                std::string_view text, const char* mark) {
+  Value row = detailRow(c, kind, caption, field, true, text);
+  row.asMap()->set("autocalc", mark);
+  row.asMap()->set("pic", "checkgreen.png");
+  return row;
+}
+
+EntryForm periodForm(const Context& c, std::string_view caption, std::string_view start,
+                     std::string_view startText, std::string_view end, std::string_view length) {
+  return {caption,
+          {periodRow(c, kEntryTime, start, "start", startText, "start"),
+           periodRow(c, kEntryTime, end, "end", end, "end"),
+           periodRow(c, kTime, length, "interval", length, "length")}};
+}
+
 std::optional<EntryForm> formOf(const Context& c, std::string_view field) {
   const Value comment = detailRow(c, kEntryText, "Комментарий", "comment", false, "Комментарий");
   if (field == "pressure")
@@ -85,6 +102,12 @@ std::optional<EntryForm> formOf(const Context& c, std::string_view field) {
          detailRow(c, kEntryNumber, "Выпито", "in", true, "Выпито (мл.)"),
          detailRow(c, kEntryNumber, "Выделено", "out", true, "Выделено (мл.)"), comment}};
   if (field == "pills") return EntryForm{"Лекарства", courseRows(c)};
+  if (field == "sleep")
+    return periodForm(c, "Сон", "Начало сна", "Укажите дату начала сна", "Окончание сна",
+                      "Продолжительность сна");
+  if (field == "walk")
+    return periodForm(c, "Прогулка", "Начало прогулки", "Укажите дату начала прогулки",
+                      "Окончание прогулки", "Продолжительность прогулки");
   return std::nullopt;
 }
 
@@ -95,7 +118,10 @@ std::optional<Map> entryValues(const Context& c, std::string_view field, const L
   if (pos < 0) {
     Map values;
     for (const Value& row : rows) values.set(row["field"].text(), "");
-    values.set("time", c.dates().dateToString(c.clock().now(), "HH:mm"));
+    const std::string now = c.dates().dateToString(c.clock().now(), "HH:mm");
+    values.set("time", now);
+    values.set("start", now);
+    values.set("interval", "00:00");
     return values;
   }
   return entryAt(value, pos);

@@ -1,5 +1,6 @@
 #include "shell/editor/field_editor.h"
 
+#include "health/child_intervals.h"
 #include "shell/editor/detail_rows.h"
 #include "shell/editor/editor_view.h"
 #include "shell/editor/field_check.h"
@@ -15,6 +16,18 @@ auto rowOf(Rows& rows, std::string_view field) -> decltype(rows.front().asMap())
   for (auto& r : rows)
     if (auto* m = r.asMap(); m && (*m)["field"].text() == field) return m;
   return nullptr;
+}
+
+// A list's entries marked as the ticked ids of its new value say, so that a redraw shows them.
+void markTicked(Map& row) {
+  const Value* entries = row.find("listdata");
+  if (row["tp"].intValue() != kList || !entries || !entries->asList()) return;
+  const std::string ticked = "<tr>" + tickedText(row["source"]) + "<tr>";
+  List marked = *entries->asList();
+  for (Value& entry : marked)
+    if (Map* e = entry.asMap())
+      e->set("checked", ticked.find("<tr>" + (*e)["id"].text() + "<tr>") != std::string::npos);
+  row.set("listdata", Value(std::move(marked)));
 }
 
 }  // namespace
@@ -47,6 +60,8 @@ bool FieldEditor::change(std::string_view field, Value source) {
   Map* m = field.empty() ? nullptr : find(field);
   if (!m) return false;
   m->set("source", std::move(source));
+  markTicked(*m);
+  if (const std::string mark = (*m)["autocalc"].text(); !mark.empty()) autocalc(rows_, mark);
   return true;
 }
 

@@ -24,7 +24,8 @@ class FieldEditor {
   // The text of a field's value; "" for a field the form does not have.
   std::string text(std::string_view field) const;
 
-  // The user changed a field; false for a field the form does not have.
+  // The user changed a field; false for a field the form does not have. A list's entries are
+  // ticked as the value says, and a period's start, end and length are kept in step.
   bool change(std::string_view field, Value source);
   // Sets another key of a field's row than its value: a list's entries ("listdata"), a
   // caption worked out from other rows. False for a field the form does not have.

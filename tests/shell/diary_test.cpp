@@ -216,6 +216,7 @@ TEST_F(DiaryTest, ADayDeletedInAnotherBrowserIsNotBroughtBackWithoutAsking) {
 TEST_F(DiaryTest, TheChildsDiaryYearStaysBetweenTheFirstAndTheFourteenth) {
   launchApp(2);
   auto s = greeted();
+  ASSERT_TRUE(tap(*s, "card:" + newID2(1, 1)).ok());
   ASSERT_TRUE(tap(*s, "menu:8").ok());
   EXPECT_EQ(diary(*s)["year"]["caption"].text(), "1-й год");
   EXPECT_FALSE(tap(*s, "diary:year:back").ok());

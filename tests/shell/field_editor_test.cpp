@@ -152,7 +152,7 @@ TEST_F(ApplicationTest, ANestedEditorsEntryLandsInItsRowBeforeTheFormCloses) {
   EXPECT_EQ(sourceOf(*entryForm(c, "zhid", "", -1, c.clock().now()), "time"), "10:00");
   EXPECT_FALSE(entryForm(c, "pressure", sourceOf(day, "pressure"), 2, c.clock().now()));
   EXPECT_FALSE(entryForm(c, "pressure", "not json", 0, c.clock().now()));
-  EXPECT_FALSE(entryForm(c, "sleep", "", -1, c.clock().now()));
+  EXPECT_FALSE(entryForm(c, "weight", "", -1, c.clock().now()));
 }
 
 TEST_F(ApplicationTest, ADaysMeasurementsAreAddedThroughTheirEditor) {

@@ -1,0 +1,149 @@
+// Browser test of the child edition on a fresh installation: two children are added through
+// "Новый ребенок"; for one of them a breast feeding is timed on the server's test clock, a
+// sleep and a tooth are recorded, and they show in that child's diary and in none of the
+// other's. Screenshots of the cards, the child's settings, the feeding and the day at phone
+// and tablet size.
+//   node tests/e2e/child.test.mjs --server PATH_TO_SERVER --out SCREENSHOT_DIR
+import assert from 'node:assert/strict';
+import path from 'node:path';
+import {
+  TABLET,
+  advanceClock,
+  onNewInstallation,
+  openPastGreeting,
+  runBrowserTest,
+} from './harness.mjs';
+
+const fieldRow = (icon) => `.day-editor .day-field:has(img[src$="/${icon}"])`;
+const card = (name) => `.card[data-id]:has-text("${name}")`;
+
+async function settled(page) {
+  await page.waitForFunction(() => !document.getElementById('app')?.classList.contains('busy'));
+}
+
+/** Waits until the element's text contains the expected one. */
+async function waitForText(page, selector, expected) {
+  await page.waitForFunction(
+    ([s, e]) => document.querySelector(s)?.textContent?.includes(e),
+    [selector, expected],
+  );
+}
+
+async function addChild(page, name, sex, outDir) {
+  await page.tap('[data-id="menu:31"]');
+  await page.waitForSelector('.editor [data-field="field:name"]');
+  await page.fill('[data-field="field:name"]', name);
+  await page.fill('[data-field="field:rost"]', '51');
+  await page.tap(`.segment:has-text("${sex}")`);
+  await page.tap('.editor-entry:has-text("A(II) Rh+")');
+  await settled(page);
+  if (outDir) await page.screenshot({ path: path.join(outDir, 'child-settings.png') });
+  await page.tap('.editor-ok');
+  await page.waitForSelector(card(name));
+}
+
+/** Today's day of the child whose card is open, from its diary. */
+async function openToday(page, name) {
+  await page.tap(card(name));
+  await page.tap('[data-id="menu:8"]');
+  await page.waitForSelector('.ring-page .diary');
+  await page.tap('.ring-page .diary-add');
+  await page.waitForSelector('.day-editor');
+}
+
+async function timeBreastFeeding(page, outDir) {
+  await page.tap(fieldRow('ne-korm.png'));
+  await page.tap('[data-id="field:add1"]');
+  await page.tap('[data-id="field:startleft"]');
+  await advanceClock(page, 195);
+  await waitForText(page, '.editor', '0:03:15');
+  assert.match(await page.textContent('.editor'), /Идет кормление левой грудью \.\.\./);
+  await page.screenshot({ path: path.join(outDir, 'child-breast-timer.png') });
+  await page.tap('[data-id="field:startleft"]');
+  await page.waitForFunction(
+    () => document.querySelector('[data-field="field:left"]')?.value === '00:03',
+  );
+  await page.tap('.editor-ok');
+  await page.waitForSelector('[data-id="field:feed0"]');
+  assert.match(await page.textContent('[data-id="field:feed0"]'), /Левая грудь: 3 мин\./);
+  assert.match(await page.textContent('.editor'), /итого\s*Грудное молоко: 3 мин\./);
+  await page.screenshot({ path: path.join(outDir, 'child-feedings.png') });
+  await page.tap('.editor-ok');
+  await page.waitForSelector('.day-editor');
+}
+
+async function recordSleep(page) {
+  await page.tap(fieldRow('ne-sleep.png'));
+  await page.waitForSelector('[data-field="field:end"]');
+  await page.fill('[data-field="field:start"]', '13:00');
+  await page.fill('[data-field="field:end"]', '14:30');
+  await page.press('[data-field="field:end"]', 'Tab');
+  await settled(page);
+  await page.waitForFunction(
+    () => document.querySelector('[data-field="field:interval"]')?.value === '01:30',
+  );
+  await page.tap('.editor-ok');
+  await waitForText(page, fieldRow('ne-sleep.png'), 'с 13:00 до 14:30 (01:30)');
+}
+
+async function recordTooth(page) {
+  await page.tap(fieldRow('ne-tooth.png'));
+  await page.tap('.editor-entry:has-text("нижний центральный резец (81)")');
+  await settled(page);
+  await page.tap('.editor-ok');
+  await waitForText(page, fieldRow('ne-tooth.png'), 'Прорезался нижний центральный резец (81)');
+}
+
+/** The child's diary lists the day with its sleep and tooth; the other child's has neither. */
+async function checkDiaries(page, outDir) {
+  await page.screenshot({ path: path.join(outDir, 'child-day.png'), fullPage: true });
+  await page.tap('.day-editor .editor-ok');
+  await waitForText(page, '.ring-page .diary', 'Прорезался нижний центральный резец (81)');
+  assert.match(await page.textContent('.ring-page .diary'), /с 13:00 до 14:30 \(01:30\)/);
+  await page.tap('.ring-page .to-menu');
+  await page.tap(card('Мирон'));
+  await openToday(page, 'Алиса');
+  assert.match(await page.textContent(fieldRow('ne-korm.png')), /пусто/);
+  assert.doesNotMatch(await page.textContent('.day-editor'), /Левая грудь|13:00|Прорезался/);
+  await page.tap('.day-editor .editor-ok');
+  await page.waitForSelector('.ring-page .diary');
+  assert.doesNotMatch(await page.textContent('.ring-page .diary'), /Прорезался|с 13:00/);
+}
+
+await runBrowserTest('child', async ({ browser, executable, outDir }) => {
+  await onNewInstallation(
+    path.join(path.dirname(executable), 'krohomir'),
+    async ({ base }) => {
+      const { context, page, errors } = await openPastGreeting(browser, base);
+      await addChild(page, 'Мирон', 'Мальчик', outDir);
+      await addChild(page, 'Алиса', 'Девочка');
+      assert.match(await page.textContent(card('Мирон')), /Только что родился/);
+      await page.screenshot({ path: path.join(outDir, 'child-cards.png') });
+      await openToday(page, 'Мирон');
+      await timeBreastFeeding(page, outDir);
+      assert.match(await page.textContent(fieldRow('ne-korm.png')), /Левая грудь: 3 мин\./);
+      await recordSleep(page);
+      await recordTooth(page);
+      await checkDiaries(page, outDir);
+      assert.deepEqual(errors, []);
+      await context.close();
+
+      const tablet = await openPastGreeting(browser, base, { device: TABLET });
+      await tablet.page.screenshot({ path: path.join(outDir, 'child-cards-tablet.png') });
+      await openToday(tablet.page, 'Мирон');
+      await tablet.page.screenshot({
+        path: path.join(outDir, 'child-day-tablet.png'),
+        fullPage: true,
+      });
+      await tablet.page.tap(fieldRow('ne-korm.png'));
+      await tablet.page.waitForSelector('[data-id="field:feed0"]');
+      await tablet.page.screenshot({ path: path.join(outDir, 'child-feedings-tablet.png') });
+      await tablet.context.close();
+    },
+    {
+      name: 'krohomir',
+      extraArgs: ['--fake-clock'],
+      env: { ...process.env, LADANEYA_TEST_MODE: '1' },
+    },
+  );
+});

@@ -1,0 +1,119 @@
+#include "shell/child/child_dialog.h"
+
+#include <gtest/gtest.h>
+
+#include "core/ids.h"
+#include "shell/main_menu.h"
+#include "store/profiles.h"
+#include "store/setup_data.h"
+#include "store/store.h"
+#include "tests/shell/application_fixture.h"
+
+namespace lad::shell {
+namespace {
+
+class ChildDialogTest : public testing::ApplicationTest {
+ protected:
+  ChildDialogTest() { launchApp(2); }
+  static std::string sourceOf(const ChildDialog& d, std::string_view field) {
+    return (*d.editor().row(field))["source"].text();
+  }
+  static const Value* entry(const ChildDialog& d, std::string_view field, std::string_view id) {
+    for (const Value& e : *(*d.editor().row(field))["listdata"].asList())
+      if (e["id"].text() == id) return &e;
+    return nullptr;
+  }
+  void storeBirthTime(const std::string& gid, const std::string& text) {
+    StoreBracket bracket = app->store().connectToBase();
+    ASSERT_TRUE(bracket.db()->execute("update child set sbirthtime='" + text +
+                                      "', documents='[1]' where childguid='" + gid + "'"));
+  }
+  const std::string kBlood = newID2(2, 34);
+  const std::string kEgg = newID2(2, 42), kFish = newID2(2, 45);
+};
+
+TEST_F(ChildDialogTest, ANewChildIsSavedWithEveryKeyOfItsDialog) {
+  ChildDialog d(*app, std::nullopt);
+  EXPECT_EQ(d.editor().caption(), "Новый ребенок");
+  EXPECT_EQ(d.editor().row("remove"), nullptr);
+  EXPECT_FALSE(d.removalQuestion());
+  EXPECT_EQ(sourceOf(d, "sbirthdate"), "23.11.2026");
+  EXPECT_EQ(sourceOf(d, "rost"), "") << "a measure not taken shows nothing";
+  ASSERT_NE(entry(d, "blood", newID2(2, 31)), nullptr);
+  EXPECT_TRUE((*entry(d, "blood", newID2(2, 31)))["checked"].boolValue());
+
+  d.change("name", Value("Лев"));
+  d.change("sbirthdate", Value("02.11.2026"));
+  d.change("birthtime", Value("07:45"));
+  d.change("sex", Value(1));
+  d.change("rost", Value("52"));
+  d.change("ves", Value("3,45"));
+  d.change("blood", Value(kBlood));
+  d.change("allerg", Value(List{Value(kEgg), Value(kFish)}));
+  EXPECT_TRUE((*entry(d, "allerg", kFish))["checked"].boolValue()) << "a tick stays on redraw";
+  EXPECT_FALSE((*entry(d, "blood", newID2(2, 31)))["checked"].boolValue());
+  ASSERT_FALSE(d.close());
+  const std::string gid = d.finish(nullptr);
+
+  const Map saved = loadSetupData(app->store(), gid);
+  EXPECT_EQ(saved["name"].text(), "Лев");
+  EXPECT_EQ(saved["sbirthdate"].text(), "2026-11-02");
+  EXPECT_EQ(saved["sbirthtime"].text(), "07:45");
+  EXPECT_EQ(saved["sex"].intValue(), 1);
+  EXPECT_EQ(saved["rost"].text(), "52");
+  EXPECT_EQ(saved["ves"].text(), "3,45");
+  EXPECT_EQ(saved["blood"].text(), kBlood);
+  EXPECT_EQ(saved["allerg"].text(), kEgg + "<tr>" + kFish);
+
+  // Each child has a card with its birth date and age, in the order of birth.
+  const Value menu = MainMenu(app->context(), app->store()).view();
+  const List& children = *menu["children"].asList();
+  ASSERT_EQ(children[0]["kind"].text(), "card");
+  EXPECT_EQ(children[0]["name"].text(), "Лев");
+  EXPECT_EQ(children[0]["sex"].text(), "b-pic.png");
+  EXPECT_EQ((*children[0]["lines"].asList())[0].text(), "02.11.2026");
+  EXPECT_EQ((*children[0]["lines"].asList())[1].text(), "21 день");
+  EXPECT_EQ(children[1]["name"].text(), "Без имени");
+  EXPECT_EQ((*children[1]["lines"].asList())[1].text(), "Только что родился");
+}
+
+TEST_F(ChildDialogTest, ABirthTimeThatIsNoClockKeepsTheStoredOneAndTheRestIsSaved) {
+  const std::string gid = newID2(1, 1);
+  storeBirthTime(gid, "2026-11-02 06:30:00");
+  ChildDialog d(*app, gid);
+  EXPECT_EQ(d.editor().caption(), "Настройки");
+  EXPECT_EQ(sourceOf(d, "birthtime"), "06:30") << "an older full moment shows its clock";
+  d.change("birthtime", Value("25:99"));
+  d.change("name", Value("Ян"));
+  d.finish(nullptr);
+  Map saved = loadSetupData(app->store(), gid);
+  EXPECT_EQ(saved["sbirthtime"].text(), "2026-11-02 06:30:00");
+  EXPECT_EQ(saved["name"].text(), "Ян");
+  EXPECT_EQ(saved["documents"].text(), "[1]") << "what the dialog does not show stays";
+
+  storeBirthTime(gid, "около полудня");
+  ChildDialog again(*app, gid);
+  EXPECT_EQ(sourceOf(again, "birthtime"), "");
+  again.change("birthtime", Value(""));
+  again.finish(nullptr);
+  EXPECT_FALSE(loadSetupData(app->store(), gid).contains("sbirthtime"));
+}
+
+TEST_F(ChildDialogTest, ARemovedChildLeavesTheCards) {
+  ChildDialog add(*app, std::nullopt);
+  add.change("name", Value("Ия"));
+  const std::string gid = add.finish(nullptr);
+  ChildDialog d(*app, gid);
+  ASSERT_NE(d.editor().row("remove"), nullptr);
+  const auto question = d.removalQuestion();
+  ASSERT_TRUE(question);
+  EXPECT_EQ(question->caption(), "Удаление");
+  d.confirmRemoval();
+  EXPECT_EQ(d.finish(nullptr), gid);
+  const List left = loadProfils(app->store());
+  ASSERT_EQ(left.size(), 1u);
+  EXPECT_EQ(left[0]["guid"].text(), newID2(1, 1));
+}
+
+}  // namespace
+}  // namespace lad::shell
