@@ -10,7 +10,10 @@
 namespace lad::shell {
 
 std::set<int> builtPages(int appid) {
-  std::set<int> pages{kTitlePage, kContractionsPage, kDiaryPage};
+  std::set<int> pages{kDiaryPage};
+  // The title page and the contraction counter are a pregnancy's; the child's graphs on the
+  // same row are still to come.
+  if (isPregnancyEdition(appid)) pages.insert({kTitlePage, kContractionsPage});
   // The cycle edition's today and woman's pages are her cycle's; the pregnancy's wait for their
   // texts.
   if (isCycleEdition(appid)) pages.insert({kTodayPage, kWomanPage});
@@ -20,8 +23,10 @@ std::set<int> builtPages(int appid) {
 std::shared_ptr<Screen> makePage(int page, const PageArgs& args) {
   switch (page) {
     case kTitlePage:
+      if (!isPregnancyEdition(args.app.context().values().appid)) return nullptr;
       return std::make_shared<TitlePage>(args.app, args.gid);
     case kContractionsPage:
+      if (!isPregnancyEdition(args.app.context().values().appid)) return nullptr;
       return ContractionScreen::open(args.app, args.gid, args.scale);
     case kTodayPage:
       if (!isCycleEdition(args.app.context().values().appid)) return nullptr;

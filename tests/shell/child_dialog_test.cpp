@@ -2,6 +2,8 @@
 
 #include <gtest/gtest.h>
 
+#include <map>
+
 #include "core/ids.h"
 #include "shell/main_menu.h"
 #include "store/profiles.h"
@@ -113,6 +115,22 @@ TEST_F(ChildDialogTest, ARemovedChildLeavesTheCards) {
   const List left = loadProfils(app->store());
   ASSERT_EQ(left.size(), 1u);
   EXPECT_EQ(left[0]["guid"].text(), newID2(1, 1));
+}
+
+// The pregnancy's title page and counter share row numbers with the child's graphs, which are
+// still to come: a child's card must not open them.
+TEST_F(ChildDialogTest, AChildsCardOffersOnlyThePagesOfAChild) {
+  MainMenu m(app->context(), app->store());
+  ASSERT_TRUE(m.tap("card:" + newID2(1, 1)).ok());
+  std::map<std::string, bool> enabled;
+  const Value view = m.view();
+  for (const Value& child : *view["children"].asList())
+    if (child["kind"].text() == "list")
+      for (const Value& r : *child["rows"].asList())
+        enabled[r["id"].text()] = r["enabled"].boolValue();
+  EXPECT_TRUE(enabled.at("menu:8"));
+  EXPECT_FALSE(enabled.at("menu:3"));
+  EXPECT_FALSE(m.tap("menu:3").ok());
 }
 
 }  // namespace
