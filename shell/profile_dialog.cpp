@@ -4,7 +4,6 @@
 #include "health/body_index.h"
 #include "health/pregnancy_dates.h"
 #include "shell/editor/detail_rows.h"
-#include "store/portrait.h"
 #include "store/setup_data.h"
 #include "store/setup_editor.h"
 
@@ -63,8 +62,7 @@ Map settingsValues(const Context& c, const Map& setup, const std::optional<std::
   values.set("sdat2", editorDate(c, setup, "dat2"));
   values.set("sbirthdate", editorDate(c, setup, "birthdate"));
   for (const char* key : {"rost", "ves", "sex", "bodytype", "name"}) values.set(key, setup[key]);
-  if (gid)
-    if (auto portrait = readPortrait(c, *gid)) values.set("photo", *portrait);
+  startWithPortrait(c, values, gid);
   return values;
 }
 
@@ -80,8 +78,7 @@ ProfileDialog::ProfileDialog(Application& app, std::optional<std::string> gid)
 
 // The portrait is written or removed when the dialog is finished.
 void ProfileDialog::changePhoto(const Value& picture) {
-  editor_.setRowKey("photo", "image", picture);
-  editor_.setRowKey("photo", "save", picture.asBytes() ? kWritePhoto : kRemovePhoto);
+  markPortraitChange(editor_, picture);
 }
 
 std::optional<MessageBox> ProfileDialog::change(std::string_view field, const Value& value) {
@@ -114,8 +111,7 @@ void ProfileDialog::correctBodyIndex() {
 }
 
 std::optional<Question> ProfileDialog::removalQuestion() const {
-  return Question::ask(app_.context(), "Вы действительно хотите удалить эту учетную запись?",
-                       "Удаление");
+  return profileRemovalQuestion(app_.context());
 }
 
 // No rows at all stand for the removal when the profile is saved.

@@ -29,4 +29,11 @@ class SettingsDialog {
   virtual void confirmRemoval() {}
 };
 
+// What the settings dialogs with a portrait share: the stored portrait among the values the
+// rows start from, a new picture (or none) marked to be written when the dialog is finished,
+// and the question before the profile is removed.
+void startWithPortrait(const Context& context, Map& values, const std::optional<std::string>& gid);
+void markPortraitChange(FieldEditor& editor, const Value& picture);
+Question profileRemovalQuestion(const Context& context);
+
 }  // namespace lad::shell

@@ -2,9 +2,7 @@
 
 #include "core/ids.h"
 #include "shell/editor/detail_rows.h"
-#include "shell/editor/field_check.h"
-#include "store/dictionary.h"
-#include "store/portrait.h"
+#include "shell/editor/dictionary_entries.h"
 #include "store/setup_data.h"
 #include "store/setup_editor.h"
 
@@ -71,8 +69,7 @@ Map childValues(Application& app, const Map& setup, const std::optional<std::str
   values.set("ves", measure(setup["ves"]));
   values.set("blood", setup["blood"]);
   values.set("allerg", setup["allerg"]);
-  if (gid)
-    if (auto portrait = readPortrait(c, *gid)) values.set("photo", *portrait);
+  startWithPortrait(c, values, gid);
   return values;
 }
 
@@ -89,33 +86,18 @@ ChildDialog::ChildDialog(Application& app, std::optional<std::string> gid)
 
 // The entries of the blood groups and allergies, the stored ones ticked.
 void ChildDialog::fillEntries() {
-  for (const ListField& f : kListFields) {
-    const Map* row = editor_.row(f.field);
-    List entries;
-    for (const Value& entry : loadConstList(app_.store(), f.list, tickedText((*row)["source"]))) {
-      Map e;
-      e.set("id", entry["index"].text());
-      e.set("caption", entry["cap"].text());
-      e.set("checked", entry["checked"].boolValue());
-      entries.push_back(std::move(e));
-    }
-    editor_.setRowKey(f.field, "listdata", Value(std::move(entries)));
-  }
+  for (const ListField& f : kListFields) fillListEntries(editor_, app_.store(), f.field, f.list);
 }
 
 std::optional<MessageBox> ChildDialog::change(std::string_view field, const Value& source) {
   if (!editor_.change(field, source)) return std::nullopt;
-  if (field == "photo") {
-    editor_.setRowKey("photo", "image", source);
-    editor_.setRowKey("photo", "save", source.asBytes() ? kWritePhoto : kRemovePhoto);
-  }
+  if (field == "photo") markPortraitChange(editor_, source);
   return std::nullopt;
 }
 
 std::optional<Question> ChildDialog::removalQuestion() const {
   if (!gid_) return std::nullopt;
-  return Question::ask(app_.context(), "Вы действительно хотите удалить эту учетную запись?",
-                       "Удаление");
+  return profileRemovalQuestion(app_.context());
 }
 
 // The stored profile with what the dialog shows laid over it, so that nothing it does not show

@@ -5,6 +5,7 @@
 #include "shell/diary/teeth_form.h"
 #include "shell/editor/detail_forms.h"
 #include "shell/editor/detail_rows.h"
+#include "shell/editor/dictionary_entries.h"
 #include "shell/editor/editor_view.h"
 #include "shell/editor/entry_forms.h"
 #include "shell/editor/field_check.h"
@@ -92,18 +93,7 @@ FieldEditor& DayRowForm::top() {
 // A dictionary list offers the entries of its list, the ticked ones marked.
 void DayRowForm::fillEntries(FieldEditor& editor) {
   const Map* row = editor.row(kListField);
-  const int listid = row ? static_cast<int>((*row)["listid"].intValue()) : 0;
-  if (listid <= 0) return;
-  const std::string ticked = tickedText((*row)["source"]);
-  List entries;
-  for (const Value& entry : loadConstList(app_->store(), listid, ticked)) {
-    Map e;
-    e.set("id", entry["index"].text());
-    e.set("caption", entry["cap"].text());
-    e.set("checked", entry["checked"].boolValue());
-    entries.push_back(std::move(e));
-  }
-  editor.setRowKey(kListField, "listdata", Value(std::move(entries)));
+  if (row) fillListEntries(editor, app_->store(), kListField, (*row)["listid"].intValue());
 }
 
 // A dictionary choice row shows the name of its entry, or "пусто".
