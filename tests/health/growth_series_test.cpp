@@ -3,6 +3,7 @@
 #include <gtest/gtest.h>
 
 #include "core/ids.h"
+#include "health/growth_charts.h"
 #include "store/records.h"
 #include "store/store.h"
 #include "tests/store/day_fixture.h"
@@ -65,6 +66,24 @@ TEST(GrowthCurves, AWeeksSizeComesFromItsOwnPointOfEachCurve) {
   EXPECT_EQ(shownLength(56, 0), 5);
   EXPECT_EQ(shownLength(63, 23), 14);
   EXPECT_EQ(shownLength(64, 23), 23);
+}
+
+TEST(GrowthCharts, TheAxesFollowTheWeeksTheBirthAndTheLargestMeasurement) {
+  const std::vector<UltrasoundPoint> uzi{{70, "0.0", "30.0"}, {200, "610.5", "4200.0"}};
+  const Map length = growthChart({GrowthMeasure::Length, "Рост (миллиметры)", uzi, 273});
+  EXPECT_EQ(length["xAxisMax"].intValue(), 273) << "the graph ends at the birth";
+  EXPECT_EQ(length["yAxisMax"].doubleValue(), 610.5);
+  ASSERT_EQ(length["Points"].asList()->size(), 1u) << "a length of 0 is no mark";
+  EXPECT_EQ((*length["Points"].asList())[0]["x"].intValue(), 200);
+  std::string labels;
+  for (const Value& tick : *length["xAxisValue"].asList())
+    if (!tick["label"].text().empty()) labels += tick["label"].text() + " ";
+  EXPECT_EQ(labels, "4 7 10 13 16 19 22 25 28 31 34 37 40 ");
+  EXPECT_EQ((*length["Graph1"].asList())[1]["x"].doubleValue(), 56) << "weeks drawn in days";
+
+  const Map weight = growthChart({GrowthMeasure::Weight, "Вес (граммы)", {}, std::nullopt});
+  EXPECT_EQ(weight["xAxisMax"].intValue(), 294);
+  EXPECT_EQ(weight["yAxisMax"].doubleValue(), 3900);
 }
 
 TEST_F(GrowthSeriesTest, TheOwnGainStartsAtTheBaseOrTheFirstRecordAndSkipsWhatDoesNotRead) {

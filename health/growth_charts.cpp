@@ -1,0 +1,70 @@
+#include "health/growth_charts.h"
+
+#include <algorithm>
+
+#include "charts/chart_dictionary.h"
+#include "charts/palette.h"
+
+namespace lad::health {
+
+namespace {
+
+constexpr int kPregnancyDays = 294;
+constexpr int kLastWeek = 42;
+constexpr double kLengthFloor = 570, kWeightFloor = 3900;
+
+List weekTicks() {
+  List ticks;
+  for (int week = 0; week <= kLastWeek; ++week) {
+    Map tick;
+    tick.set("pos", 7 * week);
+    const bool labelled = week >= 4 && week <= 40 && (week - 4) % 3 == 0;
+    tick.set("label", labelled ? std::to_string(week) : std::string());
+    ticks.push_back(std::move(tick));
+  }
+  return ticks;
+}
+
+}  // namespace
+
+Map growthChart(const GrowthChartInput& input) {
+  const bool length = input.measure == GrowthMeasure::Length;
+  Map dic;
+  charts::initGraphDic(dic);
+  dic.set("caption", input.caption);
+  dic.set("isBorders", true);
+  dic.set("xAxisMin", 0);
+  dic.set("xAxisMax", std::min(kPregnancyDays, input.birthDay.value_or(kPregnancyDays)));
+  dic.set("xAxisValue", weekTicks());
+  List curve;
+  for (const WeekPoint& p : length ? fillRost() : fillVes())
+    charts::addPoint(curve, 7.0 * p.week, p.y, p.label);
+  dic.set("Graph1", std::move(curve));
+  dic.set("Graph1Type", "5");
+  double top = length ? kLengthFloor : kWeightFloor;
+  List marks;
+  for (const UltrasoundPoint& u : input.ultrasound) {
+    const std::string& text = length ? u.rost : u.ves;
+    const double value = leadingDouble(text);
+    if (value <= 0) continue;
+    top = std::max(top, value);
+    Map mark;
+    mark.set("x", u.day);
+    mark.set("y", text);
+    mark.set("label", text);
+    marks.push_back(std::move(mark));
+  }
+  dic.set("Points", std::move(marks));
+  dic.set("yAxisMin", 0);
+  dic.set("yAxisMax", top);
+  const bool dark = input.darkIcons;
+  dic.set("mainColor",
+          charts::colorValue(dark ? draw::Color{0.7, 0, 0, 1} : draw::Color{1, 0.8, 0, 1}));
+  dic.set("backColor",
+          charts::colorValue(dark ? draw::Color{0.6, 0.6, 0.6, 1} : draw::Color{0.5, 0.5, 0.5, 1}));
+  dic.set("textColor",
+          charts::colorValue(dark ? draw::Color{0, 0, 0, 1} : draw::Color{1, 1, 1, 1}));
+  return dic;
+}
+
+}  // namespace lad::health
