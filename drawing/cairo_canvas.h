@@ -25,8 +25,10 @@ class CairoCanvas : public Canvas {
                     const std::vector<GradientStop>& stops) override;
   void drawText(std::string_view text, Rect r, Font f, Color c, Align a) override;
   void drawImage(const std::string& file, Rect r) override;
+  void fillShadow(Rect r, Shadow s) override;
 
  private:
+  void drawJpeg(const std::vector<std::uint8_t>& bytes, Rect r);
   void setPath(const Path& p);
   void setColor(Color c);
   cairo_t* cr_;
