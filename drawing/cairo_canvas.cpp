@@ -48,9 +48,9 @@ void freeBytes(void* bytes) {
 // A PDF keeps the picture as a JPEG rather than as deflated pixels: smaller and much faster.
 void attachJpeg(cairo_surface_t* surface, const Image& image) {
   auto* jpeg = new std::vector<std::uint8_t>(encodeJpeg(image, kPrintJpegQuality));
-  if (jpeg->empty() || cairo_surface_set_mime_data(surface, CAIRO_MIME_TYPE_JPEG, jpeg->data(),
-                                                   jpeg->size(), freeBytes, jpeg) !=
-                           CAIRO_STATUS_SUCCESS)
+  if (jpeg->empty() ||
+      cairo_surface_set_mime_data(surface, CAIRO_MIME_TYPE_JPEG, jpeg->data(), jpeg->size(),
+                                  freeBytes, jpeg) != CAIRO_STATUS_SUCCESS)
     delete jpeg;
 }
 
