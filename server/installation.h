@@ -49,6 +49,10 @@ class Installation {
   // A picture of a diary day ("dd-MM-yyyy.jpg", its "-s.jpg" small copy, or either with a
   // child's guid before the date), under the same rule; 400 for any other name.
   FileReply dayPicture(const std::string& session, const std::string& name);
+  // The report the session asked for, once it is made; 404 before and for any other name.
+  FileReply report(const std::string& session, const std::string& name);
+  // Where the reports find their pictures.
+  void setImagesDir(const std::filesystem::path& dir);
   // The lock is on with a code: only then may other machines be served.
   bool passwordSet();
   // The edition's web app manifest (JSON).

@@ -23,6 +23,7 @@ constexpr int kProfileSettingsRow = 22;
 constexpr int kNewProfileRow = 31;
 constexpr int kBackgroundRow = 42;
 constexpr int kPasswordSwitch = 52;
+constexpr int kReportRow = 21;
 
 bool isNumber(const Value& v) {
   return v.type() == Value::Type::Integer || v.type() == Value::Type::Double;
@@ -69,6 +70,7 @@ void Session::addMenuCommands() {
                           app_, *this, std::make_unique<WomanDialog>(app_, profileId())));
                     }));
   menu_.onCommand(kBackgroundRow, showing([this] { showBackgrounds(); }));
+  menu_.onCommand(kReportRow, [this] { return reports_.ask(profileId()); });
   menu_.onCommand(kPasswordSwitch, [this] { return togglePassword(); });
 }
 
@@ -128,6 +130,7 @@ Value Session::view() {
                  : !stack_.empty() ? stack_.back()->view()
                  : page_           ? ringView()
                                    : menu_.view();
+  if (reports_.shown()) screen.asMap()->set("report", reports_.view());
   if (popup_) screen.asMap()->set("popup", popup_->view());
   if (message_) screen.asMap()->set("message", message_->toValue());
   if (Value enrol = fingerprint_.registration(); !enrol.isNull())
@@ -179,6 +182,10 @@ EventResult Session::tap(std::string_view target, const Value& value) {
     return {};
   }
   if (popup_) return answerPopup(target, value);
+  if (reports_.shown()) {
+    if (target != kReportClose) return EventResult::refused("the report's panel is open");
+    return reports_.close();
+  }
   if (!stack_.empty()) return stack_.back()->tap(target);
   if (page_) return tapPage(target);
   return menu_.tap(target);
