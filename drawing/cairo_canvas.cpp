@@ -4,9 +4,8 @@
 
 #include <algorithm>
 #include <cmath>
-#include <fstream>
-#include <iterator>
 
+#include "core/atomic_file.h"
 #include "drawing/text_layout.h"
 #include "platform/images.h"
 
@@ -18,10 +17,7 @@ namespace {
 constexpr double kPrintPixelsPerUnit = 2;
 constexpr int kPrintJpegQuality = 88;
 
-bool isJpegFile(const std::string& file, std::vector<std::uint8_t>& bytes) {
-  std::ifstream in(file, std::ios::binary);
-  if (!in) return false;
-  bytes.assign(std::istreambuf_iterator<char>(in), std::istreambuf_iterator<char>());
+bool isJpeg(std::span<const std::uint8_t> bytes) {
   return bytes.size() > 3 && bytes[0] == 0xFF && bytes[1] == 0xD8 && bytes[2] == 0xFF;
 }
 
@@ -61,6 +57,7 @@ CairoCanvas::CairoCanvas(cairo_t* cr) : cr_(cr), text_(pango_cairo_create_contex
 }
 
 CairoCanvas::~CairoCanvas() {
+  for (const auto& kept : images_) cairo_surface_destroy(kept.second);
   g_object_unref(text_);
 }
 
@@ -154,41 +151,63 @@ void CairoCanvas::drawText(std::string_view text, Rect r, Font f, Color c, Align
 }
 
 void CairoCanvas::drawImage(const std::string& file, Rect r) {
-  std::vector<std::uint8_t> bytes;
-  if (isJpegFile(file, bytes)) return drawJpeg(bytes, r);
-  cairo_surface_t* image = cairo_image_surface_create_from_png(file.c_str());
+  if (r.w <= 0 || r.h <= 0) return;
+  cairo_surface_t* image = imageSurface(file, r);
+  if (!image) return;
   const int w = cairo_image_surface_get_width(image);
   const int h = cairo_image_surface_get_height(image);
-  if (cairo_surface_status(image) == CAIRO_STATUS_SUCCESS && w > 0 && h > 0) {
-    cairo_save(cr_);
-    cairo_translate(cr_, r.x, r.y);
-    cairo_scale(cr_, r.w / w, r.h / h);
-    cairo_set_source_surface(cr_, image, 0, 0);
-    cairo_paint(cr_);
-    cairo_restore(cr_);
-  }
-  cairo_surface_destroy(image);
-}
-
-// A photo is read no larger than the pixels it takes on the surface.
-void CairoCanvas::drawJpeg(const std::vector<std::uint8_t>& bytes, Rect r) {
-  if (r.w <= 0 || r.h <= 0) return;
-  const bool print = cairo_surface_get_type(cairo_get_target(cr_)) == CAIRO_SURFACE_TYPE_PDF;
-  double w = r.w, h = r.h;
-  cairo_user_to_device_distance(cr_, &w, &h);
-  const double pixels = std::max(std::abs(w), std::abs(h)) * (print ? kPrintPixelsPerUnit : 1);
-  const auto image = decodeImageToFit(bytes, static_cast<int>(std::ceil(pixels)), nullptr);
-  if (!image || image->width <= 0 || image->height <= 0) return;
-  cairo_surface_t* surface = surfaceOf(*image);
-  if (print) attachJpeg(surface, *image);
   cairo_save(cr_);
   cairo_translate(cr_, r.x, r.y);
-  cairo_scale(cr_, r.w / image->width, r.h / image->height);
-  cairo_set_source_surface(cr_, surface, 0, 0);
+  cairo_scale(cr_, r.w / w, r.h / h);
+  cairo_set_source_surface(cr_, image, 0, 0);
   cairo_pattern_set_filter(cairo_get_source(cr_), CAIRO_FILTER_GOOD);
   cairo_paint(cr_);
   cairo_restore(cr_);
-  cairo_surface_destroy(surface);
+}
+
+// The pictures drawn last stay at hand: icons and page frames come again and again, and a PDF
+// keeps a picture that is drawn on many pages only once when it is the same surface.
+cairo_surface_t* CairoCanvas::imageSurface(const std::string& file, Rect r) {
+  const bool print = cairo_surface_get_type(cairo_get_target(cr_)) == CAIRO_SURFACE_TYPE_PDF;
+  double w = r.w, h = r.h;
+  cairo_user_to_device_distance(cr_, &w, &h);
+  const int side = static_cast<int>(
+      std::ceil(std::max(std::abs(w), std::abs(h)) * (print ? kPrintPixelsPerUnit : 1)));
+  const std::string key = file + "@" + std::to_string(side);
+  for (auto it = images_.begin(); it != images_.end(); ++it)
+    if (it->first == key) {
+      images_.splice(images_.begin(), images_, it);
+      return images_.front().second;
+    }
+  cairo_surface_t* image = readImage(file, side, print);
+  if (!image) return nullptr;
+  images_.emplace_front(key, image);
+  if (images_.size() > kKeptImages) {
+    cairo_surface_destroy(images_.back().second);
+    images_.pop_back();
+  }
+  return image;
+}
+
+// A photo is read no larger than the pixels it takes on the surface.
+cairo_surface_t* CairoCanvas::readImage(const std::string& file, int side, bool print) {
+  const auto bytes = readWholeFile(file);
+  if (!bytes) return nullptr;
+  const std::span<const std::uint8_t> data(reinterpret_cast<const std::uint8_t*>(bytes->data()),
+                                           bytes->size());
+  if (!isJpeg(data)) {
+    cairo_surface_t* png = cairo_image_surface_create_from_png(file.c_str());
+    if (cairo_surface_status(png) == CAIRO_STATUS_SUCCESS &&
+        cairo_image_surface_get_width(png) > 0 && cairo_image_surface_get_height(png) > 0)
+      return png;
+    cairo_surface_destroy(png);
+    return nullptr;
+  }
+  const auto image = decodeImageToFit(data, side, nullptr);
+  if (!image || image->width <= 0 || image->height <= 0) return nullptr;
+  cairo_surface_t* surface = surfaceOf(*image);
+  if (print) attachJpeg(surface, *image);
+  return surface;
 }
 
 // Layers of the box, from blur wider to blur narrower, each adding to the colour, so that the
