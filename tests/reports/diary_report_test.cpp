@@ -3,6 +3,7 @@
 #include <gmock/gmock.h>
 
 #include "platform/images.h"
+#include "reports/pdf_settings.h"
 #include "reports/report_input.h"
 #include "store/day_photo.h"
 #include "tests/reports/pdf_reader.h"
@@ -117,6 +118,36 @@ TEST_F(DiaryReportTest, ALongNoteRunsOverPagesWithItsHeadingsOnlyOnTheFirst) {
   EXPECT_EQ(pdf.pages[1].text().find("1 неделя 06 января 2026 слово1 "), 0u);
   // The next day goes on under the last piece.
   EXPECT_THAT(pdf.pages.back().text(), HasSubstr("07 января 2026 Вопрос к доктору"));
+}
+
+// The room left for the next day's row under a first day with that note, as the pages count it.
+double roomUnder(const Context& context, const std::string& first) {
+  const report::PdfSettings s = report::pdfPrepare(context, report::kReportPage);
+  const double afterHeadings = s.top() + s.wh + 3 * s.ot + s.dh + s.ot;
+  const double y = afterHeadings +
+                   report::textHeight(first, {s.fontsize, false}, s.rowTextWidth()) + s.ot +
+                   3 * s.ot;
+  return s.page.h - 10 * s.ot - y - (s.dh + s.ot);
+}
+
+TEST_F(DiaryReportTest, ARowThatDoesNotFitMovesWholeUnlessMoreThan300AreLeft) {
+  std::string later;
+  for (int i = 1; i <= 150; ++i) later += (i > 1 ? " " : "") + ("после" + std::to_string(i));
+  for (const bool split : {false, true}) {
+    pregnancy();
+    // The first day's note is as many lines long as leaves just 300 or less, or just more.
+    std::string first = "строка";
+    while (roomUnder(*context, first + "\nстрока") > 300) first += "\nстрока";
+    if (!split) first += "\nстрока";
+    ASSERT_EQ(roomUnder(*context, first) > 300, split);
+    put("note", first, day(6, 1, 2026));
+    put("note", later, day(7, 1, 2026));
+    const PdfFile pdf = report(split ? "split-row" : "moved-row");
+    ASSERT_GE(pdf.pages.size(), 3u);
+    EXPECT_EQ(pdf.pages[1].text().find("после1 ") != std::string::npos, split);
+    EXPECT_EQ(pdf.pages[2].text().find("07 января 2026 после1 ") == 0, !split)
+        << pdf.pages[2].text();
+  }
 }
 
 TEST_F(DiaryReportTest, PhotosStandAtTheEndOfTheirDayAndABrokenOneIsLeftOut) {
