@@ -1,5 +1,6 @@
 #include "app/cli.h"
 
+#include <cctype>
 #include <charconv>
 #include <cstdlib>
 
@@ -32,7 +33,7 @@ bool testMode() {
 }
 
 std::optional<Command> parseServe(const std::vector<std::string>& args, std::string* error) {
-  Command c{Command::kServe, {}};
+  Command c{Command::kServe, {}, {}};
   for (std::size_t i = 1; i < args.size(); ++i) {
     const std::string& flag = args[i];
     if (flag == "--fake-clock") {
@@ -69,13 +70,79 @@ std::optional<Command> parseServe(const std::vector<std::string>& args, std::str
   return c;
 }
 
+bool isDayText(const std::string& text) {
+  static constexpr std::string_view kShape = "dd.dd.dddd";
+  if (text.size() != kShape.size()) return false;
+  for (std::size_t i = 0; i < text.size(); ++i)
+    if (kShape[i] == 'd' ? !std::isdigit(static_cast<unsigned char>(text[i])) : text[i] != '.')
+      return false;
+  return true;
+}
+
+bool reportArgsFit(const ReportArgs& r, std::string* error) {
+  if (r.kind != "diary" && r.kind != "pressure" && r.kind != "fluid")
+    *error = "--kind is one of diary, pressure, fluid, not " + r.kind;
+  else if (r.output.empty())
+    *error = "report needs -o FILE.pdf";
+  else if (r.output.extension() != ".pdf")
+    *error = "-o wants a file name ending in .pdf, not " + r.output.string();
+  else if (!r.date.empty() && r.kind == "diary")
+    *error = "--date is for the pressure and fluid reports; the diary report takes --year";
+  else if (r.year != 0 && r.kind != "diary")
+    *error = "--year is for the diary report; the pressure and fluid reports take --date";
+  else
+    return true;
+  return false;
+}
+
+std::optional<Command> parseReport(const std::vector<std::string>& args, std::string* error) {
+  Command c{Command::kReport, {}, {}};
+  ReportArgs& r = c.report;
+  for (std::size_t i = 1; i < args.size(); ++i) {
+    const std::string& flag = args[i];
+    if (flag != "--data" && flag != "--kind" && flag != "--date" && flag != "--year" &&
+        flag != "-o") {
+      *error = "unknown option " + flag;
+      return std::nullopt;
+    }
+    if (i + 1 >= args.size()) {
+      *error = flag + " needs a value";
+      return std::nullopt;
+    }
+    const std::string& value = args[++i];
+    if (flag == "--data") {
+      r.dataDir = value;
+    } else if (flag == "--kind") {
+      r.kind = value;
+    } else if (flag == "-o") {
+      r.output = value;
+    } else if (flag == "--date") {
+      if (!isDayText(value)) {
+        *error = "--date wants a day as dd.MM.yyyy, such as 05.03.2026, not " + value;
+        return std::nullopt;
+      }
+      r.date = value;
+    } else {
+      const char* last = value.data() + value.size();
+      auto [end, ec] = std::from_chars(value.data(), last, r.year);
+      if (ec != std::errc() || end != last || r.year < 1) {
+        *error = "--year wants a whole number from 1, not " + value;
+        return std::nullopt;
+      }
+    }
+  }
+  if (!reportArgsFit(r, error)) return std::nullopt;
+  return c;
+}
+
 }  // namespace
 
 std::optional<Command> parseCommandLine(const std::vector<std::string>& args, std::string* error) {
   if (args.empty() || args[0] == "--help" || args[0] == "-h" || args[0] == "help")
-    return Command{Command::kHelp, {}};
-  if (args[0] == "--version") return Command{Command::kVersion, {}};
+    return Command{Command::kHelp, {}, {}};
+  if (args[0] == "--version") return Command{Command::kVersion, {}, {}};
   if (args[0] == "serve") return parseServe(args, error);
+  if (args[0] == "report") return parseReport(args, error);
   *error = "unknown command " + args[0];
   return std::nullopt;
 }
@@ -86,12 +153,21 @@ std::string usage(const std::string& program) {
          "\n"
          "Commands:\n"
          "  serve        run the diary for the browsers of your phone and tablet\n"
+         "  report       write a PDF of the diary, or of a day's pressure or liquids\n"
          "\n"
          "Options of serve:\n"
          "  --data DIR          the installation's data folder (default: ./data)\n"
          "  --listen HOST:PORT  where to listen (default: 127.0.0.1:8080)\n"
          "  --lang ru|de|fr     language of the interface (default: ru)\n"
          "  --web DIR           the built web app (default: the one of this build)\n"
+         "\n"
+         "Options of report:\n"
+         "  --data DIR          the installation's data folder (default: ./data)\n"
+         "  --kind KIND         diary (default), pressure or fluid\n"
+         "  --date dd.MM.yyyy   the day of a pressure or fluid report (default: today)\n"
+         "  --year N            the child's year of life or the calendar year of the cycle\n"
+         "                      diary (default: the one today falls in)\n"
+         "  -o FILE.pdf         where to write the report (required)\n"
          "\n"
          "  --help              this text\n"
          "  --version           the program's version\n";

@@ -19,9 +19,20 @@ struct ServeOptions {
   bool fakeClock = false;              // tests drive the clock over HTTP
 };
 
+struct ReportArgs {
+  std::filesystem::path dataDir = "data";
+  std::string kind = "diary";  // diary, pressure or fluid
+  std::string date;            // "dd.MM.yyyy", pressure and fluid only; empty: today
+  int year = 0;                // diary only; 0: the one today falls in
+  std::filesystem::path output;
+  std::filesystem::path imagesDir;
+  std::filesystem::path resourcesDir;
+};
+
 struct Command {
-  enum Kind { kHelp, kVersion, kServe } kind = kHelp;
+  enum Kind { kHelp, kVersion, kServe, kReport } kind = kHelp;
   ServeOptions serve;
+  ReportArgs report;
 };
 
 // Parses the arguments after the program name; nullopt with *error filled when they are wrong.

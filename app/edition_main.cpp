@@ -2,6 +2,7 @@
 #include <cstdio>
 
 #include "app/cli.h"
+#include "app/report.h"
 #include "app/serve.h"
 #include "core/edition.h"
 
@@ -28,6 +29,12 @@ int main(int argc, char** argv) {
       if (options.imagesDir.empty()) options.imagesDir = LADANEYA_IMAGES_DIR;
       if (options.resourcesDir.empty()) options.resourcesDir = LADANEYA_RESOURCES_DIR;
       return lad::app::serve(LADANEYA_APPID, options);
+    }
+    case lad::app::Command::kReport: {
+      auto args = command->report;
+      args.imagesDir = LADANEYA_IMAGES_DIR;
+      args.resourcesDir = LADANEYA_RESOURCES_DIR;
+      return lad::app::report(LADANEYA_APPID, args);
     }
   }
   return 2;

@@ -64,6 +64,7 @@ int serve(int appid, const ServeOptions& o) {
     std::fprintf(stderr, "cannot open the installation in %s: %s\n", o.dataDir.c_str(), e.what());
     return 1;
   }
+  installation->setImagesDir(o.imagesDir);
   if (auto refusal = server::listenRefusal(o.host, installation->passwordSet()); !refusal.empty()) {
     std::fprintf(stderr, "%s\n", refusal.c_str());
     return 2;

@@ -22,8 +22,8 @@ struct SplitText {
 
 // Joins the blank-separated words of the text one by one until one makes it taller than the
 // height. `line` is the text before the blank ahead of that word and `ost` the text after that
-// blank. A text without blanks, or whose words all fit, is all `line`. When not even the first
-// word fits, `line` is empty and all of the text is left over.
+// blank. A text without blanks, or whose words all fit, is all `line`. A first word that is
+// higher than the room by itself stays in `line` all the same, so that a caller always advances.
 SplitText splitString(std::string_view text, double width, double height,
                       const TextMeasurer& measurer);
 

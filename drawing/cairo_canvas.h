@@ -4,6 +4,9 @@
 #include <cairo.h>
 #include <pango/pango.h>
 
+#include <list>
+#include <utility>
+
 #include "drawing/canvas.h"
 
 namespace lad::draw {
@@ -25,12 +28,17 @@ class CairoCanvas : public Canvas {
                     const std::vector<GradientStop>& stops) override;
   void drawText(std::string_view text, Rect r, Font f, Color c, Align a) override;
   void drawImage(const std::string& file, Rect r) override;
+  void fillShadow(Rect r, Shadow s) override;
 
  private:
+  cairo_surface_t* imageSurface(const std::string& file, Rect r);
+  static cairo_surface_t* readImage(const std::string& file, int side, bool print);
   void setPath(const Path& p);
   void setColor(Color c);
   cairo_t* cr_;
   PangoContext* text_;  // one context for all texts of the painting
+  static constexpr std::size_t kKeptImages = 16;
+  std::list<std::pair<std::string, cairo_surface_t*>> images_;  // the last drawn first
 };
 
 }  // namespace lad::draw

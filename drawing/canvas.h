@@ -31,8 +31,11 @@ class Canvas {
   // Lays the text out in the width of the rectangle from its top, breaking lines at "\n" and
   // between words, and draws it with the alignment.
   virtual void drawText(std::string_view text, Rect r, Font f, Color c, Align a) = 0;
-  // Draws a PNG file scaled into the rectangle; a file that cannot be read draws nothing.
+  // Draws a PNG file scaled into the rectangle; a file that cannot be read draws nothing. The
+  // cairo back end also reads JPEG photos.
   virtual void drawImage(const std::string& file, Rect r) = 0;
+  // Paints the shadow that an opaque picture in the rectangle casts, to be drawn under it.
+  virtual void fillShadow(Rect r, Shadow s) = 0;
 };
 
 }  // namespace lad::draw

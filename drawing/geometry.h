@@ -35,6 +35,14 @@ struct Font {
 
 enum class Align { Left, Center, Right };
 
+// The soft shadow that a picture lying on the page casts.
+struct Shadow {
+  Color color;
+  Point offset;
+  double blur = 0;
+  bool operator==(const Shadow&) const = default;
+};
+
 struct GradientStop {
   double location = 0;
   Color color;

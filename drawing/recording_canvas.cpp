@@ -65,6 +65,12 @@ void RecordingCanvas::drawImage(const std::string& file, Rect r) {
   cmd.text = file;
 }
 
+void RecordingCanvas::fillShadow(Rect r, Shadow s) {
+  auto& cmd = add(Kind::Shadow);
+  cmd.rect = r;
+  cmd.shadow = s;
+}
+
 std::vector<Command> RecordingCanvas::ofKind(Kind kind) const {
   std::vector<Command> out;
   for (const auto& c : commands_)

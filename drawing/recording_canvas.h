@@ -10,7 +10,17 @@
 namespace lad::draw {
 
 struct Command {
-  enum class Kind { Clear, FillRect, FillPath, StrokePath, FillEllipse, Gradient, Text, Image };
+  enum class Kind {
+    Clear,
+    FillRect,
+    FillPath,
+    StrokePath,
+    FillEllipse,
+    Gradient,
+    Text,
+    Image,
+    Shadow
+  };
   Kind kind = Kind::Clear;
   Rect rect;  // clear, fill rect, ellipse, text and image
   Path path;  // fill, stroke, and the clip of a gradient
@@ -20,6 +30,7 @@ struct Command {
   FillRule rule = FillRule::Winding;
   Point from, to;  // gradient
   std::vector<GradientStop> stops;
+  Shadow shadow;
   std::string text;  // text, and the file of an image
   Font font;
   Align align = Align::Left;
@@ -36,6 +47,7 @@ class RecordingCanvas : public Canvas {
                     const std::vector<GradientStop>& stops) override;
   void drawText(std::string_view text, Rect r, Font f, Color c, Align a) override;
   void drawImage(const std::string& file, Rect r) override;
+  void fillShadow(Rect r, Shadow s) override;
 
   const std::vector<Command>& commands() const { return commands_; }
   // The commands of one kind, in the order drawn.

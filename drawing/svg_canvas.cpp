@@ -195,6 +195,16 @@ void SvgCanvas::drawImage(const std::string& file, Rect r) {
   body_ += "\"/>";
 }
 
+void SvgCanvas::fillShadow(Rect r, Shadow s) {
+  const std::string blur = nextId('s');
+  defs_ += "<filter id=\"" + blur + "\"><feGaussianBlur";
+  appendAttribute(defs_, "stdDeviation", s.blur / 2);
+  defs_ += "/></filter>";
+  appendBox(body_, "rect", {r.x + s.offset.x, r.y + s.offset.y, r.w, r.h});
+  appendPaint(body_, "fill", "fill-opacity", s.color);
+  body_ += " filter=\"url(#" + blur + ")\"/>";
+}
+
 std::string SvgCanvas::document() const {
   std::string out;
   out.reserve(body_.size() + defs_.size() + 200);

@@ -22,6 +22,7 @@ class SvgCanvas : public Canvas {
                     const std::vector<GradientStop>& stops) override;
   void drawText(std::string_view text, Rect r, Font f, Color c, Align a) override;
   void drawImage(const std::string& file, Rect r) override;
+  void fillShadow(Rect r, Shadow s) override;
 
   // The whole document of what has been painted so far.
   std::string document() const;

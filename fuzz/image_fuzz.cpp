@@ -1,7 +1,8 @@
 // Fuzz target of photo decoding: JPEG or PNG bytes from any camera or program. A picture that
 // decodes has the pixels its sides promise, within the size limit, and survives the way the
-// diary keeps it (a JPEG of it decodes to the same sides); one that does not says why. The
-// first byte also picks an EXIF orientation to apply and a side to shrink to.
+// diary keeps it (a JPEG of it decodes to the same sides); one that does not says why. Its
+// header tells the same sides, and it reads shrunk as the reports read it. The first byte also
+// picks an EXIF orientation to apply and a side to shrink to.
 #include <cstddef>
 #include <cstdint>
 #include <span>
@@ -41,6 +42,8 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
   check(image.has_value() == error.empty());
   if (!image) return 0;
   check(wellFormed(*image));
+  const auto header = lad::imageSize(bytes);
+  check(header && header->width == image->width && header->height == image->height);
   if (std::int64_t{image->width} * image->height > kMostPixelsKept) return 0;
 
   const int turn = choice % 8 + 1;
@@ -52,6 +55,8 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
   const int side = choice / 8 + 1;
   const lad::Image small = lad::scaledToFit(*image, side);
   check(wellFormed(small) && small.width <= std::max(side, 1) && small.height <= std::max(side, 1));
+  const auto read = lad::decodeImageToFit(bytes, side, nullptr);
+  check(read && wellFormed(*read) && read->width <= side && read->height <= side);
 
   std::string keptError;
   const auto kept = lad::toJpeg(bytes, 1 + choice % 100, &keptError);

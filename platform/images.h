@@ -16,11 +16,26 @@ struct Image {
   std::vector<std::uint8_t> rgb;
 };
 
+struct ImageSize {
+  int width = 0;
+  int height = 0;
+  bool operator==(const ImageSize&) const = default;
+};
+
+// The size that decodeImage would give, read from the header of a JPEG or PNG without its
+// pixels; nullopt for anything else.
+std::optional<ImageSize> imageSize(std::span<const std::uint8_t> bytes);
+
 // Reads a JPEG or PNG, told apart by their signatures. Transparency is composed over white,
 // grey, palette and 16-bit images come out as 8-bit RGB, and a JPEG's EXIF orientation is
 // applied so that a phone photo stands upright. Anything else, data cut short, or more than
 // 50 megapixels gives nullopt and a text in `error` (when given).
 std::optional<Image> decodeImage(std::span<const std::uint8_t> bytes, std::string* error);
+
+// The image read as decodeImage reads it and shrunk as scaledToFit shrinks it; a large JPEG is
+// not read at full size first.
+std::optional<Image> decodeImageToFit(std::span<const std::uint8_t> bytes, int maxSide,
+                                      std::string* error);
 
 // Baseline JPEG of the image; quality 1 to 100 (clamped). Empty for an image without pixels or
 // whose `rgb` does not hold width * height pixels.

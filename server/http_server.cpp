@@ -12,6 +12,7 @@
 #include "shell/diary/day_cells.h"
 #include "shell/profile_cards.h"
 #include "shell/reminder_feed.h"
+#include "shell/report_panel.h"
 
 namespace lad::server {
 
@@ -115,6 +116,9 @@ struct HttpServer::Impl {
           session, req.path.substr(std::string_view(shell::kPictureAddress).size())));
     if (get && req.path.starts_with(shell::kFeedAddress))
       return calendarFeed(req.path.substr(shell::kFeedAddress.size()));
+    if (get && req.path.starts_with(shell::kReportAddress))
+      return document(installation.report(
+          session, req.path.substr(std::string_view(shell::kReportAddress).size())));
     if (options.testClock && req.method == "POST" && req.path == "/api/test/clock")
       return advanceTestClock(req);
     if (get && !req.path.starts_with("/api/"))
@@ -160,6 +164,18 @@ struct HttpServer::Impl {
     HttpResponse res;
     res.setHeader("Cache-Control", "private, no-store");
     res.setContent(std::move(*feed), "text/calendar; charset=utf-8");
+    return res;
+  }
+
+  // A PDF for the browser's own viewer, saved under its own name when downloaded.
+  HttpResponse document(const FileReply& reply) {
+    auto bytes = reply.status == 200 ? readWholeFile(reply.file) : std::nullopt;
+    if (!bytes) return HttpResponse::error(reply.status == 200 ? 404 : reply.status, reply.error);
+    HttpResponse res;
+    res.setHeader("Cache-Control", "private, no-store");
+    res.setHeader("Content-Disposition",
+                  "inline; filename=\"" + reply.file.filename().string() + "\"");
+    res.setContent(std::move(*bytes), "application/pdf");
     return res;
   }
 

@@ -140,6 +140,21 @@ FileReply Installation::portrait(const std::string& session, const std::string& 
   });
 }
 
+FileReply Installation::report(const std::string& session, const std::string& name) {
+  return privateFile(session, [&]() -> FileReply {
+    const auto entry = sessions_.find(session);
+    const auto file = entry == sessions_.end()
+                          ? std::nullopt
+                          : entry->second.session->reports().finishedFile(name);
+    if (!file) return {404, {}, "no report of that name is ready for this browser"};
+    return {200, *file, {}};
+  });
+}
+
+void Installation::setImagesDir(const std::filesystem::path& dir) {
+  loop_.call([&] { app_->reports().setImagesDir(dir); });
+}
+
 FileReply Installation::dayPicture(const std::string& session, const std::string& name) {
   return privateFile(session, [&]() -> FileReply {
     if (!isDayPictureName(name)) return {400, {}, "not the name of a day's picture"};

@@ -53,6 +53,10 @@ class Installation {
   // The reminders of the days to come as an iCalendar feed, for the name ("TOKEN.ics") of the
   // present feed address only; nullopt for any other name.
   std::optional<std::string> calendarFeed(std::string_view name);
+  // The report the session asked for, once it is made; 404 before and for any other name.
+  FileReply report(const std::string& session, const std::string& name);
+  // Where the reports find their pictures.
+  void setImagesDir(const std::filesystem::path& dir);
   // The lock is on with a code: only then may other machines be served.
   bool passwordSet();
   // The edition's web app manifest (JSON).

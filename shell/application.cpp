@@ -18,7 +18,8 @@ constexpr std::chrono::seconds kLockGrace{5};
 
 Application::Application(ContextOptions options)
     : context_(std::make_unique<Context>(std::move(options))),
-      store_(std::make_unique<Store>(*context_)) {
+      store_(std::make_unique<Store>(*context_)),
+      reports_(std::make_unique<ReportMaker>(*store_)) {
   launch(*context_);
   fromOldVersion(*store_);
   correctBackground(context_->values(), context_->values().backgroundId);

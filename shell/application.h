@@ -16,6 +16,7 @@
 #include "shell/lock/lock_throttle.h"
 #include "shell/message_box.h"
 #include "shell/reminder_schedule.h"
+#include "shell/report_maker.h"
 #include "store/store.h"
 
 namespace lad::shell {
@@ -68,6 +69,9 @@ class Application {
   // The reminders planned from the diary, delivered by the host at their minute.
   ReminderSchedule& reminders() { return reminders_; }
 
+  // The PDF reports, made one after another away from the main thread.
+  ReportMaker& reports() { return *reports_; }
+
   // A file handed over by another program is kept for the analyses or the doctor's chat; the
   // message tells the user where to use it.
   MessageBox openURL(const std::filesystem::path& file);
@@ -87,6 +91,7 @@ class Application {
   std::map<std::string, health::BreastTimer> breastTimers_;
   std::uint64_t dataVersion_ = 0;
   ReminderSchedule reminders_;
+  std::unique_ptr<ReportMaker> reports_;  // goes first: its worker uses the store
 };
 
 }  // namespace lad::shell

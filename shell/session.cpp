@@ -26,6 +26,7 @@ constexpr int kNewProfileRow = 31;
 constexpr int kBackgroundRow = 42;
 constexpr int kPasswordSwitch = 52;
 constexpr int kReminderFeedRow = 57;
+constexpr int kReportRow = 21;
 
 bool isNumber(const Value& v) {
   return v.type() == Value::Type::Integer || v.type() == Value::Type::Double;
@@ -74,6 +75,7 @@ void Session::addMenuCommands() {
   menu_.onCommand(kBackgroundRow, showing([this] { showBackgrounds(); }));
   menu_.onCommand(kReminderFeedRow,
                   showing([this] { push(std::make_shared<ReminderFeedScreen>(app_, *this)); }));
+  menu_.onCommand(kReportRow, [this] { return reports_.ask(profileId()); });
   menu_.onCommand(kPasswordSwitch, [this] { return togglePassword(); });
 }
 
@@ -137,6 +139,7 @@ Value Session::view() {
                  : !stack_.empty() ? stack_.back()->view()
                  : page_           ? ringView()
                                    : menu_.view();
+  if (reports_.shown()) screen.asMap()->set("report", reports_.view());
   if (popup_) screen.asMap()->set("popup", popup_->view());
   if (message_) screen.asMap()->set("message", message_->toValue());
   if (Value enrol = fingerprint_.registration(); !enrol.isNull())
@@ -188,6 +191,10 @@ EventResult Session::tap(std::string_view target, const Value& value) {
     return {};
   }
   if (popup_) return answerPopup(target, value);
+  if (reports_.shown()) {
+    if (target != kReportClose) return EventResult::refused("the report's panel is open");
+    return reports_.close();
+  }
   if (!stack_.empty()) return stack_.back()->tap(target);
   if (page_) return tapPage(target);
   return menu_.tap(target);

@@ -16,6 +16,7 @@
 #include "shell/main_menu.h"
 #include "shell/message_box.h"
 #include "shell/page_ring.h"
+#include "shell/report_panel.h"
 #include "shell/screen_host.h"
 
 namespace lad::shell {
@@ -61,6 +62,8 @@ class Session : public ScreenHost {
   const std::string& activeId() const { return menu_.activeId(); }
   // The page in front, or nothing while the menu is.
   std::optional<int> frontPage() const { return ring_.front(); }
+  // The reports this browser asked for.
+  const ReportPanel& reports() const { return reports_; }
 
   void push(std::shared_ptr<Screen> screen) override;
   // A tap may carry the popup's input in "value".
@@ -116,6 +119,7 @@ class Session : public ScreenHost {
   std::string pendingShortcut_;
   ScreenMetrics metrics_;
   DiaryState diary_;
+  ReportPanel reports_{app_, *this};
   bool appeared_ = false;
   bool lockDue_ = false;
 };

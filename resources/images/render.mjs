@@ -1,5 +1,6 @@
 // Renders every src/*.svg into a transparent PNG next to this script: 96×96, or larger for
-// the pictures shown large. A background "bg640-N" (640×960) also gives its darker form for
+// the pictures shown large. The pictures of the PDF reports' pages are opaque JPEGs of the
+// page's width. A background "bg640-N" (640×960) also gives its darker form for
 // dialogs "bd640-N" and its thumbnail "bs-N"; a lock picture "pass-*" (white) also gives its
 // dark form "b-pass-*" for light backgrounds.
 // Run by hand after editing an icon: `node resources/images/render.mjs`.
@@ -9,7 +10,12 @@ import { fileURLToPath } from 'node:url';
 import { chromium } from 'playwright-core';
 
 const SIZE = 96;
-const LARGE = { 'start-icon': 256, 'clear-photo2': 240 };
+const LARGE = { 'start-icon': 256, 'clear-photo2': 240, 'pdf-pressure': 320, 'pdf-zhid': 320 };
+const REPORT_PAGES = {
+  pdftitle: [1200, 1657],
+  'pdftitle-top': [1200, 110],
+  'pdftitle-bottom': [1200, 90],
+};
 const here = dirname(fileURLToPath(import.meta.url));
 const srcDir = join(here, 'src');
 
@@ -32,6 +38,11 @@ try {
       await render(svg.replace('<svg ', '<svg preserveAspectRatio="xMidYMid slice" '), `bs-${id}`, SIZE, SIZE);
       continue;
     }
+    const page = REPORT_PAGES[name];
+    if (page) {
+      await render(svg, name, page[0], page[1], '', 'jpeg');
+      continue;
+    }
     const size = LARGE[name] ?? SIZE;
     await render(svg, name, size, size);
     if (name.startsWith('pass-')) await render(svg, `b-${name}`, size, size, 'svg { filter: invert(1); }');
@@ -40,8 +51,8 @@ try {
   await browser.close();
 }
 
-/** Renders one SVG filling a width×height viewport, with extra CSS, to NAME.png. */
-async function render(svg, name, width, height, extraCss = '') {
+/** Renders one SVG filling a width×height viewport, with extra CSS, to NAME.png or NAME.jpg. */
+async function render(svg, name, width, height, extraCss = '', type = 'png') {
   const page = await browser.newPage({ viewport: { width, height }, deviceScaleFactor: 1 });
   // The SVG fills the whole viewport; the page itself stays transparent.
   await page.setContent(
@@ -50,7 +61,9 @@ async function render(svg, name, width, height, extraCss = '') {
        svg { display: block; width: ${width}px; height: ${height}px; }
        ${extraCss}
      </style></head><body>${svg}</body></html>`);
-  await page.screenshot({ path: join(here, `${name}.png`), omitBackground: true, clip: { x: 0, y: 0, width, height } });
+  const file = `${name}.${type === 'jpeg' ? 'jpg' : 'png'}`;
+  const options = type === 'jpeg' ? { type, quality: 88 } : { omitBackground: true };
+  await page.screenshot({ path: join(here, file), clip: { x: 0, y: 0, width, height }, ...options });
   await page.close();
-  console.log(`rendered ${name}.png`);
+  console.log(`rendered ${file}`);
 }

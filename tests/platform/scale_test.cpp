@@ -37,5 +37,31 @@ TEST(ScaledToFit, AveragesTheCoveredArea) {
             (std::vector<std::uint8_t>{255, 0, 0, 0, 255, 0, 0, 0, 255, 255, 255, 255}));
 }
 
+TEST(DecodeImageToFit, ShrinksALargeJpegToTheSideItIsAskedFor) {
+  const auto jpeg = encodeJpeg(quadrants(1600, 1200), 90);
+  const auto fitted = decodeImageToFit(jpeg, 300, nullptr);
+  ASSERT_TRUE(fitted);
+  EXPECT_EQ(fitted->width, 300);
+  EXPECT_EQ(fitted->height, 225);
+  expectQuarters(*fitted, {kRed, kGreen, kBlue, kWhite});
+  // A turned photo keeps its upright shape, and a PNG takes the same way.
+  const auto turned = decodeImageToFit(withExifOrientation(jpeg, 6, false), 300, nullptr);
+  ASSERT_TRUE(turned);
+  EXPECT_EQ(turned->width, 225);
+  EXPECT_EQ(turned->height, 300);
+  const Image small = quadrants(40, 20);
+  const auto png = decodeImageToFit(pngOf(40, 20, PNG_FORMAT_RGB, small.rgb.data()), 100, nullptr);
+  ASSERT_TRUE(png);
+  EXPECT_EQ(png->rgb, small.rgb);
+  // The sizes as the header tells them.
+  EXPECT_EQ(imageSize(jpeg), (ImageSize{1600, 1200}));
+  EXPECT_EQ(imageSize(withExifOrientation(jpeg, 6, true)), (ImageSize{1200, 1600}));
+  EXPECT_EQ(imageSize(pngOf(40, 20, PNG_FORMAT_RGB, small.rgb.data())), (ImageSize{40, 20}));
+  EXPECT_FALSE(imageSize(std::vector<std::uint8_t>(jpeg.begin(), jpeg.begin() + 4)));
+  std::string error;
+  EXPECT_FALSE(decodeImageToFit(std::vector<std::uint8_t>{1, 2, 3}, 100, &error));
+  EXPECT_FALSE(error.empty());
+}
+
 }  // namespace
 }  // namespace lad::test

@@ -3,6 +3,7 @@
 import { carryUnsentInputs } from './editor.js';
 import { renderPopup } from './popup.js';
 import { render } from './render.js';
+import { renderReport } from './report.js';
 import type { PopupNode, Screen } from './view.js';
 
 export function show(root: HTMLElement, view: Screen): void {
@@ -16,6 +17,7 @@ export function show(root: HTMLElement, view: Screen): void {
   const scroll = same || (shown.length === 0 && coming.size === 0) ? window.scrollY : 0;
   const popup = view.popup ? (keptPopup(root, view.popup) ?? renderPopup(view.popup)) : null;
   const message = view.message ? render(view.message) : null;
+  const report = view.report ? renderReport(view.report) : null;
   // Taking a kept popup out of the page loses its wheels' places: they are put back.
   const wheels = Array.from(
     popup?.querySelectorAll<HTMLElement>('.wheel') ?? [],
@@ -23,7 +25,7 @@ export function show(root: HTMLElement, view: Screen): void {
   );
   const refocus = next ? carryUnsentInputs(root, next) : null;
   root.replaceChildren(
-    ...[next, popup, message].filter((node): node is HTMLElement => node !== null),
+    ...[next, report, popup, message].filter((node): node is HTMLElement => node !== null),
   );
   refocus?.();
   for (const [wheel, top] of wheels) wheel.scrollTop = top;

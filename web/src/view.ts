@@ -96,6 +96,24 @@ export interface MessageNode {
   button: string;
 }
 
+/** The report a browser asked for: its progress, then the finished PDF to open, save or share. */
+export interface ReportNode {
+  kind: 'report';
+  caption: string;
+  text: string;
+  state: 'running' | 'done' | 'failed';
+  done: number;
+  /** 0 when there is nothing to count. */
+  total: number;
+  /** The finished PDF's address. */
+  file?: string;
+  fileName: string;
+  open: string;
+  download: string;
+  share: string;
+  close: string;
+}
+
 /** A profile's card at the top of the main menu; touching it opens or closes the profile. */
 export interface CardNode {
   kind: 'card';
@@ -447,6 +465,7 @@ export type ViewNode =
 export type Screen = ViewNode & {
   popup?: PopupNode;
   message?: MessageNode;
+  report?: ReportNode;
   theme?: Theme;
   tilt?: boolean;
   fingerprintRegister?: RegistrationRequest;

@@ -1,0 +1,59 @@
+// The days of the diary report laid out over pages: each day under its headings, rows moved to
+// the next page or split across pages when they do not fit, the day's photo at its end.
+#pragma once
+
+#include <filesystem>
+#include <functional>
+#include <vector>
+
+#include "drawing/pdf_document.h"
+#include "reports/pdf_rows.h"
+
+namespace lad::report {
+
+// One day as the pages draw it.
+struct ReportDay {
+  Map day;                      // "group", "month", "day" of the loaded day
+  std::vector<ReportRow> rows;  // in the editor's order
+  std::optional<Date> date;
+  std::string photo;  // the full picture's file, when the day has one
+};
+
+class DiaryPages {
+ public:
+  DiaryPages(const Context& context, draw::PdfDocument& pdf, const PdfSettings& settings,
+             const RowPainter& rows, std::filesystem::path imagesDir);
+
+  // pdfDrawPages: starts the first page of days, draws them all and ends the last page. The
+  // progress hears of each day drawn.
+  void drawPages(const std::vector<ReportDay>& days,
+                 const std::function<void(std::size_t)>& progress = {});
+
+ private:
+  struct Flags {
+    bool big = false;    // the group heading is still to be drawn
+    bool small = false;  // the date heading is still to be drawn
+    double extra = 0;    // the height the headings still to be drawn take
+  };
+
+  void newPage(bool close);
+  double drawDayCap(double y, const Map& day, Flags& f);
+  void drawDay(const ReportDay& day);
+  void drawLines(const ReportDay& day, const ReportRow& row, Flags& f);
+  void drawPlain(const ReportDay& day, const ReportRow& row, Flags& f);
+  void splitRow(const ReportDay& day, const ReportRow& row, Flags& f);
+  void drawPhoto(const ReportDay& day, Flags& f);
+  bool fits(const Flags& f, double bottom) const;
+  std::string groupHeading(const Map& day) const;
+
+  const Context& context_;
+  draw::PdfDocument& pdf_;
+  const PdfSettings& s_;
+  const RowPainter& rows_;
+  std::filesystem::path imagesDir_;
+  int pageCount_ = 0;
+  std::int64_t lastGroup_ = 0;  // waslastgroup
+  double y_ = 0;
+};
+
+}  // namespace lad::report

@@ -1,0 +1,142 @@
+#include "shell/report_panel.h"
+
+#include "core/text_fill.h"
+#include "shell/popup_menu.h"
+#include "shell/views/node.h"
+#include "shell/wheel_picker.h"
+
+namespace lad::shell {
+
+using namespace std::chrono_literals;
+using report::ReportKind;
+
+namespace {
+
+constexpr std::string_view kReportMenu =
+    "Вся беременность<td>pm-preg.png<tr>Отчет по давлению<td>pm-pressure.png<tr>Отчет по "
+    "жидкости<td>pm-zhid.png";
+constexpr int kPickerConsent = 1;
+// How often the browsers hear of a report being made.
+constexpr auto kFollowEvery = 400ms;
+
+const char* stateName(ReportJob::State state) {
+  switch (state) {
+    case ReportJob::State::Done:
+      return "done";
+    case ReportJob::State::Failed:
+      return "failed";
+    case ReportJob::State::Waiting:
+    case ReportJob::State::Running:
+      break;
+  }
+  return "running";
+}
+
+// Every browser redraws while the report is made, and once more when it is ready. The timer
+// holds the job, not the panel, which may go with its session meanwhile.
+EventResult follow(std::shared_ptr<const ReportJob> job) {
+  EventResult result;
+  if (job->finished()) return result;
+  result.timerDelay = kFollowEvery;
+  result.timer = [job] { return follow(job); };
+  return result;
+}
+
+}  // namespace
+
+Value ReportPanelView::toValue() const {
+  Map m = node(kKind);
+  m.set("caption", caption);
+  m.set("text", text);
+  m.set("state", state);
+  m.set("done", static_cast<std::int64_t>(done));
+  m.set("total", static_cast<std::int64_t>(total));
+  if (!file.empty()) m.set("file", file);
+  m.set("fileName", fileName);
+  m.set("open", open);
+  m.set("download", download);
+  m.set("share", share);
+  m.set("close", close);
+  return m;
+}
+
+EventResult ReportPanel::ask(const std::string& gid) {
+  const Context& context = app_.context();
+  if (!isPregnancyEdition(context.values().appid))
+    return start(ReportKind::Diary, gid, context.clock().now());
+  host_.openPopup(std::make_unique<PopupMenu>(context, kReportMenu),
+                  [this, gid](const PopupAnswer& answer) { return choose(answer, gid); });
+  return {};
+}
+
+// actionPdf: the diary report at once, the pressure and fluid reports after their day.
+EventResult ReportPanel::choose(const PopupAnswer& answer, const std::string& gid) {
+  const Context& context = app_.context();
+  if (answer.choice == context.translate("Отменить")) return {};
+  if (answer.choice == context.translate("Вся беременность"))
+    return start(ReportKind::Diary, gid, context.clock().now());
+  const ReportKind kind = answer.choice == context.translate("Отчет по давлению")
+                              ? ReportKind::Pressure
+                              : ReportKind::Fluid;
+  host_.openPopup(std::make_unique<WheelPicker>(context, kDatePicker, "Укажите дату отчета", ""),
+                  [this, kind, gid](const PopupAnswer& picked) {
+                    if (picked.button != kPickerConsent) return EventResult();
+                    const auto day = app_.context().dates().dateFromStringFormat(
+                        picked.value.text(), "dd.MM.yyyy");
+                    if (!day) return EventResult::refused("the date picker gave no date");
+                    return start(kind, gid, *day);
+                  });
+  return {};
+}
+
+EventResult ReportPanel::start(ReportKind kind, const std::string& gid, Date day) {
+  report::ReportRequest request;
+  request.kind = kind;
+  request.gid = gid;
+  request.date = day;
+  request.year = report::defaultReportYear(app_.store(), gid);
+  request.target = report::defaultReportFile(app_.context(), kind);
+  job_ = app_.reports().start(request);
+  return follow(job_);
+}
+
+EventResult ReportPanel::close() {
+  job_.reset();
+  return {};
+}
+
+Value ReportPanel::view() const {
+  if (!job_) return Value();
+  const Context& context = app_.context();
+  ReportPanelView v;
+  v.state = stateName(job_->state);
+  v.done = job_->done;
+  v.total = job_->total;
+  v.fileName = job_->request.target.filename().string();
+  v.open = context.translate("Открыть");
+  v.download = context.translate("Скачать");
+  v.share = context.translate("Отправить");
+  v.close = context.translate("Закрыть");
+  if (job_->state == ReportJob::State::Done) {
+    v.caption = context.translate("Просмотр");
+    v.text = context.translate("Отчет готов. Его можно открыть, сохранить или отправить врачу.");
+    v.file = std::string(kReportAddress) + v.fileName;
+  } else if (job_->state == ReportJob::State::Failed) {
+    v.caption = context.translate("Сформировать PDF отчет");
+    v.text = context.translate("Отчет не удалось сохранить. Попробуйте еще раз немного позже.");
+  } else {
+    v.caption = context.translate("Сформировать PDF отчет");
+    v.text = v.total > 0 ? fillIn(context.translate("Готово дней: %@ из %@"),
+                                  {std::to_string(v.done), std::to_string(v.total)})
+                         : context.translate("Отчет формируется, подождите немного.");
+  }
+  return v.toValue();
+}
+
+std::optional<std::filesystem::path> ReportPanel::finishedFile(std::string_view name) const {
+  if (!job_ || job_->state != ReportJob::State::Done) return std::nullopt;
+  if (job_->request.target.filename() != name) return std::nullopt;
+  return job_->request.target;
+}
+
+}  // namespace lad::shell

@@ -1,0 +1,91 @@
+// Browser test of the PDF reports from the main menu, at phone and tablet size: the menu's
+// choice of report, the diary report made while the page follows its progress, the finished
+// PDF fetched by the browser that asked for it (and by no other), and the pressure report after
+// the question of its day. Screenshots of the choice, the date question and the finished panel.
+//   node tests/e2e/reports.test.mjs --server PATH_TO_SERVER --out SCREENSHOT_DIR
+import assert from 'node:assert/strict';
+import path from 'node:path';
+import { PHONE, TABLET, openPastGreeting, runBrowserTest } from './harness.mjs';
+
+/** Opens the pregnancy's card, when there is one, and the menu's report row. */
+async function askForReport(page) {
+  if (
+    (await page.locator('.card.open').count()) === 0 &&
+    (await page.locator('.card[data-id]').count()) > 0
+  )
+    await page.tap('.card[data-id]');
+  await page.tap('[data-id="menu:21"]');
+  await page.waitForSelector('.popup-cover');
+}
+
+/** Chooses a report in the popup and waits for its panel to say that it is ready. */
+async function choose(page, caption) {
+  await page.tap(`.popup-cover button:has-text("${caption}")`);
+}
+
+async function finishedReport(page) {
+  await page.waitForSelector('.report[data-state="done"]');
+  return page.getAttribute('.report a[download]', 'href');
+}
+
+/** What the browser gets at the address: status, type and the file's first bytes. */
+function fetchHead(page, address) {
+  return page.evaluate(async (a) => {
+    const response = await fetch(a);
+    const bytes = new Uint8Array(await response.arrayBuffer()).slice(0, 5);
+    return {
+      status: response.status,
+      type: response.headers.get('Content-Type'),
+      head: String.fromCharCode(...bytes),
+    };
+  }, address);
+}
+
+async function checkDevice(browser, base, device, name, outDir) {
+  const { context, page, errors } = await openPastGreeting(browser, base, { device });
+  await askForReport(page);
+  const captions = await page.locator('.popup-cover button').allTextContents();
+  for (const wanted of ['Вся беременность', 'Отчет по давлению', 'Отчет по жидкости', 'Отменить'])
+    assert.ok(
+      captions.some((c) => c.includes(wanted)),
+      `the choice offers ${wanted}`,
+    );
+  await page.screenshot({ path: path.join(outDir, `reports-choice-${name}.png`) });
+
+  await choose(page, 'Вся беременность');
+  const diary = await finishedReport(page);
+  assert.equal(diary, '/doc/report/report.pdf');
+  assert.equal(await page.getAttribute('.report a[target="_blank"]', 'href'), diary);
+  assert.equal(await page.getAttribute('.report a[download]', 'download'), 'report.pdf');
+  await page.screenshot({ path: path.join(outDir, `reports-ready-${name}.png`) });
+  assert.deepEqual(await fetchHead(page, diary), {
+    status: 200,
+    type: 'application/pdf',
+    head: '%PDF-',
+  });
+  // Another browser has asked for nothing: the file is not there for it.
+  const other = await openPastGreeting(browser, base, { device });
+  assert.equal((await fetchHead(other.page, diary)).status, 404, 'no report for another browser');
+  await other.context.close();
+
+  await page.tap('.report button[data-id="report:close"]');
+  await page.waitForSelector('.report', { state: 'detached' });
+  await askForReport(page);
+  await choose(page, 'Отчет по давлению');
+  await page.waitForSelector('.popup-cover .wheel');
+  assert.match(await page.locator('.popup-cover').innerText(), /Укажите дату отчета/);
+  await page.screenshot({ path: path.join(outDir, `reports-date-${name}.png`) });
+  await page.tap('.popup-cover button[data-id="popup:1"]');
+  const pressure = await finishedReport(page);
+  assert.equal(pressure, '/doc/report/pressure.pdf');
+  assert.equal((await fetchHead(page, pressure)).head, '%PDF-');
+  // The diary report of before is no longer this browser's.
+  assert.equal((await fetchHead(page, diary)).status, 404);
+  assert.deepEqual(errors, [], 'page errors');
+  await context.close();
+}
+
+await runBrowserTest('reports', async ({ browser, base, outDir }) => {
+  await checkDevice(browser, base, PHONE, 'phone', outDir);
+  await checkDevice(browser, base, TABLET, 'tablet', outDir);
+});
