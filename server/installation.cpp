@@ -152,7 +152,7 @@ FileReply Installation::report(const std::string& session, const std::string& na
 }
 
 void Installation::setImagesDir(const std::filesystem::path& dir) {
-  loop_.call([&] { app_->reports().setImagesDir(dir); });
+  loop_.call([&] { app_->setImagesDir(dir); });
 }
 
 FileReply Installation::dayPicture(const std::string& session, const std::string& name) {

@@ -80,4 +80,9 @@ void Application::resignActive() {
   context_->settings().synchronize();
 }
 
+void Application::setImagesDir(std::filesystem::path dir) {
+  reports_->setImagesDir(dir);
+  imagesDir_ = std::move(dir);
+}
+
 }  // namespace lad::shell

@@ -71,6 +71,9 @@ class Application {
 
   // The PDF reports, made one after another away from the main thread.
   ReportMaker& reports() { return *reports_; }
+  // Where the charts and the reports find their pictures.
+  const std::filesystem::path& imagesDir() const { return imagesDir_; }
+  void setImagesDir(std::filesystem::path dir);
 
   // A file handed over by another program is kept for the analyses or the doctor's chat; the
   // message tells the user where to use it.
@@ -92,6 +95,7 @@ class Application {
   std::uint64_t dataVersion_ = 0;
   ReminderSchedule reminders_;
   std::unique_ptr<ReportMaker> reports_;  // goes first: its worker uses the store
+  std::filesystem::path imagesDir_;
 };
 
 }  // namespace lad::shell

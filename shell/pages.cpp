@@ -24,7 +24,7 @@ std::shared_ptr<Screen> makePage(int page, const PageArgs& args) {
   switch (page) {
     case kTitlePage:
       if (!isPregnancyEdition(args.app.context().values().appid)) return nullptr;
-      return std::make_shared<TitlePage>(args.app, args.gid);
+      return std::make_shared<TitlePage>(args.app, args.gid, args.scale);
     case kContractionsPage:
       if (!isPregnancyEdition(args.app.context().values().appid)) return nullptr;
       return ContractionScreen::open(args.app, args.gid, args.scale);

@@ -1,8 +1,11 @@
 #include "shell/title_page.h"
 
+#include "charts/chart.h"
 #include "core/menu_table.h"
+#include "health/growth_charts.h"
 #include "health/pregnancy_calendar.h"
 #include "shell/pages.h"
+#include "shell/views/charts.h"
 #include "shell/views/pages.h"
 #include "shell/views/rows.h"
 #include "store/setup_data.h"
@@ -11,6 +14,8 @@ namespace lad::shell {
 
 namespace {
 
+constexpr double kChartWidth = 300, kChartHeight = 150;  // in units of the device scale
+
 std::string pageCaption(const Context& context) {
   const Map* row = menuRow(context.values().tabMenu, kTitlePage);
   return row ? (*row)["name"].text() : std::string();
@@ -18,8 +23,34 @@ std::string pageCaption(const Context& context) {
 
 }  // namespace
 
-// The growth graphs join this page when the charts exist; until then it says where the
-// pregnancy stands in words.
+TitlePage::TitlePage(Application& app, std::string gid, double scale)
+    : app_(app), gid_(std::move(gid)), scale_(scale) {
+  charts_ = growthCharts(loadSetupData(app_.store(), gid_));
+}
+
+List TitlePage::growthCharts(const Map& setup) const {
+  const Context& context = app_.context();
+  const auto dat1 = setup["dat1"].asDate();
+  if (!dat1) return {};
+  std::optional<int> birthDay;
+  if (const auto birth = setup["birthdate2"].asDate())
+    birthDay = context.dates().getDays(*dat1, *birth);
+  const auto uzi = health::getUzi(app_.store(), gid_, *dat1);
+  const bool dark = context.values().themeDarkIcons;
+  const std::pair<health::GrowthMeasure, const char*> kinds[] = {
+      {health::GrowthMeasure::Length, "Рост (миллиметры)"},
+      {health::GrowthMeasure::Weight, "Вес (граммы)"}};
+  List charts;
+  for (const auto& [measure, caption] : kinds) {
+    charts::Chart chart(scale_, app_.imagesDir());
+    chart.prepare(health::growthChart({measure, context.translate(caption), uzi, birthDay, dark}));
+    const draw::Size size{kChartWidth * scale_, kChartHeight * scale_};
+    const std::string id = measure == health::GrowthMeasure::Length ? "rost" : "ves";
+    charts.push_back(SvgView{id, chart.svg(size), size.w, size.h}.toValue());
+  }
+  return charts;
+}
+
 Value TitlePage::view() {
   Context& context = app_.context();
   const Map setup = loadSetupData(app_.store(), gid_);
@@ -30,6 +61,7 @@ Value TitlePage::view() {
   const int week = getCurWeek(context, setup);
   if (week > 0)
     children.push_back(TextView{trimesterName(context, week), "", std::nullopt}.toValue());
+  children.insert(children.end(), charts_.begin(), charts_.end());
   return PageView{pageCaption(context), std::move(children)}.toValue();
 }
 

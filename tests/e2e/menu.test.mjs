@@ -175,8 +175,12 @@ async function passWelcome(context, base, outDir, name) {
     await page.textContent('.welcome-caption'),
     'the document title is the greeting caption',
   );
-  const icon = await page.$eval('.welcome-icon', (img) => img.complete && img.naturalWidth);
-  assert.ok(icon > 0, 'the greeting icon shows');
+  // The icon may still be on its way: wait for it to load, then see that it drew.
+  const icon = await page.waitForFunction(() => {
+    const img = document.querySelector('.welcome-icon');
+    return img?.complete ? img.naturalWidth : false;
+  });
+  assert.ok((await icon.jsonValue()) > 0, 'the greeting icon shows');
   await page.screenshot({ path: path.join(outDir, `${name}.png`), fullPage: true });
   await page.tap('.welcome-footer button');
   await page.waitForSelector('.row[data-id]');
