@@ -147,35 +147,36 @@ struct HttpServer::Impl {
     return res;
   }
 
-  // Kept by the browser for this page only: the next session must ask again.
-  HttpResponse picture(const FileReply& reply) {
-    auto bytes = reply.status == 200 ? readWholeFile(reply.file) : std::nullopt;
-    if (!bytes) return HttpResponse::error(reply.status == 200 ? 404 : reply.status, reply.error);
+  // A private answer, kept by the browser for this page only: the next session must ask again.
+  static HttpResponse privateContent(std::string content, const char* type) {
     HttpResponse res;
     res.setHeader("Cache-Control", "private, no-store");
-    res.setContent(std::move(*bytes), "image/jpeg");
+    res.setContent(std::move(content), type);
     return res;
   }
+
+  // A diary file the installation allowed, or why not.
+  static HttpResponse privateFile(const FileReply& reply, const char* type) {
+    auto bytes = reply.status == 200 ? readWholeFile(reply.file) : std::nullopt;
+    if (!bytes) return HttpResponse::error(reply.status == 200 ? 404 : reply.status, reply.error);
+    return privateContent(std::move(*bytes), type);
+  }
+
+  HttpResponse picture(const FileReply& reply) { return privateFile(reply, "image/jpeg"); }
 
   // Known only to whoever holds the address: anyone else hears that there is nothing here.
   HttpResponse calendarFeed(std::string_view name) {
     auto feed = installation.calendarFeed(name);
     if (!feed) return HttpResponse::error(404, "no such calendar");
-    HttpResponse res;
-    res.setHeader("Cache-Control", "private, no-store");
-    res.setContent(std::move(*feed), "text/calendar; charset=utf-8");
-    return res;
+    return privateContent(std::move(*feed), "text/calendar; charset=utf-8");
   }
 
   // A PDF for the browser's own viewer, saved under its own name when downloaded.
   HttpResponse document(const FileReply& reply) {
-    auto bytes = reply.status == 200 ? readWholeFile(reply.file) : std::nullopt;
-    if (!bytes) return HttpResponse::error(reply.status == 200 ? 404 : reply.status, reply.error);
-    HttpResponse res;
-    res.setHeader("Cache-Control", "private, no-store");
-    res.setHeader("Content-Disposition",
-                  "inline; filename=\"" + reply.file.filename().string() + "\"");
-    res.setContent(std::move(*bytes), "application/pdf");
+    HttpResponse res = privateFile(reply, "application/pdf");
+    if (res.status == 200)
+      res.setHeader("Content-Disposition",
+                    "inline; filename=\"" + reply.file.filename().string() + "\"");
     return res;
   }
 
