@@ -16,6 +16,8 @@ const REPORT_PAGES = {
   'pdftitle-top': [1200, 110],
   'pdftitle-bottom': [1200, 90],
 };
+// Transparent pictures that are not square: width×height.
+const WIDE = { 'child-g': [540, 224] };
 const here = dirname(fileURLToPath(import.meta.url));
 const srcDir = join(here, 'src');
 
@@ -41,6 +43,11 @@ try {
     const page = REPORT_PAGES[name];
     if (page) {
       await render(svg, name, page[0], page[1], '', 'jpeg');
+      continue;
+    }
+    const wide = WIDE[name];
+    if (wide) {
+      await render(svg, name, wide[0], wide[1]);
       continue;
     }
     const size = LARGE[name] ?? SIZE;
