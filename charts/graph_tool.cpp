@@ -4,15 +4,10 @@ namespace lad::charts {
 
 namespace {
 
-// Two wedges from the centre: filled by the even-odd rule, the inner one cancels out.
+// Out along one radius and back along the other: no edge reaches the centre, where the many
+// segments of a wheel meet and their antialiased tips would add up to a spot.
 draw::Path ringSegment(draw::Point centre, double rad1, double rad2, double from, double to) {
-  draw::Path p;
-  for (double radius : {rad1, rad2}) {
-    p.moveTo(centre);
-    p.arc(centre, radius, from, to);
-    p.close();
-  }
-  return p;
+  return draw::Path().arc(centre, rad1, from, to).arcNegative(centre, rad2, to, from).close();
 }
 
 }  // namespace

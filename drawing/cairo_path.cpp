@@ -15,6 +15,9 @@ void setCairoPath(cairo_t* cr, const Path& p) {
       case Path::Kind::Arc:
         cairo_arc(cr, op.to.x, op.to.y, op.radius, op.start, op.end);
         break;
+      case Path::Kind::ArcNegative:
+        cairo_arc_negative(cr, op.to.x, op.to.y, op.radius, op.start, op.end);
+        break;
       case Path::Kind::Close:
         cairo_close_path(cr);
         break;
