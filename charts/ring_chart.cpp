@@ -6,6 +6,7 @@
 #include <numbers>
 
 #include "charts/chart_text.h"
+#include "charts/graph_tool.h"
 #include "charts/palette.h"
 
 namespace lad::charts {
@@ -13,18 +14,6 @@ namespace lad::charts {
 namespace {
 
 constexpr double kTwoPi = 2 * std::numbers::pi;
-
-// A ring segment as two wedges from the centre: filled by the even-odd rule, the inner wedge
-// cancels out and leaves the segment.
-draw::Path ringSegment(draw::Point centre, double outer, double inner, double from, double to) {
-  draw::Path p;
-  for (double radius : {outer, inner}) {
-    p.moveTo(centre);
-    p.arc(centre, radius, from, to);
-    p.close();
-  }
-  return p;
-}
 
 void drawShareLabel(draw::Canvas& c, double share, double mid, draw::Point centre, double outer,
                     double z) {
@@ -46,14 +35,13 @@ void drawNewChart(draw::Canvas& c, const List& points, draw::Rect r, double zoom
   if (outer <= 0) return;
   const double inner = outer / 3;
   const draw::Point shadow{centre.x + 2 * zoom, centre.y + 2 * zoom};
-  c.fillPath(ringSegment(shadow, outer, inner, 0, kTwoPi), {0, 0, 0, 0.2}, draw::FillRule::EvenOdd);
+  drawArc(c, 0, kTwoPi, {0, 0, 0, 0.2}, outer, inner, shadow);
   if (total <= 0) return;
   double angle = 0;
   for (std::size_t i = 0; i < points.size(); ++i) {
     const double share = points[i]["x"].doubleValue() / total;
     const double end = angle + share * kTwoPi;
-    c.fillPath(ringSegment(centre, outer, inner, angle, end), nextColor(static_cast<int>(i) + 1),
-               draw::FillRule::EvenOdd);
+    drawArc(c, angle, end, nextColor(static_cast<int>(i) + 1), outer, inner, centre);
     drawShareLabel(c, share, (angle + end) / 2, centre, outer, zoom);
     angle = end;
   }

@@ -6,6 +6,8 @@
 #include <cmath>
 
 #include "core/atomic_file.h"
+#include "drawing/cairo_path.h"
+#include "drawing/cairo_shadow.h"
 #include "drawing/text_layout.h"
 #include "platform/images.h"
 
@@ -61,26 +63,6 @@ CairoCanvas::~CairoCanvas() {
   g_object_unref(text_);
 }
 
-void CairoCanvas::setPath(const Path& p) {
-  cairo_new_path(cr_);
-  for (const auto& op : p.ops()) {
-    switch (op.kind) {
-      case Path::Kind::Move:
-        cairo_move_to(cr_, op.to.x, op.to.y);
-        break;
-      case Path::Kind::Line:
-        cairo_line_to(cr_, op.to.x, op.to.y);
-        break;
-      case Path::Kind::Arc:
-        cairo_arc(cr_, op.to.x, op.to.y, op.radius, op.start, op.end);
-        break;
-      case Path::Kind::Close:
-        cairo_close_path(cr_);
-        break;
-    }
-  }
-}
-
 void CairoCanvas::setColor(Color c) {
   cairo_set_source_rgba(cr_, c.r, c.g, c.b, c.a);
 }
@@ -100,17 +82,16 @@ void CairoCanvas::fillRect(Rect r, Color c) {
 }
 
 void CairoCanvas::fillPath(const Path& p, Color c, FillRule rule) {
-  setPath(p);
+  setCairoPath(cr_, p);
   setColor(c);
-  cairo_set_fill_rule(
-      cr_, rule == FillRule::EvenOdd ? CAIRO_FILL_RULE_EVEN_ODD : CAIRO_FILL_RULE_WINDING);
+  cairo_set_fill_rule(cr_, cairoFillRule(rule));
   cairo_fill(cr_);
   cairo_set_fill_rule(cr_, CAIRO_FILL_RULE_WINDING);
 }
 
 void CairoCanvas::strokePath(const Path& p, Color c, double width,
                              const std::vector<double>& dash) {
-  setPath(p);
+  setCairoPath(cr_, p);
   setColor(c);
   cairo_set_line_width(cr_, width);
   cairo_set_dash(cr_, dash.data(), static_cast<int>(dash.size()), 0);
@@ -136,7 +117,7 @@ void CairoCanvas::fillGradient(const Path& clip, Point from, Point to,
   for (const auto& s : stops)
     cairo_pattern_add_color_stop_rgba(pattern, s.location, s.color.r, s.color.g, s.color.b,
                                       s.color.a);
-  setPath(clip);
+  setCairoPath(cr_, clip);
   cairo_set_source(cr_, pattern);
   cairo_fill(cr_);
   cairo_pattern_destroy(pattern);
@@ -223,6 +204,10 @@ void CairoCanvas::fillShadow(Rect r, Shadow s) {
                     r.h + 2 * grow);
     cairo_fill(cr_);
   }
+}
+
+void CairoCanvas::fillPathShadow(const Path& p, FillRule rule, Shadow s) {
+  paintPathShadow(cr_, p, rule, s);
 }
 
 }  // namespace lad::draw

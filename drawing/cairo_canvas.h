@@ -29,11 +29,11 @@ class CairoCanvas : public Canvas {
   void drawText(std::string_view text, Rect r, Font f, Color c, Align a) override;
   void drawImage(const std::string& file, Rect r) override;
   void fillShadow(Rect r, Shadow s) override;
+  void fillPathShadow(const Path& p, FillRule rule, Shadow s) override;
 
  private:
   cairo_surface_t* imageSurface(const std::string& file, Rect r);
   static cairo_surface_t* readImage(const std::string& file, int side, bool print);
-  void setPath(const Path& p);
   void setColor(Color c);
   cairo_t* cr_;
   PangoContext* text_;  // one context for all texts of the painting

@@ -36,6 +36,8 @@ class Canvas {
   virtual void drawImage(const std::string& file, Rect r) = 0;
   // Paints the shadow that an opaque picture in the rectangle casts, to be drawn under it.
   virtual void fillShadow(Rect r, Shadow s) = 0;
+  // Paints the soft shadow that the path, filled by the rule, casts, to be drawn under it.
+  virtual void fillPathShadow(const Path& p, FillRule rule, Shadow s) = 0;
 };
 
 }  // namespace lad::draw

@@ -19,6 +19,11 @@ Path& Path::arc(Point centre, double radius, double start, double end) {
   return *this;
 }
 
+Path& Path::arcNegative(Point centre, double radius, double start, double end) {
+  ops_.push_back({Kind::ArcNegative, centre, radius, start, end});
+  return *this;
+}
+
 Path& Path::close() {
   ops_.push_back({Kind::Close, {}});
   return *this;

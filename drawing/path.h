@@ -9,9 +9,9 @@ namespace lad::draw {
 
 class Path {
  public:
-  enum class Kind { Move, Line, Arc, Close };
+  enum class Kind { Move, Line, Arc, ArcNegative, Close };
   // Move and Line use `to`; Arc uses centre, radius and the angles in radians, clockwise on
-  // screen (y down) from start to end.
+  // screen (y down) from start to end; ArcNegative the same counter-clockwise.
   struct Op {
     Kind kind;
     Point to;
@@ -22,6 +22,7 @@ class Path {
   Path& moveTo(Point p);
   Path& lineTo(Point p);
   Path& arc(Point centre, double radius, double start, double end);
+  Path& arcNegative(Point centre, double radius, double start, double end);
   Path& close();
   Path& addRect(Rect r);
   Path& addCircle(Point centre, double radius);

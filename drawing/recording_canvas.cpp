@@ -71,6 +71,13 @@ void RecordingCanvas::fillShadow(Rect r, Shadow s) {
   cmd.shadow = s;
 }
 
+void RecordingCanvas::fillPathShadow(const Path& p, FillRule rule, Shadow s) {
+  auto& cmd = add(Kind::PathShadow);
+  cmd.path = p;
+  cmd.rule = rule;
+  cmd.shadow = s;
+}
+
 std::vector<Command> RecordingCanvas::ofKind(Kind kind) const {
   std::vector<Command> out;
   for (const auto& c : commands_)

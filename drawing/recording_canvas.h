@@ -19,16 +19,17 @@ struct Command {
     Gradient,
     Text,
     Image,
-    Shadow
+    Shadow,
+    PathShadow
   };
   Kind kind = Kind::Clear;
   Rect rect;  // clear, fill rect, ellipse, text and image
-  Path path;  // fill, stroke, and the clip of a gradient
+  Path path;  // fill, stroke, path shadow, and the clip of a gradient
   Color color;
   double width = 0;
   std::vector<double> dash;
-  FillRule rule = FillRule::Winding;
-  Point from, to;  // gradient
+  FillRule rule = FillRule::Winding;  // fill and path shadow
+  Point from, to;                     // gradient
   std::vector<GradientStop> stops;
   Shadow shadow;
   std::string text;  // text, and the file of an image
@@ -48,6 +49,7 @@ class RecordingCanvas : public Canvas {
   void drawText(std::string_view text, Rect r, Font f, Color c, Align a) override;
   void drawImage(const std::string& file, Rect r) override;
   void fillShadow(Rect r, Shadow s) override;
+  void fillPathShadow(const Path& p, FillRule rule, Shadow s) override;
 
   const std::vector<Command>& commands() const { return commands_; }
   // The commands of one kind, in the order drawn.

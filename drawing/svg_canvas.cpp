@@ -23,6 +23,10 @@ void appendPath(std::string& out, const Path& p) {
   out += '"';
 }
 
+void appendFillRule(std::string& out, FillRule rule) {
+  if (rule == FillRule::EvenOdd) out += " fill-rule=\"evenodd\"";
+}
+
 const char* textAnchor(Align a) {
   switch (a) {
     case Align::Center:
@@ -100,7 +104,7 @@ void SvgCanvas::fillRect(Rect r, Color c) {
 void SvgCanvas::fillPath(const Path& p, Color c, FillRule rule) {
   appendPath(body_, p);
   appendPaint(body_, "fill", "fill-opacity", c);
-  if (rule == FillRule::EvenOdd) body_ += " fill-rule=\"evenodd\"";
+  appendFillRule(body_, rule);
   body_ += "/>";
 }
 
@@ -195,14 +199,36 @@ void SvgCanvas::drawImage(const std::string& file, Rect r) {
   body_ += "\"/>";
 }
 
-void SvgCanvas::fillShadow(Rect r, Shadow s) {
-  const std::string blur = nextId('s');
-  defs_ += "<filter id=\"" + blur + "\"><feGaussianBlur";
-  appendAttribute(defs_, "stdDeviation", s.blur / 2);
+// A Gaussian blur whose region is the whole document, so that no blur is cut at the edges of
+// the shape; returns its id.
+std::string SvgCanvas::blurFilter(double blur) {
+  const std::string id = nextId('s');
+  appendBox(defs_, "filter", {0, 0, size_.w, size_.h});
+  defs_ += " id=\"" + id + "\" filterUnits=\"userSpaceOnUse\"><feGaussianBlur";
+  appendAttribute(defs_, "stdDeviation", blur / 2);
   defs_ += "/></filter>";
+  return id;
+}
+
+void SvgCanvas::fillShadow(Rect r, Shadow s) {
+  const std::string blur = blurFilter(s.blur);
   appendBox(body_, "rect", {r.x + s.offset.x, r.y + s.offset.y, r.w, r.h});
   appendPaint(body_, "fill", "fill-opacity", s.color);
   body_ += " filter=\"url(#" + blur + ")\"/>";
+}
+
+// The group carries the filter in the document's units; the path inside is moved by the offset.
+void SvgCanvas::fillPathShadow(const Path& p, FillRule rule, Shadow s) {
+  body_ += "<g filter=\"url(#" + blurFilter(s.blur) + ")\">";
+  appendPath(body_, p);
+  body_ += " transform=\"translate(";
+  svg::appendNumber(body_, s.offset.x);
+  body_ += ' ';
+  svg::appendNumber(body_, s.offset.y);
+  body_ += ")\"";
+  appendPaint(body_, "fill", "fill-opacity", s.color);
+  appendFillRule(body_, rule);
+  body_ += "/></g>";
 }
 
 std::string SvgCanvas::document() const {

@@ -23,12 +23,14 @@ class SvgCanvas : public Canvas {
   void drawText(std::string_view text, Rect r, Font f, Color c, Align a) override;
   void drawImage(const std::string& file, Rect r) override;
   void fillShadow(Rect r, Shadow s) override;
+  void fillPathShadow(const Path& p, FillRule rule, Shadow s) override;
 
   // The whole document of what has been painted so far.
   std::string document() const;
 
  private:
   std::string nextId(char kind);
+  std::string blurFilter(double blur);
 
   Size size_;
   std::string defs_;

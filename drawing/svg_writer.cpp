@@ -21,26 +21,29 @@ Point onCircle(Point centre, double radius, double angle) {
 }
 
 // An arc as the cairo back end draws it: a line from the current point to its start (a move
-// when there is none), then clockwise from start to end, the end first brought past the start.
-// SVG cannot draw a whole circle in one arc command, so it goes in pieces of at most a half.
+// when there is none), then clockwise from start to end, the end first brought past the start;
+// a negative arc the other way round. SVG cannot draw a whole circle in one arc command, so it
+// goes in pieces of at most a half.
 void appendArc(std::string& out, const Path::Op& op, bool hasCurrent) {
   constexpr double kTurn = 2 * std::numbers::pi;
-  double sweep = std::isfinite(op.start) && std::isfinite(op.end) ? op.end - op.start : 0;
+  const bool clockwise = op.kind == Path::Kind::Arc;
+  const double direction = clockwise ? 1 : -1;
+  double sweep =
+      std::isfinite(op.start) && std::isfinite(op.end) ? (op.end - op.start) * direction : 0;
   if (sweep < 0) sweep = std::fmod(sweep, kTurn) + kTurn;
-  const double end = op.start + std::min(sweep, kTurn);
+  sweep = std::min(sweep, kTurn);
   appendPoint(out, hasCurrent ? 'L' : 'M', onCircle(op.to, op.radius, op.start));
-  for (double from = op.start; from < end;) {
-    const double to = std::min(end, from + kTurn / 2);
-    const Point at = onCircle(op.to, op.radius, to);
+  for (double done = 0; done < sweep;) {
+    done = std::min(sweep, done + kTurn / 2);
+    const Point at = onCircle(op.to, op.radius, op.start + direction * done);
     out += 'A';
     appendNumber(out, op.radius);
     out += ' ';
     appendNumber(out, op.radius);
-    out += " 0 0 1 ";
+    out += clockwise ? " 0 0 1 " : " 0 0 0 ";
     appendNumber(out, at.x);
     out += ' ';
     appendNumber(out, at.y);
-    from = to;
   }
 }
 
@@ -121,6 +124,7 @@ void appendPathData(std::string& out, const Path& p) {
         appendPoint(out, hasCurrent ? 'L' : 'M', op.to);
         break;
       case Path::Kind::Arc:
+      case Path::Kind::ArcNegative:
         appendArc(out, op, hasCurrent);
         break;
       case Path::Kind::Close:

@@ -133,7 +133,7 @@ TEST(Chart, TypeNineDrawsARingInThePlot) {
   ASSERT_EQ(rings.size(), 3u);
   // Centred in the plot {30, 36, 260, 124}; R = (124 - 20z) / 2 with z = s = 2.
   EXPECT_EQ(rings[1].path.ops()[0].to, (draw::Point{160, 98}));
-  EXPECT_DOUBLE_EQ(rings[1].path.ops()[1].radius, 42);
+  EXPECT_DOUBLE_EQ(rings[1].path.ops()[0].radius, 42);
   int percentTexts = 0;
   for (const auto& t : c.ofKind(Kind::Text)) percentTexts += t.text.ends_with("%");
   EXPECT_EQ(percentTexts, 1);

@@ -35,12 +35,12 @@ TEST(RingChart, SlicesShadowAndShareLabels) {
   EXPECT_EQ(fills[0].color, (draw::Color{0, 0, 0, 0.2}));
   EXPECT_EQ(fills[0].rule, draw::FillRule::EvenOdd);
   // The shadow ring stands 2z right and down; radius (120 - 20) / 2, inner a third of it.
-  EXPECT_EQ(fills[0].path.ops()[1].to, (draw::Point{112, 62}));
-  EXPECT_DOUBLE_EQ(fills[0].path.ops()[1].radius, 50);
-  EXPECT_DOUBLE_EQ(fills[0].path.ops()[4].radius, 50.0 / 3);
+  EXPECT_EQ(fills[0].path.ops()[0].to, (draw::Point{112, 62}));
+  EXPECT_DOUBLE_EQ(fills[0].path.ops()[0].radius, 50);
+  EXPECT_DOUBLE_EQ(fills[0].path.ops()[1].radius, 50.0 / 3);
   EXPECT_EQ(fills[1].color, nextColor(1));
   EXPECT_EQ(fills[2].color, nextColor(2));
-  EXPECT_NEAR(fills[1].path.ops()[1].end, 0.01 * 2 * M_PI, 1e-12);
+  EXPECT_NEAR(fills[1].path.ops()[0].end, 0.01 * 2 * M_PI, 1e-12);
 
   const auto texts = c.ofKind(Command::Kind::Text);
   ASSERT_EQ(texts.size(), 1u);

@@ -201,5 +201,24 @@ TEST(SvgCanvas, ArcsImagesAndClearing) {
   EXPECT_EQ(std::string(bytes->begin(), bytes->end()), *png);
 }
 
+TEST(SvgCanvas, PathShadowIsTheMovedPathUnderABlur) {
+  SvgCanvas c({60, 40});
+  const Path ring = Path().addCircle({20, 20}, 10).addCircle({20, 20}, 5);
+  c.fillPathShadow(ring, FillRule::EvenOdd, {{0, 0, 0, 0.4}, {3, 2}, 5});
+  const auto all = parseElements(c.document());
+  const Element filter = named(all, "filter").at(0);
+  // The filter covers the whole drawing, so that the blur is never cut at the shape's box.
+  EXPECT_EQ(filter.at("filterUnits"), "userSpaceOnUse");
+  EXPECT_EQ(filter.at("width"), "60");
+  EXPECT_EQ(filter.at("height"), "40");
+  EXPECT_EQ(named(all, "feGaussianBlur").at(0).at("stdDeviation"), "2.5");
+  EXPECT_EQ(named(all, "g").at(0).at("filter"), "url(#" + filter.at("id") + ")");
+  const Element path = named(all, "path").at(0);
+  EXPECT_EQ(path.at("transform"), "translate(3 2)");
+  EXPECT_EQ(path.at("fill-rule"), "evenodd");
+  EXPECT_EQ(path.at("fill-opacity"), "0.4");
+  EXPECT_EQ(path.at("d").find("M30 20"), 0u);
+}
+
 }  // namespace
 }  // namespace lad::draw

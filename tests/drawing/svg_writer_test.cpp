@@ -46,6 +46,14 @@ TEST(SvgWriter, ArcsGoClockwiseFromTheCurrentPoint) {
   appendPathData(out, Path().arc({0, 0}, 1, std::numbers::pi / 2, 0));
   EXPECT_EQ(out, "M0 1A1 1 0 0 1 0 -1A1 1 0 0 1 1 0");
 
+  // A negative arc goes counter-clockwise, its end brought before the start.
+  out.clear();
+  appendPathData(out, Path().arcNegative({0, 0}, 1, 0, std::numbers::pi / 2));
+  EXPECT_EQ(out, "M1 0A1 1 0 0 0 -1 0A1 1 0 0 0 0 1");
+  out.clear();
+  appendPathData(out, Path().moveTo({0, 0}).arcNegative({10, 10}, 5, std::numbers::pi / 2, 0));
+  EXPECT_EQ(out, "M0 0L10 15A5 5 0 0 0 15 10");
+
   // Angles that are not numbers draw no arc and never hang.
   out.clear();
   appendPathData(out, Path().arc({0, 0}, 1, 0, std::numeric_limits<double>::infinity()));

@@ -1,0 +1,12 @@
+#include "charts/preg_graph.h"
+
+#include "charts/preg_parts.h"
+
+namespace lad::charts {
+
+double drawWomanChart(draw::Canvas& c, draw::Rect r, const PregGraphStyle& style) {
+  const double wheel = drawPregWheel(c, r, style);
+  return wheel + drawPregList(c, {r.x, r.y + wheel, r.w, r.h - wheel}, style);
+}
+
+}  // namespace lad::charts

@@ -1,0 +1,201 @@
+#include "charts/preg_graph.h"
+
+#include <gtest/gtest.h>
+
+#include <algorithm>
+#include <cmath>
+#include <filesystem>
+#include <fstream>
+#include <numbers>
+
+#include "charts/progress_graph.h"
+#include "drawing/recording_canvas.h"
+#include "drawing/render.h"
+#include "tests/support/test_files.h"
+#include "tests/support/translation_table.h"
+
+namespace lad::charts {
+namespace {
+
+using Kind = draw::Command::Kind;
+constexpr draw::Color kOrange{1, 0.5, 0, 1};
+constexpr draw::Color kInk{0.2, 0.1, 0.1, 1};
+
+PregGraphStyle style(const Translator& t, int curweek, double s, bool darkHeader = true) {
+  return {t, curweek, s, kInk, darkHeader, LADANEYA_IMAGES_DIR};
+}
+
+struct Drawn {
+  draw::RecordingCanvas canvas;
+  double height = 0;
+};
+
+Drawn drawWheel(const PregGraphStyle& st, draw::Rect r = {0, 0, 320, 2000}) {
+  Drawn d;
+  d.height = drawWomanChart(d.canvas, r, st);
+  return d;
+}
+
+// The centre of a circle made by Path::addCircle.
+draw::Point circleCentre(const draw::Command& c) {
+  return c.path.ops().at(1).to;
+}
+
+TEST(PregGraph, WeeksOfTheTypes) {
+  const struct {
+    int week, type;
+    bool holds;
+  } cases[] = {{4, 1, false},  {5, 1, true},   {13, 1, false}, {33, 1, true},
+               {23, 2, false}, {25, 2, false}, {26, 2, true},  {40, 5, true},
+               {41, 5, false}, {34, 12, true}, {33, 12, false}};
+  for (const auto& c : cases)
+    EXPECT_EQ(isWomanTypeInWeek(c.week, c.type), c.holds) << c.week << ", " << c.type;
+  for (int week = -1; week <= 42; ++week)
+    for (int type : {0, 13, -1})
+      EXPECT_FALSE(isWomanTypeInWeek(week, type)) << week << ", " << type;
+}
+
+TEST(PregGraph, FifthWeekRingsItsNumberAndLightsItsRows) {
+  const Translator russian;
+  const auto d = drawWheel(style(russian, 5, 1));
+  std::vector<draw::Command> rings;
+  for (const auto& c : d.canvas.ofKind(Kind::StrokePath))
+    if (c.color == kOrange) rings.push_back(c);
+  ASSERT_EQ(rings.size(), 5u) << "the week on the wheel and four rows";
+
+  // The first "5" drawn is the number on the wheel, white on its dot.
+  const auto texts = d.canvas.ofKind(Kind::Text);
+  const auto five = std::ranges::find(texts, std::string("5"), &draw::Command::text);
+  ASSERT_NE(five, texts.end());
+  EXPECT_EQ(five->color, (draw::Color{1, 1, 1, 1}));
+  EXPECT_NEAR(circleCentre(rings[0]).x, five->rect.centre().x, 1e-9);
+  EXPECT_NEAR(circleCentre(rings[0]).y, five->rect.centre().y, 1e-9);
+  EXPECT_DOUBLE_EQ(rings[0].width, 2);
+  // The dots of weeks 5, 7 and 10 on the wheel: paler for the weeks to come.
+  const auto dots = d.canvas.ofKind(Kind::FillEllipse);
+  ASSERT_GE(dots.size(), 3u);
+  EXPECT_EQ(dots[0].color, (draw::Color{0, 0.6, 0, 1}));
+  EXPECT_EQ(dots[1].color, (draw::Color{0, 0.6, 0, 0.4}));
+  EXPECT_EQ(dots[2].color, (draw::Color{0, 0.6, 0, 0.4}));
+
+  // Rows 2, 8, 9 and 10 (counted from 1) carry the ring beside their text and show in full.
+  const auto rows = pregListRows();
+  std::size_t lit = 1;
+  for (std::size_t i = 0; i < rows.size(); ++i) {
+    const auto text = std::ranges::find(texts, std::string(rows[i].text), &draw::Command::text);
+    ASSERT_NE(text, texts.end()) << rows[i].text;
+    const bool isLit = i == 1 || (i >= 7 && i <= 9);
+    const double alpha = rows[i].kind == PregListRow::Kind::Header ? 0.8 : isLit ? 1 : 0.6;
+    EXPECT_EQ(text->color, kInk.withAlpha(alpha)) << rows[i].text;
+    EXPECT_DOUBLE_EQ(text->font.size, rows[i].kind == PregListRow::Kind::Header ? 17 : 12);
+    if (!isLit) continue;
+    ASSERT_LT(lit, rings.size());
+    const draw::Point ring = circleCentre(rings[lit++]);
+    EXPECT_LT(ring.x, text->rect.x);
+    EXPECT_TRUE(ring.y > text->rect.y && ring.y < text->rect.bottom()) << rows[i].text;
+  }
+}
+
+TEST(PregGraph, SectorsAreColouredInTheirWeeksAndPalerToCome) {
+  const Translator russian;
+  const double s = 2;
+  const auto d = drawWheel(style(russian, 20, s), {0, 0, 640, 4000});
+  const auto shadows = d.canvas.ofKind(Kind::PathShadow);
+  ASSERT_EQ(shadows.size(), 1u);
+  EXPECT_EQ(shadows[0].shadow.offset, (draw::Point{3 * s, 3 * s}));
+  EXPECT_DOUBLE_EQ(shadows[0].shadow.blur, 5 * s);
+  EXPECT_EQ(shadows[0].rule, draw::FillRule::EvenOdd);
+
+  const auto fills = d.canvas.ofKind(Kind::FillPath);
+  ASSERT_EQ(fills.size(), 1u + 40 * 12) << "the white ring, then 12 rings in 40 weeks";
+  EXPECT_EQ(fills[0].color, (draw::Color{1, 1, 1, 1}));
+  EXPECT_EQ(fills[0].path, shadows[0].path);
+  // Week by week, the rings in the list's order: types 11, 12, then 1 to 10.
+  const auto arc = [&](int week, int ring) -> const draw::Command& {
+    return fills.at(1 + (week - 1) * 12 + ring);
+  };
+  const draw::Color grey{0.9, 0.9, 0.9, 1};
+  EXPECT_EQ(arc(10, 2).color, (draw::Color{0.9, 0, 0, 1}));  // nausea, in the past
+  EXPECT_EQ(arc(10, 0).color, grey);
+  EXPECT_EQ(arc(20, 0).color, (draw::Color{0, 0.5, 0, 1}));  // the present week in full
+  EXPECT_EQ(arc(30, 0).color, (draw::Color{0, 0.5, 0, 0.35}));
+  EXPECT_EQ(arc(30, 2).color, grey.withAlpha(0.35));
+  // Forty equal shares, the first from the top; outer rings lie outside inner ones.
+  const double sector = 2 * std::numbers::pi / 40;
+  const auto& first = arc(1, 0).path.ops()[0];
+  const auto& later = arc(11, 0).path.ops()[0];
+  EXPECT_NEAR(later.start - first.start, 10 * sector, 1e-9);
+  EXPECT_NEAR((first.start + first.end) / 2, -std::numbers::pi / 2 + sector / 2, 1e-9);
+  EXPECT_GT(arc(1, 0).path.ops()[1].radius, arc(1, 1).path.ops()[0].radius);
+
+  // The numbers: "20" is the last in the stronger alpha.
+  const auto texts = d.canvas.ofKind(Kind::Text);
+  EXPECT_EQ(std::ranges::find(texts, std::string("20"), &draw::Command::text)->color,
+            kInk.withAlpha(0.9));
+  EXPECT_EQ(std::ranges::find(texts, std::string("21"), &draw::Command::text)->color,
+            kInk.withAlpha(0.5));
+}
+
+TEST(PregGraph, HeightCoversTheTranslatedListAndItsCap) {
+  testing::TempDir dir;
+  const Translator german =
+      testing::germanTranslator(dir.path() / "t.sqlite", {{"Токсикоз", "Übelkeit"}});
+  const draw::Rect r{10, 30, 320, 2000};
+  const auto dark = drawWheel(style(german, 12, 1), r);
+  const auto bands = dark.canvas.ofKind(Kind::FillRect);
+  ASSERT_EQ(bands.size(), 1u);
+  EXPECT_EQ(bands[0].color, (draw::Color{0, 0, 0, 0.1}));
+  EXPECT_DOUBLE_EQ(bands[0].rect.bottom(), r.y + dark.height);
+  EXPECT_EQ(bands[0].rect.w, r.w);
+  const auto texts = dark.canvas.ofKind(Kind::Text);
+  EXPECT_EQ(std::ranges::count(texts, std::string("Übelkeit"), &draw::Command::text), 1);
+  for (const auto& t : texts) {
+    EXPECT_LE(t.rect.bottom(), bands[0].rect.bottom()) << t.text;
+    EXPECT_LE(t.rect.right(), r.right()) << t.text;
+    EXPECT_GE(t.rect.x, r.x) << t.text;
+  }
+  const auto cap = dark.canvas.ofKind(Kind::Image).at(0);
+  EXPECT_EQ(std::filesystem::path(cap.text).filename(), "cap-down.png");
+  EXPECT_GT(cap.rect.y, texts.back().rect.bottom());
+  EXPECT_LT(cap.rect.bottom(), bands[0].rect.bottom());
+
+  const auto light = drawWheel(style(german, 12, 1, false), r);
+  EXPECT_EQ(light.canvas.ofKind(Kind::FillRect).at(0).color, (draw::Color{1, 1, 1, 0.3}));
+  EXPECT_GT(drawWheel(style(german, 12, 2), {10, 30, 640, 4000}).height, 1.9 * dark.height);
+}
+
+TEST(PregGraph, WheelPictures) {
+  const std::filesystem::path dir = LADANEYA_TEST_OUTPUT_DIR;
+  std::filesystem::create_directories(dir);
+  const Translator russian;
+  for (int week : {5, 30}) {
+    PregGraphStyle st = style(russian, week, 1, week == 5);
+    if (week == 30) st.textColor = {1, 1, 1, 1};
+    const double height = drawWheel(st).height;
+    const auto png = draw::renderPng({320, height}, 2, [&](draw::Canvas& c) {
+      c.fillRect({0, 0, 320, height},
+                 week == 5 ? draw::Color{0.93, 0.88, 0.84, 1} : draw::Color{0.35, 0.3, 0.4, 1});
+      drawWomanChart(c, {0, 0, 320, height}, st);
+    });
+    ASSERT_TRUE(png);
+    const auto file = dir / ("wheel-week" + std::to_string(week) + ".png");
+    std::ofstream(file, std::ios::binary) << *png;
+    EXPECT_GT(std::filesystem::file_size(file), 10000u);
+  }
+}
+
+TEST(ProgressGraph, GreenBarSlidesWithTheDays) {
+  for (int days : {0, 140}) {
+    draw::RecordingCanvas c;
+    drawProgressGraph(c, {5, 7}, days, 2);
+    const auto bars = c.ofKind(Kind::FillRect);
+    ASSERT_EQ(bars.size(), 2u);
+    EXPECT_EQ(bars[0].rect, (draw::Rect{5, 11, 640, 22}));
+    EXPECT_EQ(bars[0].color, kOrange);
+    EXPECT_EQ(bars[1].rect, (draw::Rect{5 + 2 * (days * 6.0 / 7 + 1), 33, 640, 22}));
+    EXPECT_EQ(bars[1].color, (draw::Color{0, 0.7, 0, 1}));
+  }
+}
+
+}  // namespace
+}  // namespace lad::charts
