@@ -11,11 +11,11 @@ namespace lad::shell {
 
 struct DetailForm {
   int parentflag;
-  std::string_view caption;
-  std::string_view msg;  // the first row, a text
-  std::string dat;       // the present value
-  int cotype = 0;        // the dictionary list of a list row
-  bool edit = false;     // the list row may add entries
+  std::string caption;
+  std::string msg;    // the first row, a text
+  std::string dat;    // the present value
+  int cotype = 0;     // the dictionary list of a list row
+  bool edit = false;  // the list row may add entries
 };
 
 // The field of the button under a list that adds an entry to its dictionary.

@@ -90,7 +90,10 @@ TEST_F(DiaryTest, ADayRecordedInTheEditorIsListedUnderItsWeekAndFoundBySearch) {
   ASSERT_TRUE(change(*s, rowTarget(*s, "ne-weight.png", "day:number:"), Value("60,5")).ok());
 
   ASSERT_TRUE(tap(*s, rowTarget(*s, "ne-notepad.png")).ok());
-  ASSERT_EQ(s->view()["kind"].text(), "editor");
+  const Value form = s->view();
+  ASSERT_EQ(form["kind"].text(), "editor");
+  EXPECT_EQ(form["caption"].text(), "Заметки");
+  EXPECT_EQ((*form["rows"].asList())[0]["caption"].text(), "Введите текст заметки");
   ASSERT_TRUE(change(*s, "field:text", Value("Первое шевеление")).ok());
   ASSERT_TRUE(tap(*s, "editor:ok").ok());
 
