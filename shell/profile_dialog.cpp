@@ -47,11 +47,7 @@ List settingsRows(const Context& c, bool existing) {
       detailRow(c, kTextInput, "Имя малыша", "name"),
       detailRow(c, kPhoto, "", "photo"),
   };
-  if (existing) {
-    Value remove = detailRow(c, kButton, "Удалить учетную запись", "remove");
-    remove.asMap()->set("pic", "b-orangeB.png");
-    rows.push_back(std::move(remove));
-  }
+  if (existing) rows.push_back(removalButton(c));
   return rows;
 }
 

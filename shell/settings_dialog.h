@@ -31,9 +31,11 @@ class SettingsDialog {
 
 // What the settings dialogs with a portrait share: the stored portrait among the values the
 // rows start from, a new picture (or none) marked to be written when the dialog is finished,
-// and the question before the profile is removed.
+// and the button and question before the profile is removed.
 void startWithPortrait(const Context& context, Map& values, const std::optional<std::string>& gid);
 void markPortraitChange(FieldEditor& editor, const Value& picture);
+// The last row of an existing profile's dialog: "Удалить учетную запись".
+Value removalButton(const Context& context);
 Question profileRemovalQuestion(const Context& context);
 
 }  // namespace lad::shell

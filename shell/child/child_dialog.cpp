@@ -37,11 +37,7 @@ List childRows(const Context& c, bool existing) {
       listRow(c, "allerg", "Аллергии", 2, 0),
       detailRow(c, kPhoto, "", "photo"),
   };
-  if (existing) {
-    Value remove = detailRow(c, kButton, "Удалить учетную запись", "remove");
-    remove.asMap()->set("pic", "b-orangeB.png");
-    rows.push_back(std::move(remove));
-  }
+  if (existing) rows.push_back(removalButton(c));
   return rows;
 }
 
