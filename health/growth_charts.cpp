@@ -27,15 +27,26 @@ List weekTicks() {
 
 }  // namespace
 
-Map growthChart(const GrowthChartInput& input) {
-  const bool length = input.measure == GrowthMeasure::Length;
+Map titleChart(const std::string& caption, std::optional<int> birthDay, bool darkIcons) {
   Map dic;
   charts::initGraphDic(dic);
-  dic.set("caption", input.caption);
+  dic.set("caption", caption);
   dic.set("isBorders", true);
   dic.set("xAxisMin", 0);
-  dic.set("xAxisMax", std::min(kPregnancyDays, input.birthDay.value_or(kPregnancyDays)));
+  dic.set("xAxisMax", std::min(kPregnancyDays, birthDay.value_or(kPregnancyDays)));
   dic.set("xAxisValue", weekTicks());
+  dic.set("mainColor",
+          charts::colorValue(darkIcons ? draw::Color{0.7, 0, 0, 1} : draw::Color{1, 0.8, 0, 1}));
+  dic.set("backColor", charts::colorValue(darkIcons ? draw::Color{0.6, 0.6, 0.6, 1}
+                                                    : draw::Color{0.5, 0.5, 0.5, 1}));
+  dic.set("textColor",
+          charts::colorValue(darkIcons ? draw::Color{0, 0, 0, 1} : draw::Color{1, 1, 1, 1}));
+  return dic;
+}
+
+Map growthChart(const GrowthChartInput& input) {
+  const bool length = input.measure == GrowthMeasure::Length;
+  Map dic = titleChart(input.caption, input.birthDay, input.darkIcons);
   List curve;
   for (const WeekPoint& p : length ? fillRost() : fillVes())
     charts::addPoint(curve, 7.0 * p.week, p.y, p.label);
@@ -57,13 +68,6 @@ Map growthChart(const GrowthChartInput& input) {
   dic.set("Points", std::move(marks));
   dic.set("yAxisMin", 0);
   dic.set("yAxisMax", top);
-  const bool dark = input.darkIcons;
-  dic.set("mainColor",
-          charts::colorValue(dark ? draw::Color{0.7, 0, 0, 1} : draw::Color{1, 0.8, 0, 1}));
-  dic.set("backColor",
-          charts::colorValue(dark ? draw::Color{0.6, 0.6, 0.6, 1} : draw::Color{0.5, 0.5, 0.5, 1}));
-  dic.set("textColor",
-          charts::colorValue(dark ? draw::Color{0, 0, 0, 1} : draw::Color{1, 1, 1, 1}));
   return dic;
 }
 

@@ -21,6 +21,10 @@ struct GrowthChartInput {
   bool darkIcons = false;
 };
 
+// What the three charts of the title page share: the caption, the axis over 294 days (or up to
+// the birth) with the week at every third week from 4, and the theme's colours.
+Map titleChart(const std::string& caption, std::optional<int> birthDay, bool darkIcons);
+
 // The axis runs over 294 days (or up to the birth) with the week at every third week from 4,
 // and from 0 to 570 mm or 3900 g, raised to the largest measurement; only measurements above
 // 0 are marked.

@@ -2,6 +2,8 @@
 
 #include "charts/chart.h"
 #include "core/menu_table.h"
+#include "drawing/render.h"
+#include "health/development_chart.h"
 #include "health/growth_charts.h"
 #include "health/pregnancy_calendar.h"
 #include "shell/pages.h"
@@ -40,11 +42,21 @@ List TitlePage::growthCharts(const Map& setup) const {
   const std::pair<health::GrowthMeasure, const char*> kinds[] = {
       {health::GrowthMeasure::Length, "Рост (миллиметры)"},
       {health::GrowthMeasure::Weight, "Вес (граммы)"}};
+  const draw::Size size{kChartWidth * scale_, kChartHeight * scale_};
+  const health::DevelopmentInput development{getCurDay(context, setup), birthDay, scale_, dark};
   List charts;
+  charts.push_back(SvgView{"development",
+                           draw::renderSvg(size,
+                                           [&](draw::Canvas& c) {
+                                             health::drawDevelopment(c, {0, 0, size.w, size.h},
+                                                                     context, development,
+                                                                     app_.imagesDir());
+                                           }),
+                           size.w, size.h}
+                       .toValue());
   for (const auto& [measure, caption] : kinds) {
     charts::Chart chart(scale_, app_.imagesDir());
     chart.prepare(health::growthChart({measure, context.translate(caption), uzi, birthDay, dark}));
-    const draw::Size size{kChartWidth * scale_, kChartHeight * scale_};
     const std::string id = measure == health::GrowthMeasure::Length ? "rost" : "ves";
     charts.push_back(SvgView{id, chart.svg(size), size.w, size.h}.toValue());
   }

@@ -1,5 +1,6 @@
-// The summary page of a pregnancy: its week, its state and the trimester it is in, and the
-// baby's length and weight by week with the ultrasound measurements. The page is built anew
+// The summary page of a pregnancy: its week, its state and the trimester it is in, the picture
+// of the baby's growth with today's size, and the baby's length and weight by week with the
+// ultrasound measurements. The page is built anew
 // when the diary changes, so its charts are drawn once per change.
 #pragma once
 

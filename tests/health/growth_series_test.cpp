@@ -2,8 +2,13 @@
 
 #include <gtest/gtest.h>
 
+#include <filesystem>
+#include <fstream>
+
 #include "core/ids.h"
+#include "drawing/image_size.h"
 #include "health/growth_charts.h"
+#include "health/weight_chart.h"
 #include "store/records.h"
 #include "store/store.h"
 #include "tests/store/day_fixture.h"
@@ -115,6 +120,51 @@ TEST_F(GrowthSeriesTest, TheOwnGainStartsAtTheBaseOrTheFirstRecordAndSkipsWhatDo
   EXPECT_EQ(uzi[0].rost, "45.0");
   EXPECT_EQ(uzi[0].ves, "12.0");
   EXPECT_EQ(uzi[1].rost, "0.0");
+}
+
+TEST_F(GrowthSeriesTest, TheWeightChartDrawsTheNormAndTheGainUpToDay294) {
+  record("2026-02-11", "ves", "61.000");  // day 10, below the weight before
+  record("2026-11-22", "ves", "70.000");  // day 294
+  record("2026-11-23", "ves", "90.000");  // day 295: not drawn, yet it raises the axis
+  Map average = setup("62");
+  average.set("bodytype", 2);
+  const Map chart = weightChart(*store, kPregnancy, average, 2);
+  const List& norm = *chart["Graph1"].asList();
+  ASSERT_EQ(norm.size(), 22u);
+  EXPECT_EQ(norm[21]["x"].doubleValue(), 294) << "week 42 in days";
+  const List& own = *chart["Graph2"].asList();
+  ASSERT_EQ(own.size(), 2u);
+  EXPECT_EQ(own[0]["x"].doubleValue(), 10);
+  EXPECT_EQ(own[1]["x"].doubleValue(), 294);
+  EXPECT_DOUBLE_EQ(chart["yAxisMin"].doubleValue(), -1) << "a loss lowers the axis";
+  EXPECT_DOUBLE_EQ(chart["yAxisMax"].doubleValue(), 14.2) << "the norm's top is above her gain";
+  std::string labels;
+  for (const Value& tick : *chart["xAxisValue"].asList()) labels += tick["label"].text() + ",";
+  EXPECT_EQ(labels.substr(0, 12), "0,,2,,4,,6,,") << "the even weeks are labelled";
+
+  Map unknownBuild = setup("0");
+  const Map onlyOwn = weightChart(*store, kPregnancy, unknownBuild, 2);
+  EXPECT_TRUE(onlyOwn["Graph1"].asList()->empty()) << "no norm without a build";
+  EXPECT_EQ(onlyOwn["yAxisMin"].doubleValue(), 0) << "the first record is the base";
+  EXPECT_DOUBLE_EQ(onlyOwn["yAxisMax"].doubleValue(), 9);
+}
+
+TEST_F(GrowthSeriesTest, TheBooksWeightPageIsAPictureOfTheAskedSize) {
+  for (const auto& [day, ves] : {std::pair{"2026-03-01", "60.000"},
+                                 {"2026-05-01", "62.500"},
+                                 {"2026-07-01", "66.000"},
+                                 {"2026-09-01", "70.500"}})
+    record(day, "ves", ves);
+  // A page of the book at 300 dots an inch is thousands of units wide: the chart's zoom is 5.
+  const auto png = bookPageGraph(*store, kPregnancy, {2400, 1600}, 0.5, LADANEYA_IMAGES_DIR);
+  ASSERT_TRUE(png);
+  const auto dir = std::filesystem::path(LADANEYA_TEST_OUTPUT_DIR);
+  std::filesystem::create_directories(dir);
+  std::ofstream(dir / "weight_chart.png", std::ios::binary) << *png;
+  const auto size = draw::pngSize((dir / "weight_chart.png").string());
+  ASSERT_TRUE(size);
+  EXPECT_EQ(size->w, 1200);
+  EXPECT_EQ(size->h, 800);
 }
 
 }  // namespace

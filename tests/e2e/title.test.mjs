@@ -1,0 +1,120 @@
+// Browser test of a pregnancy's title page: a pregnancy begun 200 days ago with an ultrasound
+// measurement written in the day editor shows the picture of the baby's growth with today's size
+// and the length and weight charts, each with the measurement's mark. Screenshots of the page at
+// phone and tablet size.
+//   node tests/e2e/title.test.mjs --server PATH_TO_SERVER --out SCREENSHOT_DIR
+import assert from 'node:assert/strict';
+import path from 'node:path';
+import { TABLET, openPastGreeting, pickOnWheels, runBrowserTest } from './harness.mjs';
+
+const NAME = 'Ульяна';
+const MONTHS = [
+  'января',
+  'февраля',
+  'марта',
+  'апреля',
+  'мая',
+  'июня',
+  'июля',
+  'августа',
+  'сентября',
+  'октября',
+  'ноября',
+  'декабря',
+];
+
+/** "Новая беременность" with its first day `daysAgo` days before today, opened under its card. */
+async function createPregnancy(page, daysAgo) {
+  const first = new Date(Date.now() - daysAgo * 86400000);
+  await page.tap('[data-id="menu:31"]');
+  await page.waitForSelector('.editor');
+  await pickOnWheels(page, 'field:sdat1', [
+    String(first.getDate()),
+    MONTHS[first.getMonth()],
+    String(first.getFullYear()),
+  ]);
+  await page.fill('input[data-field="field:name"]', NAME);
+  await page.locator('input[data-field="field:name"]').blur();
+  await page.tap('button[data-id="editor:ok"]');
+  await page.waitForSelector('.editor', { state: 'detached' });
+  await openCard(page);
+}
+
+/** The new pregnancy's card, opened. */
+async function openCard(page) {
+  await page.locator('.card', { hasText: NAME }).tap();
+  await page.waitForSelector('.card.open');
+}
+
+/** Slides the nth ruler of the open form until its needle stands on the value. */
+async function slideTo(page, nth, value) {
+  await page.evaluate(
+    ([n, v]) => {
+      const ruler = document.querySelectorAll('.editor .scale-ruler')[n];
+      const min = Number(ruler.getAttribute('aria-valuemin'));
+      const step = v.includes('.') && v.split('.')[1].length === 3 ? 0.01 : 0.1;
+      ruler.scrollLeft = Math.round((Number(v) - min) / step) * 8;
+    },
+    [nth, value],
+  );
+  await page.waitForFunction(
+    ([n, v]) => document.querySelectorAll('.editor .scale-value')[n]?.textContent === v,
+    [nth, value],
+  );
+  // The value goes out once the ruler has come to rest (250 ms), and its answer is drawn.
+  await page.waitForTimeout(400);
+  await page.waitForFunction(() => !document.getElementById('app')?.classList.contains('busy'));
+}
+
+/** Today's day with an ultrasound of 35 cm and 1.5 kg, saved. */
+async function recordUltrasound(page) {
+  await page.tap('[data-id="menu:8"]');
+  await page.waitForSelector('.diary .day-cell, .diary-message');
+  await page.tap('.diary-add');
+  await page.waitForSelector('.day-editor');
+  await page.tap('.day-field:has(img[src$="/ne-uzi128.png"])');
+  await page.waitForSelector('.editor .scale-ruler');
+  await slideTo(page, 0, '35.0');
+  await slideTo(page, 1, '1.500');
+  await page.tap('.editor-ok');
+  await page.waitForSelector('.day-field:has(img[src$="/ne-uzi128.png"]) .day-row-text');
+  await page.tap('.day-editor .editor-ok');
+  await page.waitForSelector('.diary .day-cell.today');
+}
+
+/** The title page's charts by id, with the texts of each. */
+async function chartTexts(page) {
+  await page.waitForFunction(() => document.querySelectorAll('.ring-page svg').length >= 3);
+  return page.$$eval('.ring-page svg', (svgs) =>
+    svgs.map((svg) => [...svg.querySelectorAll('text')].map((t) => t.textContent).join('|')),
+  );
+}
+
+await runBrowserTest('title', async ({ browser, base, outDir }) => {
+  const { context, page, errors } = await openPastGreeting(browser, base);
+  await createPregnancy(page, 200);
+  await recordUltrasound(page);
+  await page.tap('.ring-page .to-menu');
+  await page.waitForSelector('.ring', { state: 'detached' });
+  await page.tap('[data-id="menu:3"]');
+  const [development, length, weight] = await chartTexts(page);
+  assert.match(development, /Развитие плода/);
+  assert.match(development, /\d+\.\d гр\.\d+\.\d мм\./, "today's size beside the balloon");
+  assert.match(length, /Рост \(миллиметры\)/);
+  assert.match(length, /\|350\.0/, 'the ultrasound length in millimetres');
+  assert.match(weight, /Вес \(граммы\)/);
+  assert.match(weight, /\|1500\.0/, 'the ultrasound weight in grams');
+  await page.screenshot({ path: path.join(outDir, 'title-page.png'), fullPage: true });
+  assert.deepEqual(errors, []);
+  await context.close();
+
+  const tablet = await openPastGreeting(browser, base, { device: TABLET });
+  await openCard(tablet.page);
+  await tablet.page.tap('[data-id="menu:3"]');
+  await chartTexts(tablet.page);
+  await tablet.page.screenshot({
+    path: path.join(outDir, 'title-page-tablet.png'),
+    fullPage: true,
+  });
+  await tablet.context.close();
+});
