@@ -8,7 +8,7 @@
 
 namespace lad::draw {
 
-// nullopt when the file cannot be read as PNG.
+// Read from the file's header; nullopt when it is not a PNG.
 std::optional<Size> pngSize(const std::string& file);
 
 }  // namespace lad::draw
