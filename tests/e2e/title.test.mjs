@@ -61,9 +61,6 @@ async function slideTo(page, nth, value) {
     ([n, v]) => document.querySelectorAll('.editor .scale-value')[n]?.textContent === v,
     [nth, value],
   );
-  // The value goes out once the ruler has come to rest (250 ms), and its answer is drawn.
-  await page.waitForTimeout(400);
-  await page.waitForFunction(() => !document.getElementById('app')?.classList.contains('busy'));
 }
 
 /** Today's day with an ultrasound of 35 cm and 1.5 kg, saved. */
@@ -74,10 +71,19 @@ async function recordUltrasound(page) {
   await page.waitForSelector('.day-editor');
   await page.tap('.day-field:has(img[src$="/ne-uzi128.png"])');
   await page.waitForSelector('.editor .scale-ruler');
+  // The second ruler moves while the answer to the first one's value redraws the form: it
+  // keeps its place and sends its value all the same.
   await slideTo(page, 0, '35.0');
   await slideTo(page, 1, '1.500');
+  await page.waitForTimeout(700);
+  await page.waitForFunction(() => !document.getElementById('app')?.classList.contains('busy'));
   await page.tap('.editor-ok');
-  await page.waitForSelector('.day-field:has(img[src$="/ne-uzi128.png"]) .day-row-text');
+  await page.waitForFunction(() =>
+    /35\.0.*1\.5/s.test(
+      document.querySelector('.day-field:has(img[src$="/ne-uzi128.png"]) .day-row-text')
+        ?.textContent ?? '',
+    ),
+  );
   await page.tap('.day-editor .editor-ok');
   await page.waitForSelector('.diary .day-cell.today');
 }

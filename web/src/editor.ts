@@ -35,12 +35,27 @@ export function carryUnsentInputs(shown: ParentNode, next: ParentNode): () => vo
     }
     if (document.activeElement === input) refocus = keepCaret(input, redrawn);
   }
+  carryMovedRulers(shown, next);
   return () => {
     // Read once the old inputs are off the page: taking the one in use away may have sent it.
     for (const [from, to] of carried)
       if (from.dataset.sent !== undefined) to.dataset.sent = from.dataset.sent;
     refocus();
   };
+}
+
+/**
+ * A ruler moved but not yet at rest has not sent its value: the redrawn one starts where the
+ * finger left it, and sends the value once it comes to rest.
+ */
+function carryMovedRulers(shown: ParentNode, next: ParentNode): void {
+  for (const ruler of shown.querySelectorAll<HTMLElement>('.scale-ruler[data-moved]')) {
+    const field = ruler.dataset.field;
+    const redrawn = field
+      ? next.querySelector<HTMLElement>(`.scale-ruler[data-field="${CSS.escape(field)}"]`)
+      : null;
+    if (redrawn) redrawn.dataset.carried = String(ruler.scrollLeft);
+  }
 }
 
 function keepCaret(from: Typed, to: Typed): () => void {
@@ -341,8 +356,13 @@ function scaleRuler(row: EditorRow): HTMLElement {
     ruler.setAttribute('aria-valuenow', v.toFixed(digits));
   };
   const start = Number(sourceText(row)) > 0 ? Number(sourceText(row)) : min;
+  // Where the ruler was placed when drawn: only a move away from it is the user's.
+  let placedAt = -1;
   requestAnimationFrame(() => {
-    ruler.scrollLeft = ((start - min) / step) * tick;
+    const carried = ruler.dataset.carried;
+    ruler.scrollLeft = carried !== undefined ? Number(carried) : ((start - min) / step) * tick;
+    if (carried === undefined) placedAt = ruler.scrollLeft;
+    else ruler.dataset.moved = '';
     showValue();
   });
   ruler.addEventListener('scroll', showValue);
@@ -351,7 +371,9 @@ function scaleRuler(row: EditorRow): HTMLElement {
   let settled = sourceText(row);
   ruler.addEventListener('scroll', () => {
     window.clearTimeout(rest);
+    if (ruler.scrollLeft !== placedAt) ruler.dataset.moved = '';
     rest = window.setTimeout(() => {
+      delete ruler.dataset.moved;
       const v = valueAt();
       const now = v > 0 ? v.toFixed(digits) : '';
       if (now === settled) return;
