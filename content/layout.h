@@ -11,6 +11,7 @@
 
 #include "content/record.h"
 #include "content/ticks.h"
+#include "core/context.h"
 #include "core/dates.h"
 #include "drawing/geometry.h"
 
@@ -27,7 +28,8 @@ struct Row {
   std::string text;  // what is shown; a button's title
   double fontSize = 0;
   ColorRole color = ColorRole::None;
-  double textX = 0, textY = 0, textWidth = 0;
+  // Where the text starts; the width of the text, or of a picture or button row.
+  double textX = 0, textY = 0, width = 0;
   std::string pic, bigpic;
   int linkid = 0;
   int weblink = 0;        // 1-based index into the web links; 0: none
@@ -84,6 +86,9 @@ struct LayoutTools {
   ImageSize imageSize;               // empty: pictures of kind 6 have no height
   Translate translate;               // empty: plain texts stay untranslated
 };
+
+// Dates and translation of the installation; measurement with the browser's font.
+LayoutTools contextTools(const Context& context);
 
 TextLayout layoutPlain(const PlainText& text, const LayoutSettings& settings,
                        const GroupFilter& filter, const LayoutTools& tools);

@@ -58,10 +58,4 @@ int specialPartial(int n) {
   return n < 3 ? 0 : n - 3;
 }
 
-std::string hiddenText(const TextLayout& layout, std::string_view guid) {
-  for (const HiddenText& h : layout.hidden)
-    if (h.guid == guid) return h.text;
-  return "";
-}
-
 }  // namespace lad::content

@@ -41,7 +41,11 @@ double browserMeasure(std::string_view text, double size, double width) {
 
 RowBuilder::RowBuilder(const LayoutSettings& settings, const GroupFilter& filter,
                        const LayoutTools& tools)
-    : settings_(settings), filter_(filter), tools_(tools), y_(settings.top) {}
+    : settings_(settings),
+      filter_(filter),
+      tools_(tools),
+      measure_(tools.measure ? tools.measure : Measure(browserMeasure)),
+      y_(settings.top) {}
 
 Row& RowBuilder::push(RowKind kind, const Record* r, int group) {
   Row row;
@@ -78,9 +82,8 @@ void RowBuilder::placeText(Row& row, const Record& r) {
   const double left = !r.bigpic.empty() ? kBigPicPart : smallPic ? kSmallPicPart : 0;
   const double right = row.weblink || r.linkid ? kLinkPart : 0;
   row.textX = kMargins / 2 + left;
-  row.textWidth = std::max(1.0, settings_.columnWidth - kMargins - left - right);
-  const Measure& measure = tools_.measure ? tools_.measure : Measure(browserMeasure);
-  const double textHeight = measure(row.text, row.fontSize, row.textWidth) + 1;
+  row.width = std::max(1.0, settings_.columnWidth - kMargins - left - right);
+  const double textHeight = measure_(row.text, row.fontSize, row.width) + 1;
   const double picture = !r.bigpic.empty() ? kBigPic : smallPic ? kSmallPic : 0;
   const double pad = std::max(0.0, (picture - textHeight) / 2);
   row.textY = row.y + (r.tp == 4 ? 1 : 7) + pad;
@@ -91,7 +94,7 @@ void RowBuilder::addPic(const Record& r, int group) {
   Row& row = push(RowKind::Picture, &r, group);
   row.pic = r.pic;
   const auto size = tools_.imageSize ? tools_.imageSize(r.pic) : std::nullopt;
-  row.textWidth = kPicWidth;
+  row.width = kPicWidth;
   if (size && size->w > 0) row.height = kPicWidth * size->h / size->w;
   y_ = row.y + row.height + kSpacer;
 }
@@ -101,7 +104,7 @@ void RowBuilder::addButton(const Record& r, int group) {
   row.text = r.text;
   row.fontSize = 14;
   row.color = ColorRole::Theme;
-  row.textWidth = kButtonWidth;
+  row.width = kButtonWidth;
   row.height = kButtonHeight;
   y_ = row.y + kButtonStep;
 }

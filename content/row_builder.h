@@ -36,6 +36,7 @@ class RowBuilder {
   const LayoutSettings& settings_;
   const GroupFilter& filter_;
   const LayoutTools& tools_;
+  Measure measure_;
   TextLayout out_;
   double y_;
   bool buttonAbove_ = true, buttonBelow_ = true;

@@ -170,7 +170,7 @@ TEST(Layout, PlacesPicturesLinksButtonsAndTicksOfJson) {
   for (const Row& r : l.rows) {
     ys.push_back(r.y);
     heights.push_back(r.height);
-    widths.push_back(r.textWidth);
+    widths.push_back(r.width);
   }
   EXPECT_EQ(ys, (std::vector<double>{12, 49, 67, 87, 192, 237, 392}));
   EXPECT_EQ(heights, (std::vector<double>{32, 13, 15, 100, 40, 150, 0}));
