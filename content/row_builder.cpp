@@ -73,11 +73,7 @@ void RowBuilder::placeText(Row& row, const Record& r) {
   row.text = shownText(r.format, r.text, settings_.startDate, *tools_.dates);
   row.pic = r.pic;
   row.bigpic = r.bigpic;
-  if (r.checkid) row.tick = out_.checks.add(tickGuid(*r.checkid));
-  if (!r.weblink.empty() && r.linkid == 0) {
-    out_.webLinks.push_back(r.weblink);
-    row.weblink = static_cast<int>(out_.webLinks.size());
-  }
+  attachTargets(row, r);
   const bool smallPic = row.tick >= 0 || !r.pic.empty();
   const double left = !r.bigpic.empty() ? kBigPicPart : smallPic ? kSmallPicPart : 0;
   const double right = row.weblink || r.linkid ? kLinkPart : 0;
@@ -88,6 +84,14 @@ void RowBuilder::placeText(Row& row, const Record& r) {
   const double pad = std::max(0.0, (picture - textHeight) / 2);
   row.textY = row.y + (r.tp == 4 ? 1 : 7) + pad;
   row.height = textHeight + 2 * pad;
+}
+
+void RowBuilder::attachTargets(Row& row, const Record& r) {
+  if (r.checkid) row.tick = out_.checks.add(tickGuid(*r.checkid));
+  if (!r.weblink.empty() && r.linkid == 0) {
+    out_.webLinks.push_back(r.weblink);
+    row.weblink = static_cast<int>(out_.webLinks.size());
+  }
 }
 
 void RowBuilder::addPic(const Record& r, int group) {

@@ -32,6 +32,8 @@ class RowBuilder {
  private:
   Row& push(RowKind kind, const Record* r, int group);
   void placeText(Row& row, const Record& r);
+  // The row's tick box and web link, added to the text's tables.
+  void attachTargets(Row& row, const Record& r);
 
   const LayoutSettings& settings_;
   const GroupFilter& filter_;
