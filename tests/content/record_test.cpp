@@ -59,9 +59,9 @@ TEST(JsonGroups, ItemsTakeTheirGroupsNumberAndBadTextsGiveNothing) {
     EXPECT_TRUE(parseJsonGroups(bad).empty()) << bad;
 }
 
-std::vector<Group> groupsOf(std::vector<std::pair<int, std::string>> spec) {
+std::vector<Group> groupsOf(std::vector<std::pair<int, std::string>> entries) {
   std::vector<Group> out;
-  for (auto& [id, texts] : spec) {
+  for (auto& [id, texts] : entries) {
     Group g{id, {}};
     for (char c : texts) {
       Record r;
