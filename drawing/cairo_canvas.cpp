@@ -17,7 +17,6 @@ namespace {
 
 // PDF pages are printed: a picture there keeps two pixels for each unit of the page.
 constexpr double kPrintPixelsPerUnit = 2;
-constexpr int kPrintJpegQuality = 88;
 
 bool isJpeg(std::span<const std::uint8_t> bytes) {
   return bytes.size() > 3 && bytes[0] == 0xFF && bytes[1] == 0xD8 && bytes[2] == 0xFF;
@@ -39,13 +38,17 @@ cairo_surface_t* surfaceOf(const Image& image) {
   return surface;
 }
 
+bool isPrint(cairo_t* cr) {
+  return cairo_surface_get_type(cairo_get_target(cr)) == CAIRO_SURFACE_TYPE_PDF;
+}
+
 void freeBytes(void* bytes) {
   delete static_cast<std::vector<std::uint8_t>*>(bytes);
 }
 
 // A PDF keeps the picture as a JPEG rather than as deflated pixels: smaller and much faster.
-void attachJpeg(cairo_surface_t* surface, const Image& image) {
-  auto* jpeg = new std::vector<std::uint8_t>(encodeJpeg(image, kPrintJpegQuality));
+void attachJpeg(cairo_surface_t* surface, std::vector<std::uint8_t> bytes) {
+  auto* jpeg = new std::vector<std::uint8_t>(std::move(bytes));
   if (jpeg->empty() ||
       cairo_surface_set_mime_data(surface, CAIRO_MIME_TYPE_JPEG, jpeg->data(), jpeg->size(),
                                   freeBytes, jpeg) != CAIRO_STATUS_SUCCESS)
@@ -146,14 +149,23 @@ void CairoCanvas::drawImage(const std::string& file, Rect r) {
   cairo_restore(cr_);
 }
 
+// The pixels of the longer side of a picture drawn w by h, more for print.
+int CairoCanvas::pixelSide(double w, double h) const {
+  cairo_user_to_device_distance(cr_, &w, &h);
+  return static_cast<int>(
+      std::ceil(std::max(std::abs(w), std::abs(h)) * (isPrint(cr_) ? kPrintPixelsPerUnit : 1)));
+}
+
+void CairoCanvas::prefetch(std::vector<std::string> files, double longestSide) {
+  prefetch_.reset();
+  prefetch_ = std::make_unique<PhotoPrefetch>(std::move(files), pixelSide(longestSide, 0));
+}
+
 // The pictures drawn last stay at hand: icons and page frames come again and again, and a PDF
 // keeps a picture that is drawn on many pages only once when it is the same surface.
 cairo_surface_t* CairoCanvas::imageSurface(const std::string& file, Rect r) {
-  const bool print = cairo_surface_get_type(cairo_get_target(cr_)) == CAIRO_SURFACE_TYPE_PDF;
-  double w = r.w, h = r.h;
-  cairo_user_to_device_distance(cr_, &w, &h);
-  const int side = static_cast<int>(
-      std::ceil(std::max(std::abs(w), std::abs(h)) * (print ? kPrintPixelsPerUnit : 1)));
+  const bool print = isPrint(cr_);
+  const int side = pixelSide(r.w, r.h);
   const std::string key = file + "@" + std::to_string(side);
   for (auto it = images_.begin(); it != images_.end(); ++it)
     if (it->first == key) {
@@ -172,6 +184,12 @@ cairo_surface_t* CairoCanvas::imageSurface(const std::string& file, Rect r) {
 
 // A photo is read no larger than the pixels it takes on the surface.
 cairo_surface_t* CairoCanvas::readImage(const std::string& file, int side, bool print) {
+  if (prefetch_)
+    if (auto photo = prefetch_->take(file, side)) {
+      cairo_surface_t* surface = surfaceOf(photo->image);
+      if (print) attachJpeg(surface, std::move(photo->jpeg));
+      return surface;
+    }
   const auto bytes = readWholeFile(file);
   if (!bytes) return nullptr;
   const std::span<const std::uint8_t> data(reinterpret_cast<const std::uint8_t*>(bytes->data()),
@@ -187,7 +205,7 @@ cairo_surface_t* CairoCanvas::readImage(const std::string& file, int side, bool 
   const auto image = decodeImageToFit(data, side, nullptr);
   if (!image || image->width <= 0 || image->height <= 0) return nullptr;
   cairo_surface_t* surface = surfaceOf(*image);
-  if (print) attachJpeg(surface, *image);
+  if (print) attachJpeg(surface, encodeJpeg(*image, kPrintJpegQuality));
   return surface;
 }
 

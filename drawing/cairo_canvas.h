@@ -5,9 +5,11 @@
 #include <pango/pango.h>
 
 #include <list>
+#include <memory>
 #include <utility>
 
 #include "drawing/canvas.h"
+#include "drawing/photo_prefetch.h"
 
 namespace lad::draw {
 
@@ -31,14 +33,20 @@ class CairoCanvas : public Canvas {
   void fillShadow(Rect r, Shadow s) override;
   void fillPathShadow(const Path& p, FillRule rule, Shadow s) override;
 
+  // The photos that will be drawn, in their order, with the longer side they are drawn at:
+  // they are read ahead on another thread.
+  void prefetch(std::vector<std::string> files, double longestSide);
+
  private:
+  int pixelSide(double w, double h) const;
   cairo_surface_t* imageSurface(const std::string& file, Rect r);
-  static cairo_surface_t* readImage(const std::string& file, int side, bool print);
+  cairo_surface_t* readImage(const std::string& file, int side, bool print);
   void setColor(Color c);
   cairo_t* cr_;
   PangoContext* text_;  // one context for all texts of the painting
   static constexpr std::size_t kKeptImages = 16;
   std::list<std::pair<std::string, cairo_surface_t*>> images_;  // the last drawn first
+  std::unique_ptr<PhotoPrefetch> prefetch_;
 };
 
 }  // namespace lad::draw

@@ -8,6 +8,7 @@
 #include <filesystem>
 #include <memory>
 #include <string>
+#include <vector>
 
 #include "drawing/cairo_canvas.h"
 
@@ -24,6 +25,10 @@ class PdfDocument {
 
   // The canvas of the page being drawn: y grows downwards from the page's top left corner.
   Canvas& canvas() { return *canvas_; }
+  // The photos the document will draw, in their order, at the longer side given: read ahead.
+  void prefetchPictures(std::vector<std::string> files, double longestSide) {
+    canvas_->prefetch(std::move(files), longestSide);
+  }
   // Ends the page being drawn; what is drawn next stands on a new page.
   void endPage();
   // Writes the document and puts it in place of the target. False with *error filled when any

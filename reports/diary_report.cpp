@@ -60,6 +60,14 @@ std::vector<ReportDay> loadReportDays(Store& store, const std::string& gid, int 
   return out;
 }
 
+// The days' photos in the order the pages draw them.
+std::vector<std::string> dayPhotos(const std::vector<ReportDay>& days) {
+  std::vector<std::string> files;
+  for (const ReportDay& day : days)
+    if (!day.photo.empty()) files.push_back(day.photo);
+  return files;
+}
+
 }  // namespace
 
 std::filesystem::path reportFile(const Context& context) {
@@ -79,6 +87,7 @@ bool saveDiaryReport(Store& store, const std::string& gid, int year, const Map& 
   pdf.endPage();
   const RowPainter rows(context, settings, options.imagesDir, listData);
   DiaryPages pages(context, pdf, settings, rows, options.imagesDir);
+  pdf.prefetchPictures(dayPhotos(days), settings.imsize);
   pages.drawPages(days, [&](std::size_t done) {
     if (options.progress) options.progress(done, days.size());
   });
