@@ -26,4 +26,11 @@ draw::Color colorFrom(const Value& v) {
           (*l)[3].doubleValue()};
 }
 
+void setThemeColors(Map& dic, bool darkIcons, draw::Color gridOnLight) {
+  dic.set("mainColor",
+          colorValue(darkIcons ? draw::Color{0.7, 0, 0, 1} : draw::Color{1, 0.8, 0, 1}));
+  dic.set("backColor", colorValue(darkIcons ? gridOnLight : draw::Color{0.5, 0.5, 0.5, 1}));
+  dic.set("textColor", colorValue(darkIcons ? draw::Color{0, 0, 0, 1} : draw::Color{1, 1, 1, 1}));
+}
+
 }  // namespace lad::charts

@@ -14,4 +14,8 @@ Value colorValue(draw::Color c);
 // A value that is not such a list reads as transparent, so an unset colour paints nothing.
 draw::Color colorFrom(const Value& v);
 
+// The line, grid and text colours of a chart drawn over the theme's background: dark lines and
+// black text with the theme's dark icons (light backgrounds), light ones without.
+void setThemeColors(Map& dic, bool darkIcons, draw::Color gridOnLight);
+
 }  // namespace lad::charts

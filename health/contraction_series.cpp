@@ -59,13 +59,8 @@ Map contractionChart(const List& points, const std::string& bottomCaption, bool 
   dic.set("isBorders", true);
   dic.set("Graph1", points);
   dic.set("Graph1Type", "5");
-  dic.set("mainColor",
-          charts::colorValue(darkIcons ? draw::Color{0.7, 0, 0, 1} : draw::Color{1, 0.8, 0, 1}));
-  dic.set("backColor", charts::colorValue(darkIcons ? draw::Color{0.9, 0.9, 0.9, 1}
-                                                    : draw::Color{0.5, 0.5, 0.5, 1}));
   // The labels take the screen's text colour, so that they show on either theme.
-  dic.set("textColor",
-          charts::colorValue(darkIcons ? draw::Color{0, 0, 0, 1} : draw::Color{1, 1, 1, 1}));
+  charts::setThemeColors(dic, darkIcons, {0.9, 0.9, 0.9, 1});
   scaleY(dic, points);
   dic.set("xAxisMin", 0);
   dic.set("xAxisMax", static_cast<double>(points.size() + 1));

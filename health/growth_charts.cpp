@@ -35,12 +35,7 @@ Map titleChart(const std::string& caption, std::optional<int> birthDay, bool dar
   dic.set("xAxisMin", 0);
   dic.set("xAxisMax", std::min(kPregnancyDays, birthDay.value_or(kPregnancyDays)));
   dic.set("xAxisValue", weekTicks());
-  dic.set("mainColor",
-          charts::colorValue(darkIcons ? draw::Color{0.7, 0, 0, 1} : draw::Color{1, 0.8, 0, 1}));
-  dic.set("backColor", charts::colorValue(darkIcons ? draw::Color{0.6, 0.6, 0.6, 1}
-                                                    : draw::Color{0.5, 0.5, 0.5, 1}));
-  dic.set("textColor",
-          charts::colorValue(darkIcons ? draw::Color{0, 0, 0, 1} : draw::Color{1, 1, 1, 1}));
+  charts::setThemeColors(dic, darkIcons, {0.6, 0.6, 0.6, 1});
   return dic;
 }
 
