@@ -1,0 +1,31 @@
+// The cloud folder as this installation sees it: change files written into it whole, their
+// change dates, and the receipts (the date last seen for each file name, kept in the settings).
+#pragma once
+
+#include <filesystem>
+#include <optional>
+#include <string>
+
+#include "core/value.h"
+
+namespace lad {
+
+class Context;
+
+std::filesystem::path cloudFolderOf(const Context& context);
+
+// The file's last change, to the millisecond; nullopt when it is not there.
+std::optional<Date> fileChangeDate(const std::filesystem::path& file);
+
+// The receipt of a file name; nullopt when the name was never seen.
+std::optional<Date> changeReceipt(const Context& context, const std::string& name);
+// Records the receipt and writes the settings out.
+void setChangeReceipt(Context& context, const std::string& name, Date seen);
+
+// Writes the map as a change file under its name (a temporary file renamed into place, so a
+// sync tool never carries half a file), then takes its change date as the receipt, so that
+// this installation never applies its own change again. False with a reason when it failed.
+bool writeChangeFile(Context& context, const std::string& name, const Map& root,
+                     std::string* error);
+
+}  // namespace lad
