@@ -120,7 +120,9 @@ std::optional<Value> mapFrom(plist_t node, int depth, std::string* error) {
 Value dateFrom(plist_t node) {
   std::int32_t sec = 0, usec = 0;
   plist_get_date_val(node, &sec, &usec);
-  const std::int64_t ms = std::int64_t{sec} * 1000 + usec / 1000 + kEpochOffsetMs;
+  // The library gives the fraction of a second without its sign: before 2001 it counts back.
+  const std::int64_t fraction = sec < 0 ? -(usec / 1000) : usec / 1000;
+  const std::int64_t ms = std::int64_t{sec} * 1000 + fraction + kEpochOffsetMs;
   return Value(Date(std::chrono::milliseconds(ms)));
 }
 
