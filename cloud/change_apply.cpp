@@ -1,8 +1,10 @@
 #include "cloud/change_apply.h"
 
 #include "cloud/change_check.h"
+#include "cloud/change_names.h"
 #include "cloud/property_list.h"
 #include "cloud/received_files.h"
+#include "cloud/tick_change.h"
 #include "core/atomic_file.h"
 #include "core/context.h"
 #include "health/child_feeding.h"
@@ -40,15 +42,21 @@ void applyContent(Store& store, const Map& root) {
 
 }  // namespace
 
-ChangeOutcome applyChangeFile(Store& store, const std::filesystem::path& file) {
+ChangeOutcome applyChangeFile(Store& store, const std::filesystem::path& file,
+                              std::optional<Date> receipt) {
   const auto text = readWholeFile(file);
   if (!text) return refused("the file cannot be read");
   const auto* first = reinterpret_cast<const std::uint8_t*>(text->data());
   std::string error;
   const auto root = fromPropertyList({first, text->size()}, &error);
   if (!root) return refused(error);
-  const std::string problem = changeProblem(store.context(), *root);
+  const bool ticks = isTicksFileName(file.filename().string());
+  const std::string problem = ticks ? ticksProblem(*root) : changeProblem(store.context(), *root);
   if (!problem.empty()) return refused(problem);
+  if (ticks) {
+    applyTicks(store, *root->asMap(), receipt);
+    return {true, {}, {}};
+  }
   applyContent(store, *root->asMap());
   ChangeOutcome outcome{true, {}, {}};
   writeReceivedFiles(store.context(), listOf(*root->asMap(), "images"), outcome.notes);

@@ -40,6 +40,10 @@ bool isChangeFileName(std::string_view name) {
   return name.size() >= kShortestName && name.starts_with(kPrefix);
 }
 
+bool isTicksFileName(std::string_view name) {
+  return name.starts_with(std::string(kPrefix) + std::to_string(kChangeTicks));
+}
+
 bool isReservedName(std::string_view name) {
   return name.ends_with(".del");
 }

@@ -26,6 +26,8 @@ std::string changeDayPart(const Context& context, Date day);
 bool isHiddenFromScan(std::string_view name);
 // A name that is a change file; anything else in the folder is data of the old format.
 bool isChangeFileName(std::string_view name);
+// A file of check-list ticks: "CLOUD-3" begins its name.
+bool isTicksFileName(std::string_view name);
 // Names ending ".del" are reserved: the scan passes them over and never takes a receipt.
 bool isReservedName(std::string_view name);
 

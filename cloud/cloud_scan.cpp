@@ -19,10 +19,6 @@ bool isNewer(const Context& context, const std::string& name, Date changed) {
   return !receipt || *receipt < changed;
 }
 
-bool isTicks(std::string_view name) {
-  return name.starts_with("CLOUD-" + std::to_string(kChangeTicks));
-}
-
 }  // namespace
 
 std::vector<PendingChange> pendingChanges(Context& context) {
@@ -36,8 +32,7 @@ std::vector<PendingChange> pendingChanges(Context& context) {
       continue;
     }
     const auto changed = fileChangeDate(entry.path());
-    if (!changed || isReservedName(name) || isTicks(name) || !isNewer(context, name, *changed))
-      continue;
+    if (!changed || isReservedName(name) || !isNewer(context, name, *changed)) continue;
     pending.push_back({name, entry.path(), *changed});
   }
   std::stable_sort(pending.begin(), pending.end(),
@@ -48,7 +43,8 @@ std::vector<PendingChange> pendingChanges(Context& context) {
 ScanReport scanCloudFolder(Store& store) {
   ScanReport report;
   for (const PendingChange& change : pendingChanges(store.context())) {
-    ChangeOutcome outcome = applyChangeFile(store, change.path);
+    ChangeOutcome outcome =
+        applyChangeFile(store, change.path, changeReceipt(store.context(), change.name));
     if (!outcome.applied) {
       report.skipped.push_back({change.name, outcome.reason});
       continue;

@@ -20,8 +20,7 @@ struct PendingChange {
 };
 
 // The change files newer than their receipts, by change date. Files of sync tools in progress
-// are hidden; other names mark the old format as found. Files of ticks are left for their own
-// reader.
+// are hidden; other names mark the old format as found.
 std::vector<PendingChange> pendingChanges(Context& context);
 
 struct SkippedChange {

@@ -20,8 +20,6 @@ namespace lad::testing {
 
 struct Installation {
   Installation(int appid, const std::filesystem::path& cloud) {
-    auto clock =
-        std::make_shared<ManualClock>(*dateFromIso("2026-03-30T08:00:00Z"), "Europe/Berlin");
     context = std::make_unique<Context>(
         ContextOptions{appid, 1, dir.path(), "1.0", clock, LADANEYA_RESOURCES_DIR});
     launch(*context);
@@ -40,6 +38,8 @@ struct Installation {
   }
 
   TempDir dir;
+  std::shared_ptr<ManualClock> clock =
+      std::make_shared<ManualClock>(*dateFromIso("2026-03-30T08:00:00Z"), "Europe/Berlin");
   std::unique_ptr<Context> context;
   std::unique_ptr<Store> store;
 };
