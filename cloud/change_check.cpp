@@ -75,6 +75,17 @@ std::string fileNamesProblem(const Map& root) {
   return {};
 }
 
+// A profile's values are texts, numbers, booleans and dates, never lists, maps or data.
+std::string setupProblem(const Map& root) {
+  const Value* setup = root.find("setup");
+  if (!setup) return {};
+  if (!setup->asMap()) return "\"setup\" is not a dictionary";
+  for (const auto& [key, value] : *setup->asMap())
+    if (value.asList() || value.asMap() || value.asBytes())
+      return "the value of \"" + key + "\" in \"setup\" is of the wrong type";
+  return {};
+}
+
 std::string dayProblem(const Context& context, const Map& root) {
   if (!root.contains("data") && !root.contains("kormdata")) return {};
   const Value* day = root.find("date");
@@ -90,7 +101,7 @@ std::string changeProblem(const Context& context, const Value& root) {
   if (!map) return "the change file is not a dictionary";
   const Value& gid = (*map)["gid"];
   if (!gid.asText() || gid.asText()->empty()) return "the change file names no profile (\"gid\")";
-  if (map->contains("setup") && !(*map)["setup"].asMap()) return "\"setup\" is not a dictionary";
+  if (std::string problem = setupProblem(*map); !problem.empty()) return problem;
   for (const auto& [key, rules] : {std::pair{"data", kRecord}, std::pair{"const", kEntry},
                                    std::pair{"kormdata", kFeeding}, std::pair{"images", kFile}}) {
     std::string problem = listProblem(*map, key, rules);

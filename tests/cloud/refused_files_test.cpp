@@ -7,6 +7,7 @@
 #include "cloud/cloud_scan.h"
 #include "cloud/property_list.h"
 #include "store/day_photo.h"
+#include "store/setup_data.h"
 #include "tests/cloud/installations.h"
 
 namespace lad {
@@ -61,6 +62,9 @@ TEST_F(RefusedFilesTest, BrokenFilesAreSkippedWithAReasonAndTheDiaryStaysAsItWas
   put("CLOUD-2-E-30-03-2026.dat", toPropertyList(Value(notADay)));
   put("CLOUD-2-F-30-03-2026.dat", dayWith("images", List{Value(Map{})}));
   put("CLOUD-2-G-30-03-2026.dat", toPropertyList(Value(List{Value(kGid)})));
+  Map setup = loadSetupData(*first.store, kGid);
+  setup.set("sdat1", List{});
+  put("CLOUD-1-J.dat", dayWith("setup", setup));
   // Names of files in progress are not looked at at all.
   put(".CLOUD-2-H-30-03-2026.dat", good);
   put("CLOUD-2-I-30-03-2026.dat.tmp", good);
@@ -73,14 +77,15 @@ TEST_F(RefusedFilesTest, BrokenFilesAreSkippedWithAReasonAndTheDiaryStaysAsItWas
                                                       {"D", "not a date"},
                                                       {"E", "entry of \"data\""},
                                                       {"F", "entry of \"images\""},
-                                                      {"G", "not a dictionary"}};
+                                                      {"G", "not a dictionary"},
+                                                      {"J", "\"sdat1\" in \"setup\""}};
   ASSERT_EQ(report.skipped.size(), reasons.size());
   for (const SkippedChange& skipped : report.skipped) {
     EXPECT_THAT(skipped.reason, HasSubstr(reasons.at(skipped.name.substr(8, 1)))) << skipped.name;
     EXPECT_FALSE(changeReceipt(*second.context, skipped.name)) << "tried again next time";
   }
   EXPECT_EQ(diary(second), before);
-  EXPECT_EQ(scanCloudFolder(*second.store).skipped.size(), 7u);
+  EXPECT_EQ(scanCloudFolder(*second.store).skipped.size(), reasons.size());
 }
 
 TEST_F(RefusedFilesTest, APhotoThatIsNoPictureIsNotWrittenAndAPathIsNoName) {
