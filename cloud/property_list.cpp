@@ -6,14 +6,14 @@
 #include <limits>
 #include <memory>
 
+#include "cloud/property_list_shape.h"
+
 namespace lad {
 
 namespace {
 
 // Property list dates count from 2001-01-01 00:00 UTC.
 constexpr std::int64_t kEpochOffsetMs = 978'307'200'000;
-// The diary nests a few levels at most; a deeper list is refused before it can exhaust the stack.
-constexpr int kDeepest = 32;
 
 struct NodeFree {
   void operator()(plist_t node) const { plist_free(node); }
@@ -82,25 +82,25 @@ plist_t toNode(const Value& value) {
   return plist_new_dict();
 }
 
-std::optional<Value> fromNode(plist_t node, int depth, std::string* error);
+std::optional<Value> fromNode(plist_t node, std::string* error);
 
 bool fail(std::string* error, std::string reason) {
   if (error) *error = std::move(reason);
   return false;
 }
 
-std::optional<Value> listFrom(plist_t node, int depth, std::string* error) {
+std::optional<Value> listFrom(plist_t node, std::string* error) {
   List list;
   const std::uint32_t size = plist_array_get_size(node);
   for (std::uint32_t i = 0; i < size; ++i) {
-    auto item = fromNode(plist_array_get_item(node, i), depth + 1, error);
+    auto item = fromNode(plist_array_get_item(node, i), error);
     if (!item) return std::nullopt;
     list.push_back(std::move(*item));
   }
   return Value(std::move(list));
 }
 
-std::optional<Value> mapFrom(plist_t node, int depth, std::string* error) {
+std::optional<Value> mapFrom(plist_t node, std::string* error) {
   Map map;
   plist_dict_iter raw = nullptr;
   plist_dict_new_iter(node, &raw);
@@ -111,7 +111,7 @@ std::optional<Value> mapFrom(plist_t node, int depth, std::string* error) {
     plist_dict_next_item(node, raw, &rawKey, &item);
     const Owned<char> key(rawKey);
     if (!item) return Value(std::move(map));
-    auto value = fromNode(item, depth + 1, error);
+    auto value = fromNode(item, error);
     if (!value) return std::nullopt;
     map.set(key ? key.get() : "", std::move(*value));
   }
@@ -158,8 +158,7 @@ Value scalarFrom(plist_t node, plist_type type) {
   return Value(d);
 }
 
-std::optional<Value> fromNode(plist_t node, int depth, std::string* error) {
-  if (depth > kDeepest && !fail(error, "the property list nests too deeply")) return std::nullopt;
+std::optional<Value> fromNode(plist_t node, std::string* error) {
   const plist_type type = plist_get_node_type(node);
   switch (type) {
     case PLIST_BOOLEAN:
@@ -173,9 +172,9 @@ std::optional<Value> fromNode(plist_t node, int depth, std::string* error) {
     case PLIST_DATA:
       return bytesFrom(node);
     case PLIST_ARRAY:
-      return listFrom(node, depth, error);
+      return listFrom(node, error);
     case PLIST_DICT:
-      return mapFrom(node, depth, error);
+      return mapFrom(node, error);
     default:
       fail(error, "the property list holds a node that is no value");
       return std::nullopt;
@@ -201,6 +200,7 @@ std::optional<Value> fromPropertyList(std::span<const std::uint8_t> bytes, std::
     fail(error, "not a binary property list");
     return std::nullopt;
   }
+  if (!propertyListWithin(bytes, {}, error)) return std::nullopt;
   plist_t raw = nullptr;
   plist_from_bin(data, static_cast<std::uint32_t>(bytes.size()), &raw);
   const Node root(raw);
@@ -208,7 +208,7 @@ std::optional<Value> fromPropertyList(std::span<const std::uint8_t> bytes, std::
     fail(error, "a binary property list that is cut short or malformed");
     return std::nullopt;
   }
-  return fromNode(root.get(), 0, error);
+  return fromNode(root.get(), error);
 }
 
 }  // namespace lad

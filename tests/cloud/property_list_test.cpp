@@ -35,6 +35,28 @@ TEST(PropertyListTest, EveryKindOfValueComesBackAsItWent) {
   EXPECT_EQ(read(toPropertyList(Value(withNull))), Value(without));
 }
 
+// A binary property list of `levels` arrays, each holding `width` references to the next one.
+Bytes chainedArrays(std::uint32_t levels, std::uint8_t width) {
+  const auto be32 = [](Bytes& out, std::uint64_t n, int bytes) {
+    for (int i = bytes - 1; i >= 0; --i) out.push_back(static_cast<std::uint8_t>(n >> (8 * i)));
+  };
+  Bytes out{'b', 'p', 'l', 'i', 's', 't', '0', '0'};
+  std::vector<std::uint64_t> offsets;
+  for (std::uint32_t i = 0; i < levels; ++i) {
+    offsets.push_back(out.size());
+    const bool last = i + 1 == levels;
+    out.push_back(static_cast<std::uint8_t>(0xA0 | (last ? 0 : width)));
+    for (int k = 0; k < width && !last; ++k) be32(out, i + 1, 4);
+  }
+  const std::uint64_t table = out.size();
+  for (std::uint64_t offset : offsets) be32(out, offset, 4);
+  out.insert(out.end(), {0, 0, 0, 0, 0, 0, 4, 4});
+  be32(out, levels, 8);
+  be32(out, 0, 8);
+  be32(out, table, 8);
+  return out;
+}
+
 TEST(PropertyListTest, WhatIsNoBinaryPropertyListIsRefusedWithAReason) {
   Map root;
   root.set("gid", "G");
@@ -56,6 +78,17 @@ TEST(PropertyListTest, WhatIsNoBinaryPropertyListIsRefusedWithAReason) {
     EXPECT_FALSE(read(bytes, &error)) << what;
     EXPECT_FALSE(error.empty()) << what;
   }
+
+  // Lists that the library would read until the stack or the memory ran out.
+  std::string error;
+  EXPECT_TRUE(read(chainedArrays(33, 1)));
+  EXPECT_TRUE(read(chainedArrays(10, 2)));
+  for (std::uint32_t levels : {34u, 100'000u}) {
+    EXPECT_FALSE(read(chainedArrays(levels, 1), &error)) << levels;
+    EXPECT_EQ(error, "the property list nests too deeply");
+  }
+  EXPECT_FALSE(read(chainedArrays(28, 2), &error));
+  EXPECT_EQ(error, "the property list expands to too many values");
 }
 
 }  // namespace
