@@ -14,6 +14,10 @@ std::filesystem::path cloudFolderOf(const Context& context) {
   return *getSystemFolder(context, "Cloud");
 }
 
+bool hasCloudFolder(const Context& context) {
+  return cloudFolderOf(context) != context.tempDir();
+}
+
 std::optional<Date> fileChangeDate(const std::filesystem::path& file) {
   std::error_code error;
   const auto changed = std::filesystem::last_write_time(file, error);

@@ -12,7 +12,11 @@ namespace lad {
 
 class Context;
 
+// Where change files go: the cloud folder, or the temporary folder when none is set or it cannot
+// be made, so that writers go on working and their files simply never travel.
 std::filesystem::path cloudFolderOf(const Context& context);
+// Whether a cloud folder is set and there; without one there is nothing to scan.
+bool hasCloudFolder(const Context& context);
 
 // The file's last change, to the millisecond; nullopt when it is not there.
 std::optional<Date> fileChangeDate(const std::filesystem::path& file);

@@ -23,6 +23,7 @@ bool isNewer(const Context& context, const std::string& name, Date changed) {
 
 std::vector<PendingChange> pendingChanges(Context& context) {
   std::vector<PendingChange> pending;
+  if (!hasCloudFolder(context)) return pending;
   std::error_code error;
   for (const auto& entry : std::filesystem::directory_iterator(cloudFolderOf(context), error)) {
     const std::string name = entry.path().filename().string();

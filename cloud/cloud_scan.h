@@ -19,8 +19,8 @@ struct PendingChange {
   Date changed;
 };
 
-// The change files newer than their receipts, by change date. Files of sync tools in progress
-// are hidden; other names mark the old format as found.
+// The change files newer than their receipts, by change date; none without a cloud folder. Files of
+// sync tools in progress are hidden; other names mark the old format as found.
 std::vector<PendingChange> pendingChanges(Context& context);
 
 struct SkippedChange {

@@ -1,5 +1,6 @@
 #include "cloud/received_files.h"
 
+#include <algorithm>
 #include <filesystem>
 #include <optional>
 #include <system_error>

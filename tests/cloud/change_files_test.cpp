@@ -70,6 +70,15 @@ TEST_F(ChangeFilesTest, APregnancyAndADayWithItsPhotoReachTheOtherInstallationOn
 
   EXPECT_TRUE(scanCloudFolder(*second.store).applied.empty()) << "applied once";
   EXPECT_TRUE(scanCloudFolder(*first.store).applied.empty());
+
+  // With no cloud folder set, change files are written into the temporary folder and never read.
+  testing::Installation lone{1, ""};
+  std::filesystem::copy(cloud() / ("CLOUD-1-" + gid + ".dat"), lone.context->tempDir());
+  EXPECT_EQ(send(lone, kChangeDay, day), "CLOUD-2-" + gid + "-30-03-2026.dat");
+  EXPECT_TRUE(
+      std::filesystem::exists(lone.context->tempDir() / ("CLOUD-2-" + gid + "-30-03-2026.dat")));
+  EXPECT_TRUE(scanCloudFolder(*lone.store).applied.empty());
+  EXPECT_FALSE(loadSetupData(*lone.store, gid).contains("sdat1"));
 }
 
 TEST_F(ChangeFilesTest, TheLaterOfTwoChangesOfADayWinsOnBothAndAnEmptyDayDeletes) {
