@@ -27,7 +27,7 @@ class Shape {
     if (offsetSize_ < 1 || offsetSize_ > 8 || refSize_ < 1 || refSize_ > 8 || top >= count_ ||
         table_ < kHeader || table_ > trailer || (trailer - table_) / offsetSize_ < count_)
       return "a binary property list that is cut short or malformed";
-    known_.assign(count_, {kUnknown, 0, {}});
+    known_.assign(count_, {kUnknown, 0});
     return measure(top, 0).problem;
   }
 
@@ -40,6 +40,11 @@ class Shape {
     std::uint64_t nodes = 0;
     int height = 0;
     std::string problem;
+  };
+  // What is kept of each object measured: a list may have as many objects as bytes.
+  struct Known {
+    std::uint64_t nodes = kUnknown;
+    int height = 0;
   };
 
   // A big-endian number of `width` bytes at `at`; nullopt past the end.
@@ -84,12 +89,12 @@ class Shape {
 
   // Each object is measured once; the recursion ends at the depth limit.
   Measure measure(std::uint64_t index, int depth) {
-    const Measure& known = known_[index];
+    const Known known = known_[index];
     if (known.nodes == kInProgress) return failed("the property list contains itself");
     if (known.nodes == kUnknown && depth <= limits_.deepest) return measureNew(index, depth);
     if (known.nodes == kUnknown || depth + known.height > limits_.deepest)
       return failed("the property list nests too deeply");
-    return known;
+    return {known.nodes, known.height, {}};
   }
 
   Measure measureNew(std::uint64_t index, int depth) {
@@ -104,7 +109,7 @@ class Shape {
       tree.height = std::max(tree.height, child.height + 1);
       if (tree.nodes > limits_.most) return failed("the property list expands to too many values");
     }
-    known_[index] = tree;
+    known_[index] = {tree.nodes, tree.height};
     return tree;
   }
 
@@ -114,7 +119,7 @@ class Shape {
   std::size_t refSize_ = 0;
   std::uint64_t count_ = 0;
   std::uint64_t table_ = 0;
-  std::vector<Measure> known_;
+  std::vector<Known> known_;
 };
 
 }  // namespace
