@@ -55,34 +55,44 @@ class Shape {
     return n;
   }
 
-  // The children of the object at index: its references (keys and values of a dictionary).
-  std::optional<std::vector<std::uint64_t>> children(std::uint64_t index) const {
+  // Whether the bytes hold a zero character: the library cannot take such a text or key.
+  bool holdsZero(std::size_t first, std::uint64_t units, std::size_t width) const {
+    for (std::uint64_t i = 0; i < units; ++i)
+      if (number(first + i * width, width) == 0) return true;
+    return false;
+  }
+
+  // The length in the object's marker, or in the integer after it; moves first past them.
+  std::optional<std::uint64_t> lengthOf(std::uint8_t marker, std::size_t& first) const {
+    if ((marker & 0x0F) != 0x0F) return marker & 0x0F;
+    if (first >= table_ || bytes_[first] >> 4 != 0x1) return std::nullopt;
+    const std::size_t width = std::size_t{1} << (bytes_[first] & 0x03);
+    const auto length = number(first + 1, width);
+    first += 1 + width;
+    return length;
+  }
+
+  // Checks the object at index and gives its references (keys and values of a dictionary).
+  std::string readObject(std::uint64_t index, std::vector<std::uint64_t>& refs) const {
+    constexpr const char* kMalformed = "a binary property list that is cut short or malformed";
     const std::uint64_t at = *number(table_ + index * offsetSize_, offsetSize_);
-    if (at < kHeader || at >= table_) return std::nullopt;
-    const std::uint8_t marker = bytes_[at];
-    const int type = marker >> 4;
-    if (type != 0xA && type != 0xC && type != 0xD) return std::vector<std::uint64_t>{};
-    std::uint64_t length = marker & 0x0F;
+    if (at < kHeader || at >= table_) return kMalformed;
+    const int type = bytes_[at] >> 4;
+    if (type != 0x5 && type != 0x6 && type != 0xA && type != 0xC && type != 0xD) return {};
     std::size_t first = at + 1;
-    if (length == 0x0F) {
-      if (first >= table_ || bytes_[first] >> 4 != 0x1) return std::nullopt;
-      const std::size_t width = std::size_t{1} << (bytes_[first] & 0x03);
-      const auto n = number(first + 1, width);
-      if (!n) return std::nullopt;
-      length = *n;
-      first += 1 + width;
+    const auto length = lengthOf(bytes_[at], first);
+    if (!length || *length > table_ || first > table_) return kMalformed;
+    const std::size_t width = type == 0x5 ? 1 : type == 0x6 ? 2 : refSize_;
+    const std::uint64_t units = type == 0xD ? 2 * *length : *length;
+    if ((table_ - first) / width < units) return kMalformed;
+    if (type == 0x5 || type == 0x6)
+      return holdsZero(first, units, width) ? "the property list holds a text with a zero character"
+                                            : "";
+    for (std::uint64_t i = 0; i < units; ++i) {
+      refs.push_back(*number(first + i * width, width));
+      if (refs.back() >= count_) return kMalformed;
     }
-    const std::uint64_t refs = type == 0xD ? 2 * length : length;
-    if (length > table_ || first > table_ || (table_ - first) / refSize_ < refs)
-      return std::nullopt;
-    std::vector<std::uint64_t> out;
-    out.reserve(refs);
-    for (std::uint64_t i = 0; i < refs; ++i) {
-      const std::uint64_t ref = *number(first + i * refSize_, refSize_);
-      if (ref >= count_) return std::nullopt;
-      out.push_back(ref);
-    }
-    return out;
+    return {};
   }
 
   static Measure failed(std::string problem) { return {0, 0, std::move(problem)}; }
@@ -98,11 +108,11 @@ class Shape {
   }
 
   Measure measureNew(std::uint64_t index, int depth) {
-    const auto refs = children(index);
-    if (!refs) return failed("a binary property list that is cut short or malformed");
+    std::vector<std::uint64_t> refs;
+    if (std::string problem = readObject(index, refs); !problem.empty()) return failed(problem);
     known_[index].nodes = kInProgress;
     Measure tree{1, 0, {}};
-    for (std::uint64_t ref : *refs) {
+    for (std::uint64_t ref : refs) {
       const Measure child = measure(ref, depth + 1);
       if (!child.problem.empty()) return child;
       tree.nodes += child.nodes;

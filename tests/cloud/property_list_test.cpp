@@ -72,6 +72,7 @@ TEST(PropertyListTest, WhatIsNoBinaryPropertyListIsRefusedWithAReason) {
       {"cut", Bytes(good.begin(), good.begin() + good.size() / 2)},
       {"magic only", Bytes(good.begin(), good.begin() + 8)},
       {"deep", toPropertyList(deep)},
+
   };
   for (const auto& [what, bytes] : cases) {
     std::string error;
@@ -79,8 +80,15 @@ TEST(PropertyListTest, WhatIsNoBinaryPropertyListIsRefusedWithAReason) {
     EXPECT_FALSE(error.empty()) << what;
   }
 
-  // Lists that the library would read until the stack or the memory ran out.
+  // Texts with a zero character stop the library.
+  const Bytes zero = {'b', 'p', 'l', 'i', 's', 't', '0', '0', 0x52, 'a', 0, 8, 0, 0, 0,
+                      0,   0,   0,   1,   1,   0,   0,   0,   0,    0,   0, 0, 1, 0, 0,
+                      0,   0,   0,   0,   0,   0,   0,   0,   0,    0,   0, 0, 0, 11};
   std::string error;
+  EXPECT_FALSE(read(zero, &error));
+  EXPECT_EQ(error, "the property list holds a text with a zero character");
+
+  // Lists that the library would read until the stack or the memory ran out.
   EXPECT_TRUE(read(chainedArrays(33, 1)));
   EXPECT_TRUE(read(chainedArrays(10, 2)));
   for (std::uint32_t levels : {34u, 100'000u}) {
