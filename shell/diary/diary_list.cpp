@@ -50,9 +50,6 @@ int listRegim(const Context& context) {
   return isCycleEdition(context.values().appid) ? 4 : 5;
 }
 
-const char* const kLoading =
-    "Идет загрузка дневника. Чтобы загрузка была быстрее, отключитe показ пустых дней на "
-    "стартовой странице программы ...";
 const char* const kEmpty = "Нет данных. Для добавление записей или фотографий нажмите на кнопку +.";
 
 int presentYear(const Context& context, const Map& setup) {
