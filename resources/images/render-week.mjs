@@ -120,6 +120,7 @@ function readMotions(file, svg) {
       if (!/^-?\d*\.?\d+$/.test(word ?? '')) bad(`"${word ?? ''}" is not a number`);
       return Number(word);
     };
+    const take = (count) => Array.from({ length: count }, () => number(words.shift()));
     const kind = words.shift();
     const arity = { float: 2, turn: 1, pulse: 1 }[kind];
     if (!arity) bad(`"${kind}" is not float, turn or pulse`);
@@ -130,10 +131,10 @@ function readMotions(file, svg) {
       beats: 1,
       phase: 0,
     };
-    motion.amount = words.splice(0, arity).map(number);
+    motion.amount = take(arity);
     while (words.length) {
       const key = words.shift();
-      if (key === 'at') motion.at = words.splice(0, 2).map(number);
+      if (key === 'at') motion.at = take(2);
       else if (key === 'beats') motion.beats = number(words.shift());
       else if (key === 'phase') motion.phase = number(words.shift());
       else bad(`"${key}" is not at, beats or phase`);
