@@ -33,7 +33,7 @@ bool testMode() {
 }
 
 std::optional<Command> parseServe(const std::vector<std::string>& args, std::string* error) {
-  Command c{Command::kServe, {}, {}};
+  Command c{Command::kServe, {}, {}, {}};
   for (std::size_t i = 1; i < args.size(); ++i) {
     const std::string& flag = args[i];
     if (flag == "--fake-clock") {
@@ -44,7 +44,8 @@ std::optional<Command> parseServe(const std::vector<std::string>& args, std::str
       c.serve.fakeClock = true;
       continue;
     }
-    if (flag != "--data" && flag != "--listen" && flag != "--lang" && flag != "--web") {
+    if (flag != "--data" && flag != "--listen" && flag != "--lang" && flag != "--web" &&
+        flag != "--cloud") {
       *error = "unknown option " + flag;
       return std::nullopt;
     }
@@ -57,6 +58,8 @@ std::optional<Command> parseServe(const std::vector<std::string>& args, std::str
       c.serve.dataDir = value;
     } else if (flag == "--web") {
       c.serve.webDir = value;
+    } else if (flag == "--cloud") {
+      c.serve.cloudDir = std::filesystem::absolute(value);
     } else if (flag == "--listen") {
       if (!parseListen(value, c.serve)) {
         *error = "--listen wants HOST:PORT, such as 127.0.0.1:8080, not " + value;
@@ -96,7 +99,7 @@ bool reportArgsFit(const ReportArgs& r, std::string* error) {
 }
 
 std::optional<Command> parseReport(const std::vector<std::string>& args, std::string* error) {
-  Command c{Command::kReport, {}, {}};
+  Command c{Command::kReport, {}, {}, {}};
   ReportArgs& r = c.report;
   for (std::size_t i = 1; i < args.size(); ++i) {
     const std::string& flag = args[i];
@@ -135,14 +138,35 @@ std::optional<Command> parseReport(const std::vector<std::string>& args, std::st
   return c;
 }
 
+std::optional<Command> parseSync(const std::vector<std::string>& args, std::string* error) {
+  Command c{Command::kSync, {}, {}, {}};
+  for (std::size_t i = 1; i < args.size(); ++i) {
+    const std::string& flag = args[i];
+    if (flag != "--data" && flag != "--cloud") {
+      *error = "unknown option " + flag;
+      return std::nullopt;
+    }
+    if (i + 1 >= args.size()) {
+      *error = flag + " needs a value";
+      return std::nullopt;
+    }
+    if (flag == "--data")
+      c.sync.dataDir = args[++i];
+    else
+      c.sync.cloudDir = std::filesystem::absolute(args[++i]);
+  }
+  return c;
+}
+
 }  // namespace
 
 std::optional<Command> parseCommandLine(const std::vector<std::string>& args, std::string* error) {
   if (args.empty() || args[0] == "--help" || args[0] == "-h" || args[0] == "help")
-    return Command{Command::kHelp, {}, {}};
-  if (args[0] == "--version") return Command{Command::kVersion, {}, {}};
+    return Command{Command::kHelp, {}, {}, {}};
+  if (args[0] == "--version") return Command{Command::kVersion, {}, {}, {}};
   if (args[0] == "serve") return parseServe(args, error);
   if (args[0] == "report") return parseReport(args, error);
+  if (args[0] == "sync") return parseSync(args, error);
   *error = "unknown command " + args[0];
   return std::nullopt;
 }
@@ -154,12 +178,16 @@ std::string usage(const std::string& program) {
          "Commands:\n"
          "  serve        run the diary for the browsers of your phone and tablet\n"
          "  report       write a PDF of the diary, or of a day's pressure or liquids\n"
+         "  sync         take in the changes of your other installations from the cloud folder\n"
+         "               once, with the diary's server stopped\n"
          "\n"
          "Options of serve:\n"
          "  --data DIR          the installation's data folder (default: ./data)\n"
          "  --listen HOST:PORT  where to listen (default: 127.0.0.1:8080)\n"
          "  --lang ru|de|fr     language of the interface (default: ru)\n"
          "  --web DIR           the built web app (default: the one of this build)\n"
+         "  --cloud DIR         keep the diary in step with other installations through this\n"
+         "                      folder, which a file-sync tool keeps the same on each machine\n"
          "\n"
          "Options of report:\n"
          "  --data DIR          the installation's data folder (default: ./data)\n"
@@ -168,6 +196,10 @@ std::string usage(const std::string& program) {
          "  --year N            the child's year of life or the calendar year of the cycle\n"
          "                      diary (default: the one today falls in)\n"
          "  -o FILE.pdf         where to write the report (required)\n"
+         "\n"
+         "Options of sync:\n"
+         "  --data DIR          the installation's data folder (default: ./data)\n"
+         "  --cloud DIR         the cloud folder, kept from now on (default: the one set before)\n"
          "\n"
          "  --help              this text\n"
          "  --version           the program's version\n";

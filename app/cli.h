@@ -17,6 +17,7 @@ struct ServeOptions {
   std::filesystem::path imagesDir;
   std::filesystem::path resourcesDir;  // database templates and the translation table
   bool fakeClock = false;              // tests drive the clock over HTTP
+  std::filesystem::path cloudDir;      // set: sync through this folder from now on
 };
 
 struct ReportArgs {
@@ -29,10 +30,17 @@ struct ReportArgs {
   std::filesystem::path resourcesDir;
 };
 
+struct SyncArgs {
+  std::filesystem::path dataDir = "data";
+  std::filesystem::path cloudDir;  // set: sync through this folder from now on
+  std::filesystem::path resourcesDir;
+};
+
 struct Command {
-  enum Kind { kHelp, kVersion, kServe, kReport } kind = kHelp;
+  enum Kind { kHelp, kVersion, kServe, kReport, kSync } kind = kHelp;
   ServeOptions serve;
   ReportArgs report;
+  SyncArgs sync;
 };
 
 // Parses the arguments after the program name; nullopt with *error filled when they are wrong.

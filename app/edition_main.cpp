@@ -4,6 +4,7 @@
 #include "app/cli.h"
 #include "app/report.h"
 #include "app/serve.h"
+#include "app/sync.h"
 #include "core/edition.h"
 
 int main(int argc, char** argv) {
@@ -35,6 +36,11 @@ int main(int argc, char** argv) {
       args.imagesDir = LADANEYA_IMAGES_DIR;
       args.resourcesDir = LADANEYA_RESOURCES_DIR;
       return lad::app::report(LADANEYA_APPID, args);
+    }
+    case lad::app::Command::kSync: {
+      auto args = command->sync;
+      args.resourcesDir = LADANEYA_RESOURCES_DIR;
+      return lad::app::sync(LADANEYA_APPID, args);
     }
   }
   return 2;

@@ -65,6 +65,7 @@ int serve(int appid, const ServeOptions& o) {
     return 1;
   }
   installation->setImagesDir(o.imagesDir);
+  if (!o.cloudDir.empty()) installation->followCloudFolder(o.cloudDir);
   if (auto refusal = server::listenRefusal(o.host, installation->passwordSet()); !refusal.empty()) {
     std::fprintf(stderr, "%s\n", refusal.c_str());
     return 2;

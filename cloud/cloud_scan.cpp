@@ -19,31 +19,68 @@ bool isNewer(const Context& context, const std::string& name, Date changed) {
   return !receipt || *receipt < changed;
 }
 
-}  // namespace
-
-std::vector<PendingChange> pendingChanges(Context& context) {
-  std::vector<PendingChange> pending;
-  if (!hasCloudFolder(context)) return pending;
+// Whether the file's last change lies at least `settle` in the past.
+bool hasSettled(const std::filesystem::directory_entry& entry, std::chrono::milliseconds settle) {
   std::error_code error;
-  for (const auto& entry : std::filesystem::directory_iterator(cloudFolderOf(context), error)) {
-    const std::string name = entry.path().filename().string();
-    if (isHiddenFromScan(name) || isDirectory(entry.path())) continue;
-    if (!isChangeFileName(name)) {
-      context.values().oldCloudFound = true;
-      continue;
-    }
-    const auto changed = fileChangeDate(entry.path());
-    if (!changed || isReservedName(name) || !isNewer(context, name, *changed)) continue;
-    pending.push_back({name, entry.path(), *changed});
-  }
-  std::stable_sort(pending.begin(), pending.end(),
-                   [](const auto& a, const auto& b) { return a.changed < b.changed; });
-  return pending;
+  const auto changed = entry.last_write_time(error);
+  return !error && changed + settle <= std::filesystem::file_time_type::clock::now();
 }
 
-ScanReport scanCloudFolder(Store& store) {
+// A hidden name anywhere on the way from the folder (".sync/…") hides the file.
+bool isHiddenPath(const std::filesystem::path& relative) {
+  for (const auto& part : relative)
+    if (isHiddenFromScan(part.string())) return true;
+  return false;
+}
+
+void addEntry(Context& context, const std::filesystem::directory_entry& entry, bool atRoot,
+              std::chrono::milliseconds settle, CloudListing& listing) {
+  const std::string name = entry.path().filename().string();
+  ++listing.total;
+  if (!hasSettled(entry, settle)) return;
+  ++listing.down;
+  if (!atRoot || !isChangeFileName(name)) {
+    context.values().oldCloudFound = true;
+    listing.oldFormat.push_back(entry.path());
+    return;
+  }
+  const auto changed = fileChangeDate(entry.path());
+  if (!changed || isReservedName(name) || !isNewer(context, name, *changed)) return;
+  listing.pending.push_back({name, entry.path(), *changed});
+}
+
+}  // namespace
+
+int CloudListing::percent() const {
+  if (total == 0) return 0;
+  return static_cast<int>(static_cast<float>(down) / static_cast<float>(total) * 100.0f);
+}
+
+CloudListing listCloudFolder(Context& context, std::chrono::milliseconds settle) {
+  CloudListing listing;
+  if (!hasCloudFolder(context)) return listing;
+  const std::filesystem::path folder = cloudFolderOf(context);
+  std::error_code error;
+  for (std::filesystem::recursive_directory_iterator it(folder, error), end; !error && it != end;
+       it.increment(error)) {
+    const std::filesystem::path relative = it->path().lexically_relative(folder);
+    if (isHiddenPath(relative)) {
+      if (it->is_directory(error)) it.disable_recursion_pending();
+      continue;
+    }
+    if (it->is_regular_file(error)) addEntry(context, *it, it.depth() == 0, settle, listing);
+  }
+  std::stable_sort(listing.pending.begin(), listing.pending.end(),
+                   [](const auto& a, const auto& b) { return a.changed < b.changed; });
+  return listing;
+}
+
+ScanReport applyPending(Store& store, const std::vector<PendingChange>& pending,
+                        const ApplyProgress& progress) {
   ScanReport report;
-  for (const PendingChange& change : pendingChanges(store.context())) {
+  for (std::size_t i = 0; i < pending.size(); ++i) {
+    const PendingChange& change = pending[i];
+    if (progress) progress(i, pending.size());
     ChangeOutcome outcome =
         applyChangeFile(store, change.path, changeReceipt(store.context(), change.name));
     if (!outcome.applied) {
@@ -54,7 +91,12 @@ ScanReport scanCloudFolder(Store& store) {
     report.applied.push_back(change.name);
     for (std::string& note : outcome.notes) report.notes.push_back(change.name + ": " + note);
   }
+  if (progress) progress(pending.size(), pending.size());
   return report;
+}
+
+ScanReport scanCloudFolder(Store& store) {
+  return applyPending(store, listCloudFolder(store.context(), {}).pending);
 }
 
 }  // namespace lad

@@ -10,7 +10,8 @@ namespace lad {
 namespace {
 
 // A stored mode 2 runs as 11 once and is written back as a boolean, which reads as 1 at the
-// next launch; the retired modes 4 and 5 fall back to 1.
+// next launch; the retired modes 4 and 5 fall back to 1. The folder is watched from launch in
+// sync mode only.
 void readCloudMode(SettingsStore& settings, ProcessValues& v) {
   if (!settings.contains("icloud")) return;
   v.cloudMode = static_cast<int>(settings.integerForKey("icloud"));
@@ -22,6 +23,7 @@ void readCloudMode(SettingsStore& settings, ProcessValues& v) {
     v.cloudMode = 1;
     settings.set("icloud", true);
   }
+  v.cloudWatching = v.cloudMode == 11;
 }
 
 void readStoredFlags(SettingsStore& settings, ProcessValues& v) {

@@ -20,6 +20,7 @@ struct ProcessValues {
   bool showRec = true;
   int cloudMode = 1;
   int cloudPercent = -1;
+  bool cloudWatching = false;  // the cloud folder is watched and read in this run
   std::string cloudError;
   bool oldCloudFound = false;
   bool dropboxReady = false;

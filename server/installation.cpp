@@ -52,6 +52,13 @@ Installation::Installation(ContextOptions options) {
   });
   loop_.addTimer(
       kReminderCheck, [this] { deliverReminders(); }, true);
+  loop_.call([this] {
+    cloud_ = std::make_unique<CloudFollower>(
+        loop_, *app_, [this](const PassOutcome& o, bool percent) { afterCloudPass(o, percent); });
+    cloud_->poll();
+  });
+  loop_.addTimer(
+      CloudFollower::kPollInterval, [this] { cloud_->poll(); }, true);
 }
 
 Installation::~Installation() {
@@ -151,6 +158,16 @@ FileReply Installation::report(const std::string& session, const std::string& na
   });
 }
 
+void Installation::followCloudFolder(const std::filesystem::path& folder) {
+  loop_.call([&] {
+    Context& context = app_->context();
+    context.settings().set("cloudFolder", folder.string());
+    context.values().cloudWatching = true;
+    chooseCloudSync(context);
+    cloud_->poll();
+  });
+}
+
 void Installation::setImagesDir(const std::filesystem::path& dir) {
   loop_.call([&] { app_->setImagesDir(dir); });
 }
@@ -213,6 +230,16 @@ void Installation::deliverReminders() {
                  [this](const std::string& session) { return unlocked(session); });
   }
   if (!due.empty()) refresh("");
+}
+
+void Installation::afterCloudPass(const PassOutcome& outcome, bool percentChanged) {
+  if (outcome.dataChanged) app_->dataChanged();
+  for (const CloudNotice& notice : outcome.notices) {
+    for (auto& [id, entry] : sessions_)
+      entry.session->showMessage(
+          shell::MessageBox::make(app_->context(), notice.text, notice.caption));
+  }
+  if (outcome.dataChanged || percentChanged || !outcome.notices.empty()) refresh("");
 }
 
 void Installation::refresh(const std::string& origin) {

@@ -11,6 +11,7 @@
 #include <unordered_map>
 
 #include "core/context.h"
+#include "server/cloud_follower.h"
 #include "server/event_hub.h"
 #include "server/main_loop.h"
 #include "shell/application.h"
@@ -55,6 +56,8 @@ class Installation {
   std::optional<std::string> calendarFeed(std::string_view name);
   // The report the session asked for, once it is made; 404 before and for any other name.
   FileReply report(const std::string& session, const std::string& name);
+  // Syncs through the folder from now on, as if it had been chosen on the cloud screen.
+  void followCloudFolder(const std::filesystem::path& folder);
   // Where the reports find their pictures.
   void setImagesDir(const std::filesystem::path& dir);
   // The lock is on with a code: only then may other machines be served.
@@ -92,11 +95,14 @@ class Installation {
   // Shows the reminders whose minute has come in every browser, and tells the unlocked ones,
   // which may show them as system notifications while hidden.
   void deliverReminders();
+  // What a pass of the cloud folder changed reaches the browsers.
+  void afterCloudPass(const PassOutcome& outcome, bool percentChanged);
 
   MainLoop loop_;
   EventHub hub_;
   std::unique_ptr<shell::Application> app_;
   std::unordered_map<std::string, SessionEntry> sessions_;
+  std::unique_ptr<CloudFollower> cloud_;  // goes first: its watcher posts to the loop
   std::uint64_t useCounter_ = 0;
   bool shutDown_ = false;
 };

@@ -80,6 +80,11 @@ void Application::resignActive() {
   context_->settings().synchronize();
 }
 
+BulkCopy& Application::startCloudCopy() {
+  cloudCopy_ = std::make_unique<BulkCopy>(*store_);
+  return *cloudCopy_;
+}
+
 void Application::setImagesDir(std::filesystem::path dir) {
   reports_->setImagesDir(dir);
   imagesDir_ = std::move(dir);

@@ -10,6 +10,7 @@
 #include <optional>
 #include <string>
 
+#include "cloud/bulk_copy.h"
 #include "core/context.h"
 #include "health/breast_timer.h"
 #include "health/contraction_timer.h"
@@ -71,6 +72,12 @@ class Application {
 
   // The PDF reports, made one after another away from the main thread.
   ReportMaker& reports() { return *reports_; }
+  // The copy of the whole diary into the cloud folder while it runs, else null. It belongs to
+  // the installation, so that it goes on when its screen is closed.
+  BulkCopy* cloudCopy() { return cloudCopy_.get(); }
+  BulkCopy& startCloudCopy();
+  void endCloudCopy() { cloudCopy_.reset(); }
+
   // Where the charts and the reports find their pictures.
   const std::filesystem::path& imagesDir() const { return imagesDir_; }
   void setImagesDir(std::filesystem::path dir);
@@ -94,6 +101,7 @@ class Application {
   std::map<std::string, health::BreastTimer> breastTimers_;
   std::uint64_t dataVersion_ = 0;
   ReminderSchedule reminders_;
+  std::unique_ptr<BulkCopy> cloudCopy_;
   std::unique_ptr<ReportMaker> reports_;  // goes first: its worker uses the store
   std::filesystem::path imagesDir_;
 };

@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <charconv>
 
+#include "cloud/cloud_texts.h"
 #include "core/menu_table.h"
 #include "shell/page_ring.h"
 #include "shell/pages.h"
@@ -28,6 +29,8 @@ struct SwitchSetting {
 namespace {
 
 constexpr std::string_view kTargetPrefix = "menu:";
+// The cloud row tells the mode and how complete the folder is.
+constexpr int kCloudRow = 38;
 
 const SwitchSetting kSwitches[] = {
     {51, "emptyNote", nullptr, false, true, 0ms},
@@ -82,6 +85,10 @@ RowView MainMenu::rowOf(const Value& item) const {
   row.icon = item["pic"].text();
   row.caption = item["name"].text();
   row.comment = item["comment"].text();
+  if (id == kCloudRow) {  // the line tells the mode in place of the row's own texts
+    row.caption = cloudText(context_);
+    row.comment.clear();
+  }
   if (item["hint"].intValue() > 0) row.badge = item["hint"].text();
   row.enabled = isBuilt(id);
   if (item["tp"].intValue() == kMenuSwitch) row.checked = item["checked"].boolValue();

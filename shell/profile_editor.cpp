@@ -1,5 +1,6 @@
 #include "shell/profile_editor.h"
 
+#include "cloud/cloud_writers.h"
 #include "shell/editor/detail_rows.h"
 #include "shell/editor/field_check.h"
 #include "shell/editor/row_picker.h"
@@ -96,6 +97,7 @@ void ProfileEditor::askRemoval() {
 EventResult ProfileEditor::finish() {
   std::string photoError;
   saved_ = dialog_->finish(&photoError);
+  cloudProfileChanged(app_.store(), saved_);
   closed_ = true;
   if (!photoError.empty())
     host_.showMessage(MessageBox::make(app_.context(), photoError, "Ошибка"));

@@ -5,6 +5,7 @@
 
 #include "core/ids.h"
 #include "shell/child/child_dialog.h"
+#include "shell/cloud_screen.h"
 #include "shell/diary/day_editor.h"
 #include "shell/pages.h"
 #include "shell/profile_editor.h"
@@ -27,6 +28,7 @@ constexpr int kBackgroundRow = 42;
 constexpr int kPasswordSwitch = 52;
 constexpr int kReminderFeedRow = 57;
 constexpr int kReportRow = 21;
+constexpr int kCloudRow = 38;
 
 bool isNumber(const Value& v) {
   return v.type() == Value::Type::Integer || v.type() == Value::Type::Double;
@@ -76,6 +78,7 @@ void Session::addMenuCommands() {
   menu_.onCommand(kReminderFeedRow,
                   showing([this] { push(std::make_shared<ReminderFeedScreen>(app_, *this)); }));
   menu_.onCommand(kReportRow, [this] { return reports_.ask(profileId()); });
+  menu_.onCommand(kCloudRow, showing([this] { push(std::make_shared<CloudScreen>(app_, *this)); }));
   menu_.onCommand(kPasswordSwitch, [this] { return togglePassword(); });
 }
 

@@ -2,6 +2,7 @@
 
 #include <charconv>
 
+#include "cloud/cloud_writers.h"
 #include "core/context.h"
 #include "core/text_fill.h"
 #include "health/child_teeth.h"
@@ -389,6 +390,7 @@ EventResult DayEditor::write() {
     host_.showMessage(
         MessageBox::make(app_.context(), "Не удалось сохранить фотографию", "Ошибка"));
   saveNoteData(app_.store(), kNoteFromEditor, rows_, listData_, gid_, day_);
+  cloudDayChanged(app_.store(), day_, gid_);
   needSave_ = false;
   EventResult result;
   result.installationChanged = true;

@@ -2,6 +2,7 @@
 
 #include <algorithm>
 
+#include "cloud/cloud_writers.h"
 #include "core/context.h"
 #include "core/edition.h"
 #include "core/menu_table.h"
@@ -289,6 +290,7 @@ void DiaryList::askDeletion(std::size_t at) {
         if (answer.button != kConsent) return EventResult();
         noteDeleteValue(app.store(), day, std::nullopt, gid);
         removeDayFiles(app.context(), day, gid, analyses);
+        cloudDayChanged(app.store(), day, gid);
         EventResult result;
         result.installationChanged = true;
         return result;

@@ -6,6 +6,7 @@
 
 #include "app/cli.h"
 #include "shell/application.h"
+#include "tests/app/program_run.h"
 #include "tests/fixtures/diary_generator.h"
 #include "tests/support/test_files.h"
 
@@ -14,20 +15,8 @@ namespace {
 
 using ::testing::HasSubstr;
 
-struct ProgramRun {
-  int status = -1;
-  std::string output;  // standard output and error together
-};
-
-ProgramRun run(const std::string& args) {
-  ProgramRun r;
-  const std::string command = std::string(LADANEYA_PROGRAM) + " report " + args + " 2>&1";
-  FILE* pipe = popen(command.c_str(), "r");
-  char buffer[512];
-  while (std::size_t n = std::fread(buffer, 1, sizeof buffer, pipe)) r.output.append(buffer, n);
-  const int status = pclose(pipe);
-  r.status = WIFEXITED(status) ? WEXITSTATUS(status) : -1;
-  return r;
+testing::ProgramRun run(const std::string& args) {
+  return testing::runProgram("report", args);
 }
 
 std::string head(const std::filesystem::path& file, std::size_t n) {
@@ -76,7 +65,7 @@ TEST(ReportCommand, WritesTheReportsOfAPregnancyAndNothingOnFailure) {
     testing::generateDiary(app.store(), "CLI-PROFILE", first, 30, 0);
   }
   const auto diary = dir.path() / "diary.pdf";
-  ProgramRun r = run("--data " + data.string() + " -o " + diary.string());
+  testing::ProgramRun r = run("--data " + data.string() + " -o " + diary.string());
   EXPECT_EQ(r.status, 0) << r.output;
   EXPECT_EQ(head(diary, 5), "%PDF-");
   // Not on a terminal: no progress line, only the file's name.

@@ -1,0 +1,53 @@
+#include "app/sync.h"
+
+#include <unistd.h>
+
+#include <cstdio>
+
+#include "cloud/cloud_pass.h"
+#include "shell/application.h"
+
+namespace lad::app {
+
+namespace {
+
+// "files 12 of 300" rewritten in place, when a person watches the terminal.
+ApplyProgress terminalProgress() {
+  if (!isatty(STDERR_FILENO)) return {};
+  return [](std::size_t done, std::size_t total) {
+    std::fprintf(stderr, "\rfiles %zu of %zu", done, total);
+    if (done == total) std::fprintf(stderr, "\n");
+  };
+}
+
+void printOutcome(const PassOutcome& outcome, int percent) {
+  std::printf("%zu change files applied; the folder is %d%% complete\n",
+              outcome.report.applied.size(), percent);
+  for (const SkippedChange& skipped : outcome.report.skipped)
+    std::printf("skipped %s: %s\n", skipped.name.c_str(), skipped.reason.c_str());
+  for (const std::string& note : outcome.report.notes) std::printf("note %s\n", note.c_str());
+  for (const std::string& error : outcome.importErrors) std::printf("%s\n", error.c_str());
+  for (const CloudNotice& notice : outcome.notices) std::printf("%s\n", notice.text.c_str());
+}
+
+}  // namespace
+
+int sync(int appid, const SyncArgs& args) {
+  shell::Application app(ContextOptions{appid, 1, args.dataDir, "", nullptr, args.resourcesDir});
+  Context& context = app.context();
+  if (!args.cloudDir.empty()) {
+    context.settings().set("cloudFolder", args.cloudDir.string());
+    chooseCloudSync(context);
+  }
+  const int mode = context.values().cloudMode;
+  if (mode != kCloudSync && mode != kCloudImport) {
+    std::fprintf(stderr, "this diary does not sync through a cloud folder: give --cloud DIR\n");
+    return 2;
+  }
+  const PassOutcome outcome = cloudPass(app.store(), {kSettleTime, nullptr, terminalProgress()});
+  printOutcome(outcome, context.values().cloudPercent);
+  context.settings().synchronize();
+  return 0;
+}
+
+}  // namespace lad::app
