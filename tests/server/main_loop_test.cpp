@@ -12,37 +12,14 @@
 #include <thread>
 #include <vector>
 
+#include "tests/support/wait_counter.h"
+
 namespace lad::server {
 namespace {
 
 using namespace std::chrono_literals;
 
-constexpr auto kDeadline = 15s;
-
-// A counter that other threads bump and the test waits on.
-class Counter {
- public:
-  void bump() {
-    {
-      std::lock_guard lock(mutex_);
-      ++value_;
-    }
-    changed_.notify_all();
-  }
-  bool waitAtLeast(int n) {
-    std::unique_lock lock(mutex_);
-    return changed_.wait_for(lock, kDeadline, [&] { return value_ >= n; });
-  }
-  int value() {
-    std::lock_guard lock(mutex_);
-    return value_;
-  }
-
- private:
-  std::mutex mutex_;
-  std::condition_variable changed_;
-  int value_ = 0;
-};
+using Counter = testing::WaitCounter;
 
 TEST(MainLoopTest, RunsPostedTasksInOrderOnOneOtherThread) {
   MainLoop loop;
