@@ -155,9 +155,9 @@ EventResult CloudScreen::closeOK() {
     v.cloudWatching = false;  // the mode itself stays, as stored
     return result;
   }
+  v.cloudWatching = true;  // chosen again after it was turned off for this run
   if (pending == v.cloudMode && !folderChanged()) return result;
   context.settings().set("cloudFolder", folder_);
-  v.cloudWatching = true;
   v.cloudPercent = -1;
   chooseCloudSync(context);
   return result;
