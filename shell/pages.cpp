@@ -8,6 +8,7 @@
 #include "shell/title_page.h"
 #include "shell/week/baby_page.h"
 #include "shell/week/today_page.h"
+#include "shell/week/woman_page.h"
 
 namespace lad::shell {
 
@@ -16,7 +17,7 @@ std::set<int> builtPages(int appid) {
   // The title page, the week pages and the contraction counter are a pregnancy's; the child's
   // graphs on the same rows are still to come.
   if (isPregnancyEdition(appid))
-    pages.insert({kTodayPage, kTitlePage, kBabyPage, kContractionsPage});
+    pages.insert({kTodayPage, kTitlePage, kBabyPage, kWomanPage, kContractionsPage});
   // The cycle edition's today and woman's pages are her cycle's.
   if (isCycleEdition(appid)) pages.insert({kTodayPage, kWomanPage});
   return pages;
@@ -39,6 +40,8 @@ std::shared_ptr<Screen> makePage(int page, const PageArgs& args) {
       if (!isPregnancyEdition(args.app.context().values().appid)) return nullptr;
       return std::make_shared<BabyPage>(args.app, args.gid, args.scale);
     case kWomanPage:
+      if (isPregnancyEdition(args.app.context().values().appid))
+        return std::make_shared<WomanPage>(args.app, args.gid, args.scale);
       if (!isCycleEdition(args.app.context().values().appid)) return nullptr;
       return std::make_shared<CycleCalendar>(args.app, args.host, args.gid, args.diary, false,
                                              args.fromMenu);

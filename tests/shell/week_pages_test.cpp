@@ -4,11 +4,13 @@
 #include "content/resource.h"
 #include "core/text_fill.h"
 #include "core/text_parts.h"
+#include "core/value.h"
 #include "health/growth_series.h"
 #include "shell/week/baby_page.h"
 #include "shell/week/reading.h"
 #include "shell/week/today_page.h"
 #include "shell/week/week_facts.h"
+#include "shell/week/woman_page.h"
 #include "tests/fixtures/diary_generator.h"
 #include "tests/shell/application_fixture.h"
 
@@ -158,6 +160,38 @@ TEST_F(WeekPagesTest, BabyMarksThePresentWeekOfAnOrganAndDimsTheFutureAchievemen
   EXPECT_THAT(rowTexts(brain), ::testing::Contains(HasSubstr("30 неделя")));
   EXPECT_FALSE(page.tap("baby:organ:10").ok());
   EXPECT_FALSE(page.tap("baby:organ:x").ok());
+}
+
+TEST_F(WeekPagesTest, WomanShowsTheMonthsBodyTheFruitTheWeightAndTheWheel) {
+  Value view = shell::WomanPage(*app, pregnancyOnDay(81), 1).view();  // month 3, week 12
+  const Value& body = *child(view, "hintPicture");
+  EXPECT_EQ(body["picture"].text(), "wom-3.png");
+  EXPECT_EQ(body["width"].doubleValue(), 640);
+  std::vector<std::string> names;
+  for (const Value& hint : *body["hints"].asList()) {
+    names.push_back(hint["name"].text());
+    EXPECT_GT(hint["x"].doubleValue(), 0);
+    EXPECT_LT(hint["y"].doubleValue(), body["height"].doubleValue());
+  }
+  EXPECT_EQ(names.size(), 16u);
+  EXPECT_THAT(names, ::testing::Contains("Глазное пятно"));
+  const auto length = health::getVesRost(11, 1).rost;
+  EXPECT_EQ((*child(view, "text", "id", "fruit"))["text"].text(),
+            "Малыш размером с лайм.\nДлина от макушки до копчика составляет " +
+                formatDouble(length) + " мм.");
+  EXPECT_EQ((*child(view, "section"))["caption"].text(), "Прибавка в весе (килограммы)");
+  EXPECT_THAT((*child(view, "svg", "id", "weight"))["svg"].text(), StartsWith("<svg"));
+  EXPECT_GT((*child(view, "svg", "id", "wheel"))["height"].doubleValue(), 300);
+
+  // Week 3 has no size yet; a long pregnancy keeps the last month and fruit.
+  view = shell::WomanPage(*app, pregnancyOnDay(20), 1).view();
+  EXPECT_EQ((*child(view, "text", "id", "fruit"))["text"].text(),
+            std::string(week::fruitCaption(0)) + " -");
+  EXPECT_EQ((*child(view, "hintPicture"))["picture"].text(), "wom-1.png");
+  view = shell::WomanPage(*app, pregnancyOnDay(320), 1).view();
+  EXPECT_EQ((*child(view, "hintPicture"))["picture"].text(), "wom-9.png");
+  EXPECT_THAT((*child(view, "text", "id", "fruit"))["text"].text(),
+              StartsWith("Малыш достиг размера арбуза."));
 }
 
 }  // namespace
