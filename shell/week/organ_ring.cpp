@@ -14,6 +14,7 @@ constexpr draw::Color kTrack{0.85, 0.87, 0.9};
 constexpr draw::Color kArc{0.1098, 0.4392, 0.6706};
 constexpr draw::Color kDone{0.2, 0.65, 0.3};
 constexpr draw::Color kCaption{0.2, 0.2, 0.2};
+constexpr draw::Color kCard{1, 1, 1, 0.92};
 constexpr double kTop = -std::numbers::pi / 2;
 
 double radians(double degrees) {
@@ -40,17 +41,21 @@ void drawOrgan(draw::Canvas& c, draw::Point at, double radius, int degrees, doub
 
 void drawOrganRing(draw::Canvas& c, draw::Rect r, std::span<const OrganArc> organs, double scale) {
   if (organs.empty()) return;
+  // A light card under the rings keeps them readable over any theme's picture.
+  c.fillPath(draw::Path().addRoundedRect(r, 16 * scale), kCard);
   const draw::Point centre = r.centre();
-  const double small = std::min(r.w, r.h) * 0.09;
-  const double big = std::min(r.w, r.h) / 2 - small * 2.2;
-  const double line = 4 * scale;
+  const double side = std::min(r.w, r.h);
+  const double small = side * 0.07;
+  const double big = side / 2 - small * 2.3;
+  const double line = 3 * scale;
   c.strokePath(draw::Path().arc(centre, big, 0, 2 * std::numbers::pi), kTrack, scale);
   const double step = 2 * std::numbers::pi / static_cast<double>(organs.size());
   for (std::size_t i = 0; i < organs.size(); ++i) {
     const double angle = kTop + step * static_cast<double>(i);
     const draw::Point at{centre.x + big * std::cos(angle), centre.y + big * std::sin(angle)};
     drawOrgan(c, at, small, organs[i].degrees, line);
-    c.drawText(organs[i].caption, {at.x - small * 2, at.y + small + 2 * scale, small * 4, small},
+    c.drawText(organs[i].caption,
+               {at.x - small * 1.8, at.y + small + 2 * scale, small * 3.6, small},
                {9 * scale, false}, kCaption, draw::Align::Center);
   }
 }

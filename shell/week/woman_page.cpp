@@ -3,6 +3,7 @@
 #include "charts/chart.h"
 #include "charts/preg_graph.h"
 #include "drawing/image_size.h"
+#include "drawing/path.h"
 #include "drawing/recording_canvas.h"
 #include "drawing/render.h"
 #include "health/growth_series.h"
@@ -25,6 +26,7 @@ namespace {
 constexpr double kWidth = 300, kGraphHeight = 200;  // in units of the device scale
 constexpr draw::Size kBodySize{640, 800};           // the body pictures' own size
 constexpr draw::Color kInk{0.17, 0.14, 0.13};
+constexpr draw::Color kCard{1, 1, 1, 0.92};
 
 // The fruit the child's size is like this week, and the child's length.
 std::string fruitLine(const Context& context, int week, int day) {
@@ -65,6 +67,8 @@ Value WomanPage::wheel(int week) const {
   const double width = kWidth * scale_;
   const double height = charts::drawWomanChart(measure, {0, 0, width, 1e5}, style);
   const std::string svg = draw::renderSvg({width, height}, [&](draw::Canvas& c) {
+    // A light card under the wheel keeps its week numbers readable over any theme's picture.
+    c.fillPath(draw::Path().addRoundedRect({0, 0, width, height}, 16 * scale_), kCard);
     charts::drawWomanChart(c, {0, 0, width, height}, style);
   });
   return SvgView{"wheel", svg, width, height}.toValue();
@@ -77,7 +81,7 @@ Value WomanPage::view() {
   const int day = getCurDay(context, setup);
   List children;
   children.push_back(bodyPicture(day));
-  children.push_back(TextView{fruitLine(context, week, day), "fruit", std::nullopt}.toValue());
+  children.push_back(TextView{fruitLine(context, week, day), "fruit", 1}.toValue());
   children.push_back(SectionView{context.translate("Прибавка в весе (килограммы)")}.toValue());
   children.push_back(weightGraph(setup));
   children.push_back(wheel(week));

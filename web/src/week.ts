@@ -34,17 +34,25 @@ export function renderMovie(node: MovieNode): HTMLElement {
   return movie;
 }
 
-/** The picture scales to the width; its points keep their places as shares of its size. */
+/**
+ * The picture scales to the width; its points are numbered marks that keep their places as
+ * shares of its size, named in the list under it, so that no name covers the picture.
+ */
 export function renderHintPicture(node: HintPictureNode): HTMLElement {
   const box = element('div', 'hint-picture');
-  box.style.aspectRatio = `${node.width} / ${node.height}`;
-  box.append(renderIcon(node.picture, 'hint-image'));
-  for (const hint of node.hints) {
-    const label = element('span', 'hint', hint.name);
-    label.style.left = `${(100 * hint.x) / node.width}%`;
-    label.style.top = `${(100 * hint.y) / node.height}%`;
-    box.append(label);
-  }
+  const picture = element('div', 'hint-frame');
+  picture.style.aspectRatio = `${node.width} / ${node.height}`;
+  picture.append(renderIcon(node.picture, 'hint-image'));
+  const legend = element('ol', 'hint-legend');
+  node.hints.forEach((hint, i) => {
+    const mark = element('span', 'hint', String(i + 1));
+    mark.title = hint.name;
+    mark.style.left = `${(100 * hint.x) / node.width}%`;
+    mark.style.top = `${(100 * hint.y) / node.height}%`;
+    picture.append(mark);
+    legend.append(element('li', 'hint-name', hint.name));
+  });
+  box.append(picture, legend);
   return box;
 }
 
