@@ -38,10 +38,10 @@ std::shared_ptr<Screen> makePage(int page, const PageArgs& args) {
       return std::make_shared<CycleToday>(args.app, args.host, args.gid, args.diary);
     case kBabyPage:
       if (!isPregnancyEdition(args.app.context().values().appid)) return nullptr;
-      return std::make_shared<BabyPage>(args.app, args.gid, args.scale);
+      return std::make_shared<BabyPage>(args.app, args.host, args.gid, args.scale);
     case kWomanPage:
       if (isPregnancyEdition(args.app.context().values().appid))
-        return std::make_shared<WomanPage>(args.app, args.gid, args.scale);
+        return std::make_shared<WomanPage>(args.app, args.host, args.gid, args.scale);
       if (!isCycleEdition(args.app.context().values().appid)) return nullptr;
       return std::make_shared<CycleCalendar>(args.app, args.host, args.gid, args.diary, false,
                                              args.fromMenu);

@@ -11,6 +11,7 @@
 #include "shell/week/organ_ring.h"
 #include "shell/week/page_title.h"
 #include "shell/week/reading.h"
+#include "shell/week/reading_screen.h"
 #include "shell/week/week_facts.h"
 #include "store/setup_data.h"
 
@@ -28,8 +29,8 @@ std::string organIcon(std::string_view file) {
 
 }  // namespace
 
-BabyPage::BabyPage(Application& app, std::string gid, double scale)
-    : app_(app), gid_(std::move(gid)), scale_(scale) {}
+BabyPage::BabyPage(Application& app, ScreenHost& host, std::string gid, double scale)
+    : app_(app), host_(host), gid_(std::move(gid)), scale_(scale) {}
 
 Value BabyPage::ring(int daysSinceStart) const {
   std::vector<week::OrganArc> arcs;
@@ -80,6 +81,8 @@ Value BabyPage::view() {
   children.push_back(
       TextView{ageString(context, AgeMode::ObstetricAge, setup), "", std::nullopt}.toValue());
   children.push_back(ring(days));
+  children.push_back(
+      ButtonsView{{{std::string(kChild), context.translate("Малыш по неделям"), {}}}}.toValue());
   children.push_back(organList(days));
   children.push_back(SectionView{context.translate(week::organs()[organ_].caption)}.toValue());
   children.push_back(organText(setup, getCurWeek(context, setup)));
@@ -87,6 +90,14 @@ Value BabyPage::view() {
 }
 
 EventResult BabyPage::tap(std::string_view target) {
+  if (target == kChild) {
+    // The child's week by week, with the present week marked.
+    const Context& context = app_.context();
+    const Map setup = loadSetupData(app_.store(), gid_);
+    host_.push(openWeekText(context, context.translate("Малыш по неделям"), "child-u",
+                            getCurWeek(context, setup), setup["dat1"].asDate()));
+    return {};
+  }
   if (target.starts_with(kOrganTarget)) {
     const auto number = target.substr(kOrganTarget.size());
     std::size_t index = 0;

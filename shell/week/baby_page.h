@@ -6,12 +6,15 @@
 
 #include "shell/application.h"
 #include "shell/screen.h"
+#include "shell/screen_host.h"
 
 namespace lad::shell {
 
 class BabyPage : public Screen {
  public:
-  BabyPage(Application& app, std::string gid, double scale);
+  static constexpr std::string_view kChild = "baby:child";
+
+  BabyPage(Application& app, ScreenHost& host, std::string gid, double scale);
 
   Value view() override;
   EventResult tap(std::string_view target) override;
@@ -22,6 +25,7 @@ class BabyPage : public Screen {
   Value organText(const Map& setup, int week) const;
 
   Application& app_;
+  ScreenHost& host_;
   std::string gid_;
   double scale_;
   std::size_t organ_ = 0;  // the organ whose text is open

@@ -16,6 +16,7 @@
 #include "shell/views/week.h"
 #include "shell/week/body_hints.h"
 #include "shell/week/page_title.h"
+#include "shell/week/reading_screen.h"
 #include "shell/week/week_facts.h"
 #include "store/setup_data.h"
 
@@ -36,8 +37,8 @@ std::string fruitLine(const Context& context, int week, int day) {
 
 }  // namespace
 
-WomanPage::WomanPage(Application& app, std::string gid, double scale)
-    : app_(app), gid_(std::move(gid)), scale_(scale) {}
+WomanPage::WomanPage(Application& app, ScreenHost& host, std::string gid, double scale)
+    : app_(app), host_(host), gid_(std::move(gid)), scale_(scale) {}
 
 Value WomanPage::bodyPicture(int day) const {
   const Context& context = app_.context();
@@ -82,14 +83,26 @@ Value WomanPage::view() {
   List children;
   children.push_back(bodyPicture(day));
   children.push_back(TextView{fruitLine(context, week, day), "fruit", 1}.toValue());
+  children.push_back(ButtonsView{{{std::string(kDetail), context.translate("Подробнее"), {}},
+                                  {std::string(kSize), context.translate("Размер малыша"), {}}}}
+                         .toValue());
   children.push_back(SectionView{context.translate("Прибавка в весе (килограммы)")}.toValue());
   children.push_back(weightGraph(setup));
   children.push_back(wheel(week));
   return PageView{week::pageTitle(context, kWomanPage), std::move(children)}.toValue();
 }
 
+// The mother's week by week, or the child's size by week, with the present week marked.
 EventResult WomanPage::tap(std::string_view target) {
-  return EventResult::refused("the woman page has no control " + std::string(target));
+  if (target != kDetail && target != kSize)
+    return EventResult::refused("the woman page has no control " + std::string(target));
+  const Context& context = app_.context();
+  const Map setup = loadSetupData(app_.store(), gid_);
+  const bool size = target == kSize;
+  host_.push(openWeekText(context, context.translate(size ? "Размер малыша" : "Подробнее"),
+                          size ? "childsize-u" : "woman-u", getCurWeek(context, setup),
+                          setup["dat1"].asDate()));
+  return {};
 }
 
 }  // namespace lad::shell

@@ -6,12 +6,16 @@
 
 #include "shell/application.h"
 #include "shell/screen.h"
+#include "shell/screen_host.h"
 
 namespace lad::shell {
 
 class WomanPage : public Screen {
  public:
-  WomanPage(Application& app, std::string gid, double scale);
+  static constexpr std::string_view kDetail = "woman:detail";
+  static constexpr std::string_view kSize = "woman:size";
+
+  WomanPage(Application& app, ScreenHost& host, std::string gid, double scale);
 
   Value view() override;
   EventResult tap(std::string_view target) override;
@@ -22,6 +26,7 @@ class WomanPage : public Screen {
   Value wheel(int week) const;
 
   Application& app_;
+  ScreenHost& host_;
   std::string gid_;
   double scale_;
 };

@@ -88,8 +88,30 @@ const Value* child(const Value& page, std::string_view kind, std::string_view ke
   return nullptr;
 }
 
+// Keeps the screen a page opens over itself.
+struct PushedScreen : shell::ScreenHost {
+  void push(std::shared_ptr<shell::Screen> s) override { screen = std::move(s); }
+  void openPopup(std::unique_ptr<shell::Popup>, PopupAction) override {}
+  void showMessage(shell::MessageBox) override {}
+  std::shared_ptr<shell::Screen> screen;
+};
+
 class WeekPagesTest : public ApplicationTest {
  protected:
+  // The text opened over the page: its title, the group marked and the headings shown.
+  void expectWeekText(const char* title, int week) {
+    ASSERT_TRUE(host.screen);
+    const Value view = host.screen->view();
+    EXPECT_EQ(view["title"].text(), title);
+    const Value& text = *child(view, "content", "id", "reading");
+    EXPECT_EQ(text["highlight"].intValue(), week);
+    EXPECT_THAT(rowTexts(text), ::testing::Contains(StartsWith(std::to_string(week) + " неделя")));
+    EXPECT_FALSE(host.screen->closed());
+    EXPECT_TRUE(host.screen->tap("reading:close").ok());
+    EXPECT_TRUE(host.screen->closed());
+    host.screen.reset();
+  }
+  PushedScreen host;
   // A new pregnancy, on its day `day` today; returns its profile.
   std::string pregnancyOnDay(int day) {
     if (!app) launchApp(1);
@@ -132,7 +154,7 @@ TEST_F(WeekPagesTest, TodayShowsTheCardsPictureAndTextsOfThePresentWeek) {
 }
 
 TEST_F(WeekPagesTest, BabyMarksThePresentWeekOfAnOrganAndDimsTheFutureAchievements) {
-  shell::BabyPage page(*app, pregnancyOnDay(204), 1);  // week 30, 203 days since the start
+  shell::BabyPage page(*app, host, pregnancyOnDay(204), 1);  // week 30, 203 days since the start
   Value view = page.view();
   EXPECT_THAT((*child(view, "svg", "id", "organs"))["svg"].text(), StartsWith("<svg"));
   const List& organs = *(*child(view, "list"))["rows"].asList();
@@ -158,12 +180,15 @@ TEST_F(WeekPagesTest, BabyMarksThePresentWeekOfAnOrganAndDimsTheFutureAchievemen
   const Value& brain = *child(view, "content", "id", "organ");
   EXPECT_EQ(brain["highlight"].intValue(), 30);
   EXPECT_THAT(rowTexts(brain), ::testing::Contains(HasSubstr("30 неделя")));
+  ASSERT_TRUE(page.tap("baby:child").ok());
+  expectWeekText("Малыш по неделям", 30);
   EXPECT_FALSE(page.tap("baby:organ:10").ok());
   EXPECT_FALSE(page.tap("baby:organ:x").ok());
 }
 
 TEST_F(WeekPagesTest, WomanShowsTheMonthsBodyTheFruitTheWeightAndTheWheel) {
-  Value view = shell::WomanPage(*app, pregnancyOnDay(81), 1).view();  // month 3, week 12
+  shell::WomanPage page(*app, host, pregnancyOnDay(81), 1);  // month 3, week 12
+  Value view = page.view();
   const Value& body = *child(view, "hintPicture");
   EXPECT_EQ(body["picture"].text(), "wom-3.png");
   EXPECT_EQ(body["width"].doubleValue(), 640);
@@ -183,12 +208,18 @@ TEST_F(WeekPagesTest, WomanShowsTheMonthsBodyTheFruitTheWeightAndTheWheel) {
   EXPECT_THAT((*child(view, "svg", "id", "weight"))["svg"].text(), StartsWith("<svg"));
   EXPECT_GT((*child(view, "svg", "id", "wheel"))["height"].doubleValue(), 300);
 
+  ASSERT_TRUE(page.tap("woman:size").ok());
+  expectWeekText("Размер малыша", 12);
+  ASSERT_TRUE(page.tap("woman:detail").ok());
+  expectWeekText("Подробнее", 12);
+  EXPECT_FALSE(page.tap("woman:other").ok());
+
   // Week 3 has no size yet; a long pregnancy keeps the last month and fruit.
-  view = shell::WomanPage(*app, pregnancyOnDay(20), 1).view();
+  view = shell::WomanPage(*app, host, pregnancyOnDay(20), 1).view();
   EXPECT_EQ((*child(view, "text", "id", "fruit"))["text"].text(),
             std::string(week::fruitCaption(0)) + " -");
   EXPECT_EQ((*child(view, "hintPicture"))["picture"].text(), "wom-1.png");
-  view = shell::WomanPage(*app, pregnancyOnDay(320), 1).view();
+  view = shell::WomanPage(*app, host, pregnancyOnDay(320), 1).view();
   EXPECT_EQ((*child(view, "hintPicture"))["picture"].text(), "wom-9.png");
   EXPECT_THAT((*child(view, "text", "id", "fruit"))["text"].text(),
               StartsWith("Малыш достиг размера арбуза."));
