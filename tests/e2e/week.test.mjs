@@ -1,8 +1,8 @@
 // Browser test of a pregnancy's week pages: for a pregnancy in week 12 and one in week 30, the
 // today page shows the week's cards, its moving picture and only that week's texts for mother
 // and child; the baby page marks the week in an organ's text; the woman's page shows the body of
-// the month with its named parts, the fruit line and the graphs. Screenshots at phone and tablet
-// size.
+// the month with its named parts, the fruit line and the graphs, and opens the child's size by
+// week at the present week. Screenshots at phone and tablet size.
 //   node tests/e2e/week.test.mjs --server PATH_TO_SERVER --out SCREENSHOT_DIR
 import assert from 'node:assert/strict';
 import fs from 'node:fs';
@@ -137,21 +137,48 @@ async function checkWoman(page, p) {
   assert.equal(await page.locator('.ring-page svg').count(), 2, 'the weight graph and the wheel');
 }
 
+/** The child's size by week, opened over the woman's page at the present week, and closed. */
+async function checkSizeText(page, p, shot) {
+  await page.tap('.ring-page button[data-id="woman:size"]');
+  await page.waitForSelector('.content[data-content="reading"] .content-row.highlight');
+  const marked = await page.$$eval('.content-row.highlight', (rows) =>
+    rows.map((row) => row.textContent),
+  );
+  assert.ok(marked[0]?.startsWith(`${p.week} неделя`), marked.join('|'));
+  await shot('size', false);
+  await page.tap('button[data-id="reading:close"]');
+  await page.waitForSelector('.content[data-content="reading"]', { state: 'detached' });
+  await page.waitForSelector('.ring-page .hint-picture');
+}
+
+/** A screenshot of one element; a redraw of the page may replace it while it is taken. */
+async function shotOfElement(page, selector, file) {
+  for (let attempt = 1; ; attempt++) {
+    try {
+      await page.locator(selector).screenshot({ path: file });
+      return;
+    } catch (error) {
+      if (attempt === 3) throw error;
+    }
+  }
+}
+
 async function checkPregnancy(page, outDir, p, device) {
-  const shot = (what) =>
-    page.screenshot({
-      path: path.join(outDir, `week-${p.week}-${what}-${device}.png`),
-      fullPage: true,
-    });
+  // The whole page, or what the screen shows (where a marked week is scrolled into sight).
+  const shot = (what, fullPage = true) =>
+    page.screenshot({ path: path.join(outDir, `week-${p.week}-${what}-${device}.png`), fullPage });
   await checkToday(page, p);
   await shot('today');
   await checkBaby(page, p);
   await shot('baby');
-  await page
-    .locator('.ring-page svg')
-    .screenshot({ path: path.join(outDir, `week-${p.week}-organs-${device}.png`) });
+  await shotOfElement(
+    page,
+    '.ring-page svg',
+    path.join(outDir, `week-${p.week}-organs-${device}.png`),
+  );
   await checkWoman(page, p);
   await shot('woman');
+  await checkSizeText(page, p, shot);
 }
 
 await runBrowserTest('week', async ({ browser, base, outDir }) => {

@@ -73,7 +73,7 @@ export function renderContent(node: ContentNode): HTMLElement {
   if (node.highlight > 0) {
     // Once on the page, the marked group comes into sight.
     requestAnimationFrame(() =>
-      content.querySelector('.highlight')?.scrollIntoView({ block: 'start' }),
+      content.querySelector('.highlight')?.scrollIntoView({ block: 'center' }),
     );
   }
   return content;
