@@ -2,6 +2,8 @@
 // the present week marked or the weeks after it dimmed.
 #pragma once
 
+#include <filesystem>
+#include <optional>
 #include <string>
 #include <string_view>
 

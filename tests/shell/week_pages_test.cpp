@@ -151,6 +151,14 @@ TEST_F(WeekPagesTest, TodayShowsTheCardsPictureAndTextsOfThePresentWeek) {
   view = shell::TodayPage(*app, pregnancyOnDay(310), 1).view();
   EXPECT_EQ(fact(view, 0, 1), "-");
   EXPECT_EQ(fact(view, 0, 2), "-");
+
+  // A child born on day 270: the date of birth, and the week stands where the birth left it.
+  const Date first = dates.addDays(clock->now(), -300);
+  addPregnancy(app->store(), "BORN", first, "60", dates.addDays(first, 269));
+  view = shell::TodayPage(*app, "BORN", 1).view();
+  EXPECT_EQ(fact(view, 1, 1, "caption"), "Дата родов\n ");
+  EXPECT_EQ(fact(view, 1, 1), dates.dateToString(dates.addDays(first, 269), "dd.MM.yyyy"));
+  EXPECT_EQ(fact(view, 0, 1), "39");
 }
 
 TEST_F(WeekPagesTest, BabyMarksThePresentWeekOfAnOrganAndDimsTheFutureAchievements) {

@@ -22,7 +22,7 @@ export function renderMovie(node: MovieNode): HTMLElement {
   for (const frame of node.frames.slice(1)) new Image().src = `/img/${encodeURIComponent(frame)}`;
   let frame = 0;
   const timer = window.setInterval(() => {
-    if (!movie.isConnected && frame > 0) {
+    if (!movie.isConnected) {
       window.clearInterval(timer);
       return;
     }
