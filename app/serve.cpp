@@ -70,7 +70,7 @@ int serve(int appid, const ServeOptions& o) {
     std::fprintf(stderr, "%s\n", refusal.c_str());
     return 2;
   }
-  server::HttpOptions httpOptions{o.host, o.port, o.webDir, o.imagesDir};
+  server::HttpOptions httpOptions{o.host, o.port, o.webDir, o.imagesDir, o.resourcesDir / "images"};
   httpOptions.testClock = testClock;
   server::HttpServer http(*installation, httpOptions);
   std::string error;

@@ -79,6 +79,7 @@ struct HttpServer::Impl {
             [this](const HttpRequest& r) { return handle(r); },
             [this](const std::shared_ptr<Subscriber>& s) { installation.hub().unsubscribe(s); }) {
     if (!options.imagesDir.empty()) files.mount("/img", options.imagesDir);
+    if (!options.builtImagesDir.empty()) files.mount("/img", options.builtImagesDir);
     if (!options.webDir.empty()) files.mount("/", options.webDir);
   }
 

@@ -16,6 +16,8 @@ struct HttpOptions {
   int port = 8080;  // 0: any free port
   std::filesystem::path webDir;
   std::filesystem::path imagesDir;
+  // Pictures made by the build; asked for under the same address, looked up after imagesDir.
+  std::filesystem::path builtImagesDir;
   // A portrait from the camera comes in one event, as a data URL of a few megabytes.
   std::size_t maxBodyBytes = 16 * 1024 * 1024;
   bool logRequests = true;

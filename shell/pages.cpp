@@ -6,16 +6,19 @@
 #include "shell/cycle/cycle_today.h"
 #include "shell/diary/diary_list.h"
 #include "shell/title_page.h"
+#include "shell/week/baby_page.h"
+#include "shell/week/today_page.h"
+#include "shell/week/woman_page.h"
 
 namespace lad::shell {
 
 std::set<int> builtPages(int appid) {
   std::set<int> pages{kDiaryPage};
-  // The title page and the contraction counter are a pregnancy's; the child's graphs on the
-  // same row are still to come.
-  if (isPregnancyEdition(appid)) pages.insert({kTitlePage, kContractionsPage});
-  // The cycle edition's today and woman's pages are her cycle's; the pregnancy's wait for their
-  // texts.
+  // The title page, the week pages and the contraction counter are a pregnancy's; the child's
+  // graphs on the same rows are still to come.
+  if (isPregnancyEdition(appid))
+    pages.insert({kTodayPage, kTitlePage, kBabyPage, kWomanPage, kContractionsPage});
+  // The cycle edition's today and woman's pages are her cycle's.
   if (isCycleEdition(appid)) pages.insert({kTodayPage, kWomanPage});
   return pages;
 }
@@ -29,9 +32,16 @@ std::shared_ptr<Screen> makePage(int page, const PageArgs& args) {
       if (!isPregnancyEdition(args.app.context().values().appid)) return nullptr;
       return ContractionScreen::open(args.app, args.gid, args.scale);
     case kTodayPage:
+      if (isPregnancyEdition(args.app.context().values().appid))
+        return std::make_shared<TodayPage>(args.app, args.gid, args.scale);
       if (!isCycleEdition(args.app.context().values().appid)) return nullptr;
       return std::make_shared<CycleToday>(args.app, args.host, args.gid, args.diary);
+    case kBabyPage:
+      if (!isPregnancyEdition(args.app.context().values().appid)) return nullptr;
+      return std::make_shared<BabyPage>(args.app, args.host, args.gid, args.scale);
     case kWomanPage:
+      if (isPregnancyEdition(args.app.context().values().appid))
+        return std::make_shared<WomanPage>(args.app, args.host, args.gid, args.scale);
       if (!isCycleEdition(args.app.context().values().appid)) return nullptr;
       return std::make_shared<CycleCalendar>(args.app, args.host, args.gid, args.diary, false,
                                              args.fromMenu);

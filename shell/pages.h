@@ -14,6 +14,7 @@ namespace lad::shell {
 
 inline constexpr int kTodayPage = 1;
 inline constexpr int kTitlePage = 3;
+inline constexpr int kBabyPage = 4;
 inline constexpr int kWomanPage = 5;
 inline constexpr int kContractionsPage = 6;
 inline constexpr int kDiaryPage = 8;

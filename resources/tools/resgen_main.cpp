@@ -3,6 +3,7 @@
 //
 //   lad_resgen sql OUT.sqlite IN.sql [MORE.sql ...]
 //   lad_resgen translate OUT.sqlite IN.tsv
+//   lad_resgen content OUT_FOLDER IN.txt [MORE.txt ...]
 //
 // A fault is printed as "file:line: message" and ends the run with status 1, leaving no output.
 
@@ -12,6 +13,7 @@
 #include <string_view>
 
 #include "resources/tools/build_database.h"
+#include "resources/tools/content_files.h"
 
 namespace {
 
@@ -20,7 +22,8 @@ using lad::resgen::SourceFile;
 
 constexpr const char* kUsage =
     "usage: lad_resgen sql OUT.sqlite IN.sql [MORE.sql ...]\n"
-    "       lad_resgen translate OUT.sqlite IN.tsv\n";
+    "       lad_resgen translate OUT.sqlite IN.tsv\n"
+    "       lad_resgen content OUT_FOLDER IN.txt [MORE.txt ...]\n";
 
 std::optional<SourceFile> readSource(const char* path) {
   std::ifstream in(path, std::ios::binary);
@@ -42,7 +45,8 @@ int report(const BuildFault& fault) {
 int main(int argc, char** argv) {
   const std::string_view mode = argc > 1 ? argv[1] : "";
   const bool sql = mode == "sql" && argc >= 4;
-  if (!sql && !(mode == "translate" && argc == 4)) {
+  const bool content = mode == "content" && argc >= 4;
+  if (!sql && !content && !(mode == "translate" && argc == 4)) {
     std::cerr << kUsage;
     return 2;
   }
@@ -52,7 +56,8 @@ int main(int argc, char** argv) {
     if (!source) return report({argv[i], {0, "cannot read the file"}});
     sources.push_back(std::move(*source));
   }
-  const auto fault = sql ? lad::resgen::buildFromScripts(argv[2], sources)
-                         : lad::resgen::buildTranslationTable(argv[2], sources.front());
+  const auto fault = sql       ? lad::resgen::buildFromScripts(argv[2], sources)
+                     : content ? lad::resgen::packageContent(argv[2], sources)
+                               : lad::resgen::buildTranslationTable(argv[2], sources.front());
   return fault ? report(*fault) : 0;
 }

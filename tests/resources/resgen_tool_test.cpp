@@ -111,5 +111,30 @@ TEST_F(ResgenTool, FaultyTranslationSourcesAreRefusedByLine) {
   }
 }
 
+TEST_F(ResgenTool, ContentIsCopiedOnlyWhenEveryFileParses) {
+  const auto good = file("a-u.txt", "\ngroupid<val>1<tr>tp<val>1<br>text<val>Да<tr>tp<val>4\n");
+  const auto bad = file("b-u.txt",
+                        "groupid<val>1<tr>tp<val>1\n"
+                        "<br>text<val>Да<tr>tp<val>4\n"
+                        "<br>text<val>Нет<tr>tp4\n");
+  const auto folder = (dir_.path() / "content").string();
+  ToolRun run = runTool("content " + folder + " " + good + " " + bad);
+  EXPECT_NE(run.status, 0);
+  EXPECT_NE(run.output.find("b-u.txt:3: record 2: field without <val>: \"tp4\""), std::string::npos)
+      << run.output;
+  EXPECT_FALSE(std::filesystem::exists(folder));
+
+  // A trailing separator leaves an empty field behind, which is a fault too.
+  run = runTool("content " + folder + " " + file("c-u.txt", "text<val>Да<tr>tp<val>4<br>"));
+  EXPECT_NE(run.output.find("c-u.txt:1: record 1: field without <val>"), std::string::npos)
+      << run.output;
+
+  run = runTool("content " + folder + " " + good);
+  ASSERT_EQ(run.status, 0) << run.output;
+  EXPECT_EQ(filesIn(folder), std::vector<std::string>{"a-u.txt"});
+  EXPECT_EQ(readFile(std::filesystem::path(folder) / "a-u.txt"),
+            "\ngroupid<val>1<tr>tp<val>1<br>text<val>Да<tr>tp<val>4\n");
+}
+
 }  // namespace
 }  // namespace lad::testing

@@ -6,6 +6,7 @@ import { element } from './dom.js';
 import { renderIcon, renderPicture } from './pictures.js';
 import { renderEditor } from './editor.js';
 import { renderRing } from './ring.js';
+import { renderContent, renderFacts, renderHintPicture, renderMovie } from './week.js';
 import type {
   AddressNode,
   ButtonsNode,
@@ -62,6 +63,14 @@ export function render(node: ViewNode): HTMLElement | null {
       return renderLock(node);
     case 'editor':
       return renderEditor(node);
+    case 'facts':
+      return renderFacts(node);
+    case 'movie':
+      return renderMovie(node);
+    case 'hintPicture':
+      return renderHintPicture(node);
+    case 'content':
+      return renderContent(node);
     default:
       return null; // kinds this build does not know are skipped
   }

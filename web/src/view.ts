@@ -431,6 +431,58 @@ export interface CycleCalendarNode {
   close?: ButtonNode;
 }
 
+/** A card of a fact: a caption over its value. */
+export interface Fact {
+  caption: string;
+  value: string;
+}
+
+/** Cards of facts side by side, wrapping on a narrow screen. */
+export interface FactsNode {
+  kind: 'facts';
+  facts: Fact[];
+}
+
+/** Pictures of the program shown in turn, from the first again after the last. */
+export interface MovieNode {
+  kind: 'movie';
+  frames: string[];
+  intervalMs: number;
+}
+
+/** A named point of a picture, in the picture's own pixels. */
+export interface Hint {
+  name: string;
+  x: number;
+  y: number;
+}
+
+/** A picture of the program with named points on it. */
+export interface HintPictureNode {
+  kind: 'hintPicture';
+  picture: string;
+  width: number;
+  height: number;
+  hints: Hint[];
+}
+
+/** One row of reading matter; tp decides its type size and colour. */
+export interface ContentRow {
+  tp: number;
+  text: string;
+  pic?: string;
+  group: number;
+  alpha: number;
+}
+
+/** Reading matter; the highlighted group (0: none) is marked and scrolled into sight. */
+export interface ContentNode {
+  kind: 'content';
+  id: string;
+  rows: ContentRow[];
+  highlight: number;
+}
+
 /** What a page of the ring can be. */
 export type RingPageNode = PageNode | DiaryNode | CycleCalendarNode;
 
@@ -456,7 +508,11 @@ export type ViewNode =
   | DiarySectionNode
   | DayCellNode
   | DayEditorNode
-  | CycleCalendarNode;
+  | CycleCalendarNode
+  | FactsNode
+  | MovieNode
+  | HintPictureNode
+  | ContentNode;
 
 /**
  * What the server sends: the screen on top, with a popup and a message over it while open,

@@ -1,0 +1,19 @@
+// The ring of the baby page: each organ's own small ring round the big one, filled as far as the
+// organ has developed, with a tick once it is complete.
+#pragma once
+
+#include <span>
+#include <string>
+
+#include "drawing/canvas.h"
+
+namespace lad::shell::week {
+
+struct OrganArc {
+  std::string caption;
+  int degrees = 0;  // 0 to 360
+};
+
+void drawOrganRing(draw::Canvas& c, draw::Rect r, std::span<const OrganArc> organs, double scale);
+
+}  // namespace lad::shell::week

@@ -1,0 +1,30 @@
+// Reading matter of the content folder laid out for a page: one group or all, with the group of
+// the present week marked or the weeks after it dimmed.
+#pragma once
+
+#include <filesystem>
+#include <optional>
+#include <string>
+#include <string_view>
+
+#include "core/context.h"
+#include "shell/views/week.h"
+
+namespace lad::shell::week {
+
+struct ReadingOptions {
+  int justGroup = -1;         // -1: every group
+  int highlightWeek = 0;      // above 0: the group of this week is marked
+  int dimAfterWeek = 0;       // above 0: the groups after this week are dimmed
+  double lineDistance = 0;    // extra distance between rows
+  double top = 12;            // y of the first row
+  std::optional<Date> start;  // the first day of the pregnancy, for the dates of week marks
+};
+
+// The content folder of the installation's resources.
+std::filesystem::path contentFolder(const Context& context);
+
+ContentView readingView(const Context& context, std::string id, std::string_view resource,
+                        const ReadingOptions& options);
+
+}  // namespace lad::shell::week

@@ -1,0 +1,199 @@
+// Browser test of a pregnancy's week pages: for a pregnancy in week 12 and one in week 30, the
+// today page shows the week's cards, its moving picture and only that week's texts for mother
+// and child; the baby page marks the week in an organ's text; the woman's page shows the body of
+// the month with its named parts, the fruit line and the graphs, and opens the child's size by
+// week at the present week. Screenshots at phone and tablet size.
+//   node tests/e2e/week.test.mjs --server PATH_TO_SERVER --out SCREENSHOT_DIR
+import assert from 'node:assert/strict';
+import fs from 'node:fs';
+import path from 'node:path';
+import { PHONE, TABLET, openPastGreeting, pickOnWheels, runBrowserTest } from './harness.mjs';
+
+const MONTHS = [
+  'января',
+  'февраля',
+  'марта',
+  'апреля',
+  'мая',
+  'июня',
+  'июля',
+  'августа',
+  'сентября',
+  'октября',
+  'ноября',
+  'декабря',
+];
+
+// Week 12 is day 81 of the pregnancy, week 30 day 204: the first day lies that many days back.
+const PREGNANCIES = [
+  { name: 'Неделя двенадцать', week: 12, daysAgo: 80, month: 3, fruit: 'лайм', frames: '12w' },
+  { name: 'Неделя тридцать', week: 30, daysAgo: 203, month: 7, fruit: 'капусты', frames: '30w' },
+];
+
+/** The body lines (kind 4) of a group of a content file, read as the server's files hold it. */
+function bodyLines(name, group) {
+  const file = path.join('resources/content', `${name}.txt`);
+  const lines = [];
+  let current = 0;
+  for (const record of fs.readFileSync(file, 'utf8').trim().split('<br>')) {
+    const fields = Object.fromEntries(record.split('<tr>').map((f) => f.split('<val>')));
+    if ('groupid' in fields) current = Number.parseInt(fields.groupid, 10);
+    if (current === group && Number.parseInt(fields.tp, 10) === 4) lines.push(fields.text);
+  }
+  return lines;
+}
+
+async function createPregnancy(page, { name, daysAgo }) {
+  const first = new Date(Date.now() - daysAgo * 86400000);
+  await page.tap('[data-id="menu:31"]');
+  await page.waitForSelector('.editor');
+  await pickOnWheels(page, 'field:sdat1', [
+    String(first.getDate()),
+    MONTHS[first.getMonth()],
+    String(first.getFullYear()),
+  ]);
+  await page.fill('input[data-field="field:name"]', name);
+  await page.locator('input[data-field="field:name"]').blur();
+  await page.tap('button[data-id="editor:ok"]');
+  await page.waitForSelector('.editor', { state: 'detached' });
+}
+
+async function openCard(page, name) {
+  await page.locator('.card', { hasText: name }).tap();
+  await page.waitForSelector('.card.open');
+}
+
+/** Slides the page in front aside, if there is one. */
+async function toMenu(page) {
+  if (await page.$('.ring')) {
+    await page.tap('.ring-page .to-menu');
+    await page.waitForSelector('.ring', { state: 'detached' });
+  }
+}
+
+/** Opens the page of the menu row from the menu, and waits for the node it must show. */
+async function openPage(page, row, selector) {
+  await toMenu(page);
+  await page.tap(`[data-id="menu:${row}"]`);
+  await page.waitForSelector(`.ring-page ${selector}`);
+}
+
+const texts = (page, selector) =>
+  page.$$eval(`.ring-page ${selector}`, (nodes) => nodes.map((n) => n.textContent));
+
+/** Whether every picture of the page that matches has loaded. */
+const picturesLoaded = (page, selector) =>
+  page.$$eval(`.ring-page ${selector}`, (imgs) =>
+    imgs.every((img) => img.complete && img.naturalWidth > 0),
+  );
+
+async function checkToday(page, p) {
+  await openPage(page, 1, '.content[data-content="woman"] .content-row');
+  const [trimester, week] = await texts(page, '.fact-value');
+  assert.equal(trimester, p.week > 26 ? '3' : '1');
+  assert.equal(week, String(p.week));
+  assert.match((await texts(page, '.fact'))[3], /\d+\.\d гр\.\n\d+\.\d мм\./);
+  assert.deepEqual(
+    await texts(page, '.content[data-content="woman"] .content-text'),
+    bodyLines('woman-u', p.week),
+  );
+  assert.deepEqual(
+    await texts(page, '.content[data-content="child"] .content-text'),
+    bodyLines('child-u', p.week),
+  );
+  const movie = page.locator('.ring-page img.movie');
+  assert.match(await movie.getAttribute('src'), new RegExp(`/${p.frames}001\\.jpg$`));
+  await page.waitForFunction(() => document.querySelector('img.movie')?.dataset.frame === '3');
+  assert.match(await movie.getAttribute('src'), new RegExp(`/${p.frames}003\\.jpg$`));
+  assert.ok(await picturesLoaded(page, 'img.movie'), 'the frame of the week loads');
+}
+
+async function checkBaby(page, p) {
+  await openPage(page, 4, '.content[data-content="organ"] .content-row');
+  assert.equal(await page.locator('.ring-page svg').count(), 1, 'the ring of organs');
+  // The achievements dim the weeks to come.
+  const future = page.locator(`.content-row[data-group="${p.week + 1}"]`).first();
+  assert.equal(await future.evaluate((row) => row.style.opacity), '0.3');
+  await page.tap('.ring-page [data-id="baby:organ:1"] .text');
+  await page.waitForSelector('.ring-page .content-row.highlight');
+  const marked = await texts(page, '.content-row.highlight');
+  assert.ok(
+    marked.some((t) => t.startsWith(`${p.week} неделя`)),
+    marked.join('|'),
+  );
+}
+
+async function checkWoman(page, p) {
+  await openPage(page, 5, '.hint-picture');
+  const body = page.locator('.ring-page .hint-image');
+  assert.match(await body.getAttribute('src'), new RegExp(`/wom-${p.month}\\.png$`));
+  await page.waitForFunction(() => document.querySelector('.hint-image')?.naturalWidth > 0);
+  assert.ok((await page.locator('.ring-page .hint').count()) >= 6, 'the named parts');
+  assert.match((await texts(page, '[data-info="fruit"]'))[0] ?? '', new RegExp(p.fruit));
+  assert.ok(
+    (await texts(page, '.section')).includes('Прибавка в весе (килограммы)'),
+    'the weight graph',
+  );
+  assert.equal(await page.locator('.ring-page svg').count(), 2, 'the weight graph and the wheel');
+}
+
+/** The child's size by week, opened over the woman's page at the present week, and closed. */
+async function checkSizeText(page, p, shot) {
+  await page.tap('.ring-page button[data-id="woman:size"]');
+  await page.waitForSelector('.content[data-content="reading"] .content-row.highlight');
+  const marked = await page.$$eval('.content-row.highlight', (rows) =>
+    rows.map((row) => row.textContent),
+  );
+  assert.ok(marked[0]?.startsWith(`${p.week} неделя`), marked.join('|'));
+  await shot('size', false);
+  await page.tap('button[data-id="reading:close"]');
+  await page.waitForSelector('.content[data-content="reading"]', { state: 'detached' });
+  await page.waitForSelector('.ring-page .hint-picture');
+}
+
+/** A screenshot of one element; a redraw of the page may replace it while it is taken. */
+async function shotOfElement(page, selector, file) {
+  for (let attempt = 1; ; attempt++) {
+    try {
+      await page.locator(selector).screenshot({ path: file });
+      return;
+    } catch (error) {
+      if (attempt === 3) throw error;
+    }
+  }
+}
+
+async function checkPregnancy(page, outDir, p, device) {
+  // The whole page, or what the screen shows (where a marked week is scrolled into sight).
+  const shot = (what, fullPage = true) =>
+    page.screenshot({ path: path.join(outDir, `week-${p.week}-${what}-${device}.png`), fullPage });
+  await checkToday(page, p);
+  await shot('today');
+  await checkBaby(page, p);
+  await shot('baby');
+  await shotOfElement(
+    page,
+    '.ring-page svg',
+    path.join(outDir, `week-${p.week}-organs-${device}.png`),
+  );
+  await checkWoman(page, p);
+  await shot('woman');
+  await checkSizeText(page, p, shot);
+}
+
+await runBrowserTest('week', async ({ browser, base, outDir }) => {
+  for (const [device, size] of [
+    ['phone', PHONE],
+    ['tablet', TABLET],
+  ]) {
+    const { context, page, errors } = await openPastGreeting(browser, base, { device: size });
+    for (const p of PREGNANCIES) {
+      await toMenu(page);
+      if (device === 'phone') await createPregnancy(page, p);
+      await openCard(page, p.name);
+      await checkPregnancy(page, outDir, p, device);
+    }
+    assert.deepEqual(errors, []);
+    await context.close();
+  }
+});

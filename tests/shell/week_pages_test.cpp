@@ -1,0 +1,237 @@
+// The week, body and baby pages of a pregnancy on the real content files, at set days.
+#include <gmock/gmock.h>
+
+#include "content/resource.h"
+#include "core/text_fill.h"
+#include "core/text_parts.h"
+#include "core/value.h"
+#include "health/growth_series.h"
+#include "shell/week/baby_page.h"
+#include "shell/week/reading.h"
+#include "shell/week/today_page.h"
+#include "shell/week/week_facts.h"
+#include "shell/week/woman_page.h"
+#include "tests/fixtures/diary_generator.h"
+#include "tests/shell/application_fixture.h"
+
+namespace lad::testing {
+namespace {
+
+using ::testing::ElementsAre;
+using ::testing::HasSubstr;
+using ::testing::StartsWith;
+namespace week = shell::week;
+
+TEST(WeekFacts, PicturesFruitLengthMonthAndOrgansFollowTheDay) {
+  EXPECT_EQ(week::movieFrames(1).front(), "2w001.jpg");
+  EXPECT_EQ(week::movieFrames(6).front(), "5w001.jpg");
+  EXPECT_EQ(week::movieFrames(11).front(), "9w001.jpg");
+  EXPECT_THAT(week::movieFrames(12),
+              ElementsAre("12w001.jpg", "12w002.jpg", "12w003.jpg", "12w004.jpg", "12w005.jpg",
+                          "12w006.jpg", "12w007.jpg", "12w008.jpg"));
+  EXPECT_EQ(week::movieFrames(29).back(), "25w008.jpg");
+  EXPECT_EQ(week::movieFrames(50).front(), "37w001.jpg");
+
+  EXPECT_THAT(std::string(week::fruitCaption(3)), StartsWith("На более позднем сроке"));
+  EXPECT_THAT(std::string(week::fruitCaption(13)), StartsWith("Малыш размером с лайм."));
+  EXPECT_THAT(std::string(week::fruitCaption(21)), StartsWith("Малыш размером с небольшой банан"));
+  EXPECT_THAT(std::string(week::fruitCaption(45)), StartsWith("Малыш достиг размера арбуза."));
+
+  EXPECT_EQ(week::bodyPageLength(28, 9), "-");
+  EXPECT_EQ(week::bodyPageLength(29, 9), "2 мм.");
+  EXPECT_EQ(week::bodyPageLength(56, 9), "5 мм.");
+  EXPECT_EQ(week::bodyPageLength(63, 9), "14 мм.");
+  EXPECT_EQ(week::bodyPageLength(64, 16.5), "16.5 мм.");
+
+  EXPECT_EQ(week::bodyMonth(0), 1);
+  EXPECT_EQ(week::bodyMonth(29), 1);
+  EXPECT_EQ(week::bodyMonth(30), 2);
+  EXPECT_EQ(week::bodyMonth(400), 9);
+
+  const auto heart = week::organs()[3];  // weeks 5 to 10
+  ASSERT_EQ(heart.file, "serdce-u");
+  EXPECT_EQ(week::organDegrees(heart, 20), 0);
+  EXPECT_EQ(week::organDegrees(heart, 52), 174);
+  EXPECT_EQ(week::organDegrees(heart, 70), 360);
+  EXPECT_EQ(week::organDegrees(heart, 300), 360);
+}
+
+// The texts of one group's body rows, as the content file holds them.
+std::vector<std::string> bodyLines(const std::filesystem::path& folder, const char* name,
+                                   int group) {
+  const std::string text = content::extractGroupText(content::fileToString(folder, name), group);
+  std::vector<std::string> lines;
+  for (auto line : splitOn(text, "\n")) lines.emplace_back(line);
+  return lines;
+}
+
+const Value& at(const Value& list, std::size_t i) {
+  return list.asList()->at(i);
+}
+
+// The value shown on fact card `card` of the page's `n`-th cards.
+std::string fact(const Value& page, std::size_t n, std::size_t card, const char* key = "value") {
+  return at(at(page["children"], n)["facts"], card)[key].text();
+}
+
+std::vector<std::string> rowTexts(const Value& content) {
+  std::vector<std::string> texts;
+  for (const Value& row : *content["rows"].asList()) texts.push_back(row["text"].text());
+  return texts;
+}
+
+// The first child node of the kind with the key equal to the value.
+const Value* child(const Value& page, std::string_view kind, std::string_view key = "",
+                   std::string_view value = "") {
+  for (const Value& c : *page["children"].asList())
+    if (c["kind"].text() == kind && (key.empty() || c[std::string(key)].text() == value)) return &c;
+  return nullptr;
+}
+
+// Keeps the screen a page opens over itself.
+struct PushedScreen : shell::ScreenHost {
+  void push(std::shared_ptr<shell::Screen> s) override { screen = std::move(s); }
+  void openPopup(std::unique_ptr<shell::Popup>, PopupAction) override {}
+  void showMessage(shell::MessageBox) override {}
+  std::shared_ptr<shell::Screen> screen;
+};
+
+class WeekPagesTest : public ApplicationTest {
+ protected:
+  // The text opened over the page: its title, the group marked and the headings shown.
+  void expectWeekText(const char* title, int week) {
+    ASSERT_TRUE(host.screen);
+    const Value view = host.screen->view();
+    EXPECT_EQ(view["title"].text(), title);
+    const Value& text = *child(view, "content", "id", "reading");
+    EXPECT_EQ(text["highlight"].intValue(), week);
+    EXPECT_THAT(rowTexts(text), ::testing::Contains(StartsWith(std::to_string(week) + " неделя")));
+    EXPECT_FALSE(host.screen->closed());
+    EXPECT_TRUE(host.screen->tap("reading:close").ok());
+    EXPECT_TRUE(host.screen->closed());
+    host.screen.reset();
+  }
+  PushedScreen host;
+  // A new pregnancy, on its day `day` today; returns its profile.
+  std::string pregnancyOnDay(int day) {
+    if (!app) launchApp(1);
+    const std::string gid = "WEEK-PROFILE-" + std::to_string(day);
+    const auto& dates = app->context().dates();
+    addPregnancy(app->store(), gid, dates.addDays(clock->now(), 1 - day), "60");
+    return gid;
+  }
+  std::filesystem::path folder() const { return week::contentFolder(app->context()); }
+};
+
+TEST_F(WeekPagesTest, TodayShowsTheCardsPictureAndTextsOfThePresentWeek) {
+  shell::TodayPage page(*app, pregnancyOnDay(81), 1);  // week 12
+  Value view = page.view();
+  EXPECT_EQ(fact(view, 0, 0), "1");
+  EXPECT_EQ(fact(view, 0, 1), "12");
+  EXPECT_EQ(fact(view, 0, 2), "81");
+  // Eleven whole weeks of the growth table.
+  const auto size = health::getVesRost(11, 1);
+  EXPECT_EQ(fact(view, 1, 0),
+            formatFixed(size.ves, 1) + " гр.\n" + formatFixed(size.rost, 1) + " мм.");
+  EXPECT_EQ(fact(view, 1, 1, "caption"), "Приблизительная дата родов");
+  const auto& dates = app->context().dates();
+  EXPECT_EQ(fact(view, 1, 1), dates.dateToString(dates.addDays(clock->now(), 200), "dd.MM.yyyy"));
+  EXPECT_EQ(at((*child(view, "movie"))["frames"], 7).text(), "12w008.jpg");
+
+  const auto woman = rowTexts(*child(view, "content", "id", "woman"));
+  EXPECT_EQ(woman, bodyLines(folder(), "woman-u", 12));
+  EXPECT_FALSE(woman.empty());
+  EXPECT_EQ(rowTexts(*child(view, "content", "id", "child")), bodyLines(folder(), "child-u", 12));
+
+  // Week 30 of another pregnancy, and one far past its term.
+  view = shell::TodayPage(*app, pregnancyOnDay(204), 1).view();
+  EXPECT_EQ(fact(view, 0, 0), "3");
+  EXPECT_EQ(rowTexts(*child(view, "content", "id", "woman")), bodyLines(folder(), "woman-u", 30));
+  EXPECT_EQ(at((*child(view, "movie"))["frames"], 0).text(), "30w001.jpg");
+  view = shell::TodayPage(*app, pregnancyOnDay(310), 1).view();
+  EXPECT_EQ(fact(view, 0, 1), "-");
+  EXPECT_EQ(fact(view, 0, 2), "-");
+
+  // A child born on day 270: the date of birth, and the week stands where the birth left it.
+  const Date first = dates.addDays(clock->now(), -300);
+  addPregnancy(app->store(), "BORN", first, "60", dates.addDays(first, 269));
+  view = shell::TodayPage(*app, "BORN", 1).view();
+  EXPECT_EQ(fact(view, 1, 1, "caption"), "Дата родов\n ");
+  EXPECT_EQ(fact(view, 1, 1), dates.dateToString(dates.addDays(first, 269), "dd.MM.yyyy"));
+  EXPECT_EQ(fact(view, 0, 1), "39");
+}
+
+TEST_F(WeekPagesTest, BabyMarksThePresentWeekOfAnOrganAndDimsTheFutureAchievements) {
+  shell::BabyPage page(*app, host, pregnancyOnDay(204), 1);  // week 30, 203 days since the start
+  Value view = page.view();
+  EXPECT_THAT((*child(view, "svg", "id", "organs"))["svg"].text(), StartsWith("<svg"));
+  const List& organs = *(*child(view, "list"))["rows"].asList();
+  ASSERT_EQ(organs.size(), 10u);
+  EXPECT_EQ(organs[3]["caption"].text(), "Сердце");
+  EXPECT_EQ(organs[3]["badge"].text(), "100%");
+  EXPECT_EQ(organs[1]["badge"].text(), std::to_string((203 - 35) * 360 / 189 * 100 / 360) + "%");
+
+  // The achievements: weeks up to 30 in full, later ones dimmed.
+  const Value& rich = *child(view, "content", "id", "organ");
+  EXPECT_EQ(rich["highlight"].intValue(), 0);
+  int dimmed = 0;
+  for (const Value& row : *rich["rows"].asList()) {
+    EXPECT_EQ(row["alpha"].doubleValue(), row["group"].intValue() > 30 ? 0.3 : 1.0)
+        << row["text"].text();
+    dimmed += row["alpha"].doubleValue() < 1;
+  }
+  EXPECT_GT(dimmed, 0);
+
+  ASSERT_TRUE(page.tap("baby:organ:1").ok());
+  view = page.view();
+  EXPECT_EQ((*child(view, "section"))["caption"].text(), "Мозг");
+  const Value& brain = *child(view, "content", "id", "organ");
+  EXPECT_EQ(brain["highlight"].intValue(), 30);
+  EXPECT_THAT(rowTexts(brain), ::testing::Contains(HasSubstr("30 неделя")));
+  ASSERT_TRUE(page.tap("baby:child").ok());
+  expectWeekText("Малыш по неделям", 30);
+  EXPECT_FALSE(page.tap("baby:organ:10").ok());
+  EXPECT_FALSE(page.tap("baby:organ:x").ok());
+}
+
+TEST_F(WeekPagesTest, WomanShowsTheMonthsBodyTheFruitTheWeightAndTheWheel) {
+  shell::WomanPage page(*app, host, pregnancyOnDay(81), 1);  // month 3, week 12
+  Value view = page.view();
+  const Value& body = *child(view, "hintPicture");
+  EXPECT_EQ(body["picture"].text(), "wom-3.png");
+  EXPECT_EQ(body["width"].doubleValue(), 640);
+  std::vector<std::string> names;
+  for (const Value& hint : *body["hints"].asList()) {
+    names.push_back(hint["name"].text());
+    EXPECT_GT(hint["x"].doubleValue(), 0);
+    EXPECT_LT(hint["y"].doubleValue(), body["height"].doubleValue());
+  }
+  EXPECT_EQ(names.size(), 16u);
+  EXPECT_THAT(names, ::testing::Contains("Глазное пятно"));
+  const auto length = health::getVesRost(11, 1).rost;
+  EXPECT_EQ((*child(view, "text", "id", "fruit"))["text"].text(),
+            "Малыш размером с лайм.\nДлина от макушки до копчика составляет " +
+                formatDouble(length) + " мм.");
+  EXPECT_EQ((*child(view, "section"))["caption"].text(), "Прибавка в весе (килограммы)");
+  EXPECT_THAT((*child(view, "svg", "id", "weight"))["svg"].text(), StartsWith("<svg"));
+  EXPECT_GT((*child(view, "svg", "id", "wheel"))["height"].doubleValue(), 300);
+
+  ASSERT_TRUE(page.tap("woman:size").ok());
+  expectWeekText("Размер малыша", 12);
+  ASSERT_TRUE(page.tap("woman:detail").ok());
+  expectWeekText("Подробнее", 12);
+  EXPECT_FALSE(page.tap("woman:other").ok());
+
+  // Week 3 has no size yet; a long pregnancy keeps the last month and fruit.
+  view = shell::WomanPage(*app, host, pregnancyOnDay(20), 1).view();
+  EXPECT_EQ((*child(view, "text", "id", "fruit"))["text"].text(),
+            std::string(week::fruitCaption(0)) + " -");
+  EXPECT_EQ((*child(view, "hintPicture"))["picture"].text(), "wom-1.png");
+  view = shell::WomanPage(*app, host, pregnancyOnDay(320), 1).view();
+  EXPECT_EQ((*child(view, "hintPicture"))["picture"].text(), "wom-9.png");
+  EXPECT_THAT((*child(view, "text", "id", "fruit"))["text"].text(),
+              StartsWith("Малыш достиг размера арбуза."));
+}
+
+}  // namespace
+}  // namespace lad::testing
