@@ -9,17 +9,15 @@ import path from 'node:path';
 import {
   TABLET,
   advanceClock,
+  dayField,
   onNewInstallation,
   openPastGreeting,
   runBrowserTest,
+  settled,
 } from './harness.mjs';
 
-const fieldRow = (icon) => `.day-editor .day-field:has(img[src$="/${icon}"])`;
+const fieldRow = (icon) => `.day-editor ${dayField(icon)}`;
 const card = (name) => `.card[data-id]:has-text("${name}")`;
-
-async function settled(page) {
-  await page.waitForFunction(() => !document.getElementById('app')?.classList.contains('busy'));
-}
 
 /** Waits until the element's text contains the expected one. */
 async function waitForText(page, selector, expected) {

@@ -7,21 +7,20 @@
 import assert from 'node:assert/strict';
 import fs from 'node:fs';
 import path from 'node:path';
-import { TABLET, onNewInstallation, openPastGreeting, runBrowserTest } from './harness.mjs';
+import {
+  TABLET,
+  dayField as fieldRow,
+  onNewInstallation,
+  openPastGreeting,
+  runBrowserTest,
+  settled,
+} from './harness.mjs';
 
 const EDITIONS = [
   { program: 'ladaneya', pressure: true, dictionaryRow: 'ne-doctor.png', section: /неделя/ },
   { program: 'krohomir', pressure: false, dictionaryRow: 'ne-doctor.png', section: /месяц/ },
   { program: 'lunoveya', pressure: false, dictionaryRow: 'ne-health128.png', section: /^\p{Lu}/u },
 ];
-
-/** The field row of the day editor with this icon. */
-const fieldRow = (icon) => `.day-field:has(img[src$="/${icon}"])`;
-
-/** Waits until every event the page sent has its answer drawn. */
-async function settled(page) {
-  await page.waitForFunction(() => !document.getElementById('app')?.classList.contains('busy'));
-}
 
 /** The diary page of the installation: a pregnancy's opens under its card. */
 async function openDiary(page) {

@@ -231,6 +231,14 @@ export async function until(what, test) {
   }
 }
 
+/** The field row of the day editor with this icon. */
+export const dayField = (icon) => `.day-field:has(img[src$="/${icon}"])`;
+
+/** Waits until every event the page sent has its answer drawn. */
+export async function settled(page) {
+  await page.waitForFunction(() => !document.getElementById('app')?.classList.contains('busy'));
+}
+
 /** Types a code on the lock's pad, one key at a time. */
 export async function typeCode(page, code) {
   for (const digit of code) await page.tap(`button[data-id="lock:${digit}"]`);

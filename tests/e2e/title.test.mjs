@@ -5,23 +5,21 @@
 //   node tests/e2e/title.test.mjs --server PATH_TO_SERVER --out SCREENSHOT_DIR
 import assert from 'node:assert/strict';
 import path from 'node:path';
-import { TABLET, openPastGreeting, pickOnWheels, runBrowserTest } from './harness.mjs';
+import {
+  TABLET,
+  dayField,
+  openPastGreeting,
+  pickOnWheels,
+  runBrowserTest,
+  settled,
+} from './harness.mjs';
 
 const NAME = 'Ульяна';
-const MONTHS = [
-  'января',
-  'февраля',
-  'марта',
-  'апреля',
-  'мая',
-  'июня',
-  'июля',
-  'августа',
-  'сентября',
-  'октября',
-  'ноября',
-  'декабря',
-];
+// A month as the date wheel names it: in the genitive, as a date is written ("1 мая").
+const monthOf = (date) =>
+  new Intl.DateTimeFormat('ru', { day: 'numeric', month: 'long' })
+    .formatToParts(date)
+    .find((part) => part.type === 'month').value;
 
 /** "Новая беременность" with its first day `daysAgo` days before today, opened under its card. */
 async function createPregnancy(page, daysAgo) {
@@ -30,7 +28,7 @@ async function createPregnancy(page, daysAgo) {
   await page.waitForSelector('.editor');
   await pickOnWheels(page, 'field:sdat1', [
     String(first.getDate()),
-    MONTHS[first.getMonth()],
+    monthOf(first),
     String(first.getFullYear()),
   ]);
   await page.fill('input[data-field="field:name"]', NAME);
@@ -69,14 +67,14 @@ async function recordUltrasound(page) {
   await page.waitForSelector('.diary .day-cell, .diary-message');
   await page.tap('.diary-add');
   await page.waitForSelector('.day-editor');
-  await page.tap('.day-field:has(img[src$="/ne-uzi128.png"])');
+  await page.tap(dayField('ne-uzi128.png'));
   await page.waitForSelector('.editor .scale-ruler');
   // The second ruler moves while the answer to the first one's value redraws the form: it
   // keeps its place and sends its value all the same.
   await slideTo(page, 0, '35.0');
   await slideTo(page, 1, '1.500');
   await page.waitForTimeout(700);
-  await page.waitForFunction(() => !document.getElementById('app')?.classList.contains('busy'));
+  await settled(page);
   await page.tap('.editor-ok');
   await page.waitForFunction(() =>
     /35\.0.*1\.5/s.test(

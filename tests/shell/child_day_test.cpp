@@ -15,42 +15,18 @@ class ChildDayTest : public testing::ApplicationTest {
  protected:
   ChildDayTest() { launchApp(2); }
 
-  static EventResult change(Session& s, const std::string& target, Value value) {
-    Map m;
-    m.set("type", "change");
-    m.set("target", target);
-    m.set("value", std::move(value));
-    return s.handle(Value(std::move(m)));
-  }
   // The day editor of the first child at the day `offset` days from today.
   std::unique_ptr<Session> dayEditor(int offset) {
     clock->set(app->context().dates().addDays(today_, offset));
-    auto s = greetedSession();
-    EXPECT_TRUE(send(*s, R"({"type":"shortcut","name":"NEWNOTE"})").ok());
-    EXPECT_TRUE(send(*s, R"({"type":"visible"})").ok());
-    EXPECT_EQ(s->view()["kind"].text(), "dayEditor");
-    return s;
-  }
-  static const Value* rowOf(const Value& view, const std::string& icon) {
-    for (const Value& row : *view["rows"].asList())
-      if (row["icon"].text() == icon) return &row;
-    return nullptr;
+    return todayEditor();
   }
   static std::string targetOf(Session& s, const std::string& icon) {
-    const Value view = s.view();
-    const Value* row = rowOf(view, icon);
-    return row ? (*row)["id"].text() : "";
+    return rowWith(s, "icon", icon)["id"].text();
   }
   std::string stored(int offset, const std::string& type) {
     StoreBracket bracket = app->store().connectToBase();
     return getDateValue(app->store(), bracket, app->context().dates().addDays(today_, offset), type,
                         newID2(1, 1));
-  }
-  static std::string source(Session& s, const std::string& field) {
-    const Value view = s.view();
-    for (const Value& row : *view["rows"].asList())
-      if (row["field"].text() == field) return row["source"].text();
-    return "";
   }
 
   Date today_ = clock->now();
@@ -67,11 +43,10 @@ TEST_F(ChildDayTest, ASleepOverMidnightIsCountedAndReadOut) {
   ASSERT_TRUE(change(*s, "field:interval", Value("01:30")).ok());
   EXPECT_EQ(source(*s, "end"), "00:10");
   ASSERT_TRUE(tap(*s, "editor:ok").ok());
-  const Value day = s->view();
-  const Value* sleep = rowOf(day, "ne-sleep.png");
-  ASSERT_NE(sleep, nullptr);
-  ASSERT_EQ((*sleep)["lines"].asList()->size(), 1u);
-  EXPECT_EQ((*(*sleep)["lines"].asList())[0]["text"].text(), "с 22:40 до 00:10 (01:30)");
+  const Value sleep = rowWith(*s, "icon", "ne-sleep.png");
+  ASSERT_TRUE(sleep["lines"].asList());
+  ASSERT_EQ(sleep["lines"].asList()->size(), 1u);
+  EXPECT_EQ((*sleep["lines"].asList())[0]["text"].text(), "с 22:40 до 00:10 (01:30)");
   ASSERT_TRUE(tap(*s, "day:close").ok());
   EXPECT_NE(stored(0, "sleep").find("\"interval\""), std::string::npos);
 }
@@ -94,10 +69,7 @@ TEST_F(ChildDayTest, TeethAreTickedAgainstTheDaysBeforeAndStoredAsChanges) {
   // Tooth 5 fell out and 15 came through; 6 stays.
   ASSERT_TRUE(change(*s, "field:tooth", Value(List{Value("6"), Value("15")})).ok());
   ASSERT_TRUE(tap(*s, "editor:ok").ok());
-  const Value day = s->view();
-  const Value* row = rowOf(day, "ne-tooth.png");
-  ASSERT_NE(row, nullptr);
-  EXPECT_EQ((*row)["text"].text(),
+  EXPECT_EQ(rowWith(*s, "icon", "ne-tooth.png")["text"].text(),
             "Выпал верхний центральный резец (51)\nПрорезался нижний центральный резец (81)");
   ASSERT_TRUE(tap(*s, "day:close").ok());
   EXPECT_EQ(stored(0, "tooth"), "105<tr>15");

@@ -5,7 +5,6 @@
 #include <filesystem>
 
 #include "core/atomic_file.h"
-#include "core/base64.h"
 #include "core/ids.h"
 #include "core/text_fold.h"
 #include "platform/images.h"
@@ -22,43 +21,11 @@ class DiaryTest : public lad::testing::ApplicationTest {
  protected:
   DiaryTest() { launchApp(); }
 
-  Value event(const std::string& type, const std::string& target, Value value = Value()) {
-    Map m;
-    m.set("type", type);
-    m.set("target", target);
-    if (!value.isNull()) m.set("value", std::move(value));
-    return Value(std::move(m));
-  }
-  EventResult tap(Session& s, const std::string& target) { return s.handle(event("tap", target)); }
-  EventResult change(Session& s, const std::string& target, Value value) {
-    return s.handle(event("change", target, std::move(value)));
-  }
-
-  std::unique_ptr<Session> greeted() {
-    auto s = std::make_unique<Session>(*app);
-    if (s->view()["kind"].text() == "welcome") {
-      EXPECT_TRUE(tap(*s, "welcome:close").ok());
-    }
-    return s;
-  }
-  // Today's day editor, through the home-screen shortcut.
-  std::unique_ptr<Session> todayEditor() {
-    auto s = greeted();
-    EXPECT_TRUE(s->handle(*Value::fromJson(R"({"type":"shortcut","name":"NEWNOTE"})")).ok());
-    EXPECT_TRUE(s->handle(*Value::fromJson(R"({"type":"visible"})")).ok());
-    EXPECT_EQ(s->view()["kind"].text(), "dayEditor");
-    return s;
-  }
   // The target of the editor's row whose icon is given.
   static std::string rowTarget(Session& s, const std::string& icon, const char* prefix = nullptr) {
-    const Value view = s.view();
-    for (const Value& row : *view["rows"].asList())
-      if (row["icon"].text() == icon) {
-        const std::string id = row["id"].text();
-        return prefix ? prefix + id.substr(id.rfind(':') + 1) : id;
-      }
-    ADD_FAILURE() << "no row " << icon;
-    return "";
+    const std::string id = rowWith(s, "icon", icon)["id"].text();
+    EXPECT_FALSE(id.empty()) << "no row " << icon;
+    return prefix ? prefix + id.substr(id.rfind(':') + 1) : id;
   }
   std::string stored(const std::string& type) {
     StoreBracket bracket = app->store().connectToBase();
@@ -77,11 +44,6 @@ class DiaryTest : public lad::testing::ApplicationTest {
     for (const Value& item : *page["items"].asList())
       if (item["kind"].text() == "dayCell") days.push_back(item["id"].text());
     return days;
-  }
-  static std::string jpegUrl() {
-    Image image{400, 200, std::vector<std::uint8_t>(400 * 200 * 3, 128)};
-    const auto jpeg = encodeJpeg(image, 80);
-    return "data:image/jpeg;base64," + base64Encode(Bytes(jpeg.begin(), jpeg.end()));
   }
 };
 
@@ -166,7 +128,7 @@ TEST_F(DiaryTest, RefusedValuesStoreNothingAndAnUnchangedDayIsNotWritten) {
 
 TEST_F(DiaryTest, TheDayPhotoIsWrittenWithItsSmallCopyAndGoesWithTheDeletedDay) {
   auto s = todayEditor();
-  ASSERT_TRUE(change(*s, "day:photo", Value(jpegUrl())).ok());
+  ASSERT_TRUE(change(*s, "day:photo", Value(jpegDataUrl(400, 200))).ok());
   EXPECT_TRUE(s->view()["photo"]["picture"].text().starts_with("data:image/jpeg"));
   ASSERT_TRUE(tap(*s, "day:close").ok());
   const DayPhotoFiles files = dayPhotoFiles(app->context(), clock->now(), gid());
@@ -218,7 +180,7 @@ TEST_F(DiaryTest, ADayDeletedInAnotherBrowserIsNotBroughtBackWithoutAsking) {
 
 TEST_F(DiaryTest, TheChildsDiaryYearStaysBetweenTheFirstAndTheFourteenth) {
   launchApp(2);
-  auto s = greeted();
+  auto s = greetedSession();
   ASSERT_TRUE(tap(*s, "card:" + newID2(1, 1)).ok());
   ASSERT_TRUE(tap(*s, "menu:8").ok());
   EXPECT_EQ(diary(*s)["year"]["caption"].text(), "1-й год");
@@ -259,14 +221,13 @@ TEST_F(DiaryTest, ACourseFromTheMedicineFormStandsOnEachOfItsDaysUntilDeletedOnA
     auto q = bracket.db()->prepare("select count(*) from pregdata where type='pills'");
     return q.step() ? q.columnInt(0) : -1;
   };
-  const auto row = [](Session& s, const std::string& field) {
-    const Value view = s.view();
-    for (const Value& r : *view["rows"].asList())
-      if (r["field"].text() == field) return r;
-    return Value();
-  };
+  const auto row = [](Session& s, const std::string& field) { return rowWith(s, "field", field); };
   const auto pick = [&](Session& s, List positions) {
-    return s.handle(event("tap", "popup:1", Value(std::move(positions))));
+    Map m;
+    m.set("type", "tap");
+    m.set("target", "popup:1");
+    m.set("value", Value(std::move(positions)));
+    return s.handle(Value(std::move(m)));
   };
   auto s = todayEditor();
   const std::string pills = rowTarget(*s, "ne-pills128.png");

@@ -17,31 +17,13 @@ class FeedingScreenTest : public testing::ApplicationTest {
  protected:
   FeedingScreenTest() { launchApp(2); }
 
-  static EventResult change(Session& s, const std::string& target, Value value) {
-    Map m;
-    m.set("type", "change");
-    m.set("target", target);
-    m.set("value", std::move(value));
-    return s.handle(Value(std::move(m)));
-  }
   std::unique_ptr<Session> feedings() {
-    auto s = greetedSession();
-    EXPECT_TRUE(send(*s, R"({"type":"shortcut","name":"NEWNOTE"})").ok());
-    EXPECT_TRUE(send(*s, R"({"type":"visible"})").ok());
+    auto s = todayEditor();
     EXPECT_TRUE(tap(*s, "day:feeding").ok());
     return s;
   }
   static std::string caption(Session& s, const std::string& field) {
-    const Value view = s.view();
-    for (const Value& row : *view["rows"].asList())
-      if (row["field"].text() == field) return row["caption"].text();
-    return "";
-  }
-  static std::string source(Session& s, const std::string& field) {
-    const Value view = s.view();
-    for (const Value& row : *view["rows"].asList())
-      if (row["field"].text() == field) return row["source"].text();
-    return "";
+    return rowWith(s, "field", field)["caption"].text();
   }
   List stored() { return loadKormForDate(app->store(), clock->now(), newID2(1, 1)); }
 };

@@ -14,10 +14,7 @@ namespace lad::shell {
 namespace {
 
 using lad::testing::ApplicationTest;
-
-const Value& nth(const Value& list, std::size_t i) {
-  return list.asList()->at(i);
-}
+using lad::testing::nth;
 
 std::string sourceOf(const FieldEditor& e, std::string_view field) {
   return (*e.row(field))["source"].text();

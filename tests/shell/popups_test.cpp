@@ -12,10 +12,7 @@ namespace lad::shell {
 namespace {
 
 using lad::testing::ApplicationTest;
-
-const Value& nth(const Value& list, std::size_t i) {
-  return list.asList()->at(i);
-}
+using lad::testing::nth;
 
 std::vector<std::string> captionsOf(const Value& nodes) {
   std::vector<std::string> out;

@@ -4,8 +4,6 @@
 
 #include <filesystem>
 
-#include "core/base64.h"
-#include "platform/images.h"
 #include "shell/session.h"
 #include "store/portrait.h"
 #include "store/profiles.h"
@@ -28,24 +26,13 @@ class ProfileEditorTest : public lad::testing::ApplicationTest {
     ASSERT_TRUE(ApplicationTest::tap(*session, target).ok()) << target;
   }
   EventResult change(const std::string& field, const Value& value) {
-    Map e;
-    e.set("type", "change");
-    e.set("target", "field:" + field);
-    e.set("value", value);
-    return session->handle(Value(std::move(e)));
+    return ApplicationTest::change(*session, "field:" + field, value);
   }
   // The source of a field's row in the editor on screen.
   std::string shown(const std::string& field) {
-    const Value view = session->view();
-    for (const Value& row : *view["rows"].asList())
-      if (row["field"].text() == field) return row["source"].text();
-    ADD_FAILURE() << "no row " << field;
-    return "";
-  }
-  static std::string jpegDataUrl() {
-    const Image image{8, 4, std::vector<std::uint8_t>(8 * 4 * 3, 200)};
-    const auto jpeg = encodeJpeg(image, 90);
-    return "data:image/jpeg;base64," + base64Encode(Bytes(jpeg.begin(), jpeg.end()));
+    const Value row = rowWith(*session, "field", field);
+    EXPECT_FALSE(row.isNull()) << "no row " << field;
+    return row["source"].text();
   }
 
   std::unique_ptr<Session> session;
@@ -105,7 +92,7 @@ TEST_F(ProfileEditorTest, APortraitIsCheckedWhenChosenAndWrittenWhenSaved) {
     EXPECT_EQ(refused["message"]["text"].text(), "Не удалось прочитать фотографию") << notAPicture;
     tap("message:ok");
   }
-  ASSERT_TRUE(change("photo", jpegDataUrl()).ok());
+  ASSERT_TRUE(change("photo", jpegDataUrl(8, 4)).ok());
   const Value editor = session->view();
   for (const Value& row : *editor["rows"].asList())
     if (row["field"].text() == "photo") {

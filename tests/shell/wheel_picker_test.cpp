@@ -9,10 +9,7 @@ namespace lad::shell {
 namespace {
 
 using lad::testing::ApplicationTest;
-
-const Value& nth(const Value& list, std::size_t i) {
-  return list.asList()->at(i);
-}
+using lad::testing::nth;
 
 // Positions of the wheels as the picker was opened.
 Value openedAt(const WheelPicker& picker) {
