@@ -14,6 +14,7 @@
 #include <cstdint>
 #include <map>
 #include <memory>
+#include <optional>
 #include <string>
 #include <vector>
 
@@ -70,7 +71,7 @@ class Run {
     }
     if (line.starts_with("wait "))
       return wait(static_cast<std::int64_t>(numberAfter(line, "wait ")));
-    lad::Value before = view();
+    const lad::Value before = shown();
     std::optional<lad::Value> event;
     if (line.starts_with("tap ") || line.starts_with("change ")) {
       event = controlEvent(line, before);
@@ -79,6 +80,7 @@ class Run {
       event = lad::Value::fromJson(line);
       if (!event) return;  // the server refuses it before any session sees it
     }
+    forget();
     const EventResult result = session().handle(*event);
     after(result, before);
   }
@@ -86,11 +88,15 @@ class Run {
  private:
   lad::shell::Session& session() {
     auto& s = sessions_[current_];
-    if (!s) s = std::make_unique<lad::shell::Session>(*app_);
+    if (!s) {
+      forget();
+      s = std::make_unique<lad::shell::Session>(*app_);
+    }
     return *s;
   }
 
   void launch() {
+    forget();
     timers_.clear();
     for (auto& s : sessions_) s.reset();
     app_.reset();
@@ -98,13 +104,30 @@ class Run {
         lad::ContextOptions{appid_, 1, dir_.path(), "1.0", clock_, LADANEYA_RESOURCES_DIR});
   }
 
-  // The session's view, checked: a JSON object with a kind that writes out and reads back.
+  // The session's view, checked: a JSON object with a kind that writes out and reads back. Most
+  // events leave the view as it was, so a view equal to the last one the session wrote out and
+  // read back is not written out again: that round trip costs more than the event.
   lad::Value view() {
     lad::Value v = session().view();
     check(v.asMap() && v["kind"].asText() && !v["kind"].asText()->empty());
+    lad::Value& last = written_[current_];
+    if (v == last) return v;
     const auto again = lad::Value::fromJson(v.toJson());
     check(again.has_value());
+    last = v;
+    shown_[current_] = v;
     return v;
+  }
+
+  // The session's view as it was last shown, while nothing has happened since: an event, a
+  // timer, time passing, a new session or a relaunch forgets every session's view.
+  lad::Value shown() {
+    const auto& last = shown_[current_];
+    return last ? *last : view();
+  }
+
+  void forget() {
+    for (auto& view : shown_) view.reset();
   }
 
   std::optional<lad::Value> controlEvent(std::string_view line, const lad::Value& before) {
@@ -140,12 +163,15 @@ class Run {
     const lad::Date until = clock_->now() + std::chrono::seconds(std::min(seconds, kLongestWait));
     while (!timers_.empty() && timers_.begin()->first <= until) {
       auto due = timers_.begin();
+      forget();
       clock_->set(due->first);
       const auto timer = std::move(due->second);
       timers_.erase(due);
       const lad::Value before = view();
+      forget();
       after(timer(), before);
     }
+    forget();
     clock_->set(until);
   }
 
@@ -155,6 +181,8 @@ class Run {
       *lad::dateFromIso("2026-11-23T09:00:00Z"), "Europe/Berlin");
   std::unique_ptr<lad::shell::Application> app_;
   std::unique_ptr<lad::shell::Session> sessions_[kSessions];
+  lad::Value written_[kSessions];  // the last view of each session that wrote out and read back
+  std::optional<lad::Value> shown_[kSessions];
   std::size_t current_ = 0;
   std::multimap<lad::Date, std::function<EventResult()>> timers_;
 };
