@@ -6,6 +6,7 @@
 #include "content/record.h"
 #include "content/resource.h"
 #include "core/value.h"
+#include "resources/tools/warning_file.h"
 
 namespace lad::resgen {
 
@@ -35,6 +36,7 @@ std::optional<SourceError> checkContent(const SourceFile& source) {
     if (!tree || !tree->asList()) return SourceError{1, "not a JSON array of groups"};
     return std::nullopt;
   }
+  if (source.path.filename() == kWarningFileName) return checkWarnings(source.text);
   const auto text = content::parsePlainText(trimmed);
   if (text.faults.empty()) return std::nullopt;
   const auto& fault = text.faults.front();

@@ -10,7 +10,8 @@
 
 namespace lad::resgen {
 
-// The first fault of a plain-text content file, told by the line its record starts on.
+// The first fault of a content file, told by the line its record starts on: a JSON text that is
+// not an array, a plain-text record that does not parse, or a faulty row of the week notices.
 std::optional<SourceError> checkContent(const SourceFile& source);
 
 // Checks every file, then copies them all into the folder (made when missing) under their own

@@ -3,7 +3,7 @@
 //
 //   lad_resgen sql OUT.sqlite IN.sql [MORE.sql ...]
 //   lad_resgen translate OUT.sqlite IN.tsv
-//   lad_resgen content OUT_FOLDER IN.txt [MORE.txt ...]
+//   lad_resgen content OUT_FOLDER IN.txt|IN.jsn [MORE ...]
 //
 // A fault is printed as "file:line: message" and ends the run with status 1, leaving no output.
 
@@ -23,7 +23,7 @@ using lad::resgen::SourceFile;
 constexpr const char* kUsage =
     "usage: lad_resgen sql OUT.sqlite IN.sql [MORE.sql ...]\n"
     "       lad_resgen translate OUT.sqlite IN.tsv\n"
-    "       lad_resgen content OUT_FOLDER IN.txt [MORE.txt ...]\n";
+    "       lad_resgen content OUT_FOLDER IN.txt|IN.jsn [MORE ...]\n";
 
 std::optional<SourceFile> readSource(const char* path) {
   std::ifstream in(path, std::ios::binary);

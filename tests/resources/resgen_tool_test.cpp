@@ -136,5 +136,24 @@ TEST_F(ResgenTool, ContentIsCopiedOnlyWhenEveryFileParses) {
             "\ngroupid<val>1<tr>tp<val>1<br>text<val>Да<tr>tp<val>4\n");
 }
 
+TEST_F(ResgenTool, WeekNoticesFailAtTheRowThatTheMenuCouldNotRead) {
+  const auto folder = (dir_.path() / "content").string();
+  const std::pair<std::string, std::string> faults[] = {
+      {"4<td>12<td>Скрининг<tr>\n5<td>13", "warning.txt:2: a notice needs three fields"},
+      {"4<td>12<td>Скрининг<tr>\n\n5<td>13 нед.<td>Текст", "warning.txt:3: week is not a whole"},
+      {"\n4<td>12<td>Скрининг<tr>\nпять<td>13<td>Текст", "warning.txt:3: event id is not"},
+      {"4<td>12<td>Скрининг<tr>\n", "warning.txt:2: a notice needs three fields"},
+  };
+  for (const auto& [text, message] : faults) {
+    const ToolRun run = runTool("content " + folder + " " + file("warning.txt", text));
+    EXPECT_NE(run.status, 0) << text;
+    EXPECT_NE(run.output.find(message), std::string::npos) << run.output;
+  }
+  const ToolRun run =
+      runTool("content " + folder + " " + file("warning.txt", "4<td>12<td>А<tr>\n5<td>13<td>Б"));
+  ASSERT_EQ(run.status, 0) << run.output;
+  EXPECT_EQ(filesIn(folder), std::vector<std::string>{"warning.txt"});
+}
+
 }  // namespace
 }  // namespace lad::testing
