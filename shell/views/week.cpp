@@ -26,6 +26,18 @@ Value MovieView::toValue() const {
   return m;
 }
 
+Value ScreensView::toValue() const {
+  Map m = node(kKind);
+  List list;
+  for (const auto& children : screens) {
+    Map screen;
+    screen.set("children", children);
+    list.push_back(std::move(screen));
+  }
+  m.set("screens", std::move(list));
+  return m;
+}
+
 Value HintView::toValue() const {
   Map m;
   m.set("name", name);

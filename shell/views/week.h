@@ -51,6 +51,15 @@ struct HintPictureView {
   Value toValue() const;
 };
 
+// A column of screens, each as high as the page, that scrolls one screen at a time, with a
+// page control that shows which screen is in sight.
+struct ScreensView {
+  static constexpr std::string_view kKind = "screens";
+  std::vector<List> screens;  // the nodes of each screen
+
+  Value toValue() const;
+};
+
 // One row of reading matter: its kind decides the type size and colour.
 struct ContentRowView {
   int tp = 0;

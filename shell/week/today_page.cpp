@@ -16,12 +16,15 @@ namespace {
 
 constexpr const char* kDay = "dd.MM.yyyy";
 
-// "1" to "3"; past week 42 the week and the day are "-".
-FactsView weekCards(const Context& context, int week, int day) {
+// "1" to "3"; past week 42 the week, the day and the week from conception are "-".
+FactsView weekCards(const Context& context, const Map& setup, int week, int day) {
   const bool shown = weekIsShown(week);
+  const auto shownOrDash = [shown](std::string text) { return shown ? text : "-"; };
   return FactsView{{{context.translate("Триместр"), std::to_string(trimester(week))},
-                    {context.translate("Неделя"), shown ? std::to_string(week) : "-"},
-                    {context.translate("День"), shown ? std::to_string(day) : "-"}}};
+                    {context.translate("Неделя"), shownOrDash(std::to_string(week))},
+                    {context.translate("День"), shownOrDash(std::to_string(day))},
+                    {context.translate("От зачатия"),
+                     shownOrDash(ageString(context, AgeMode::EmbryoWeek, setup))}}};
 }
 
 // The period of the pregnancy with the child's weight and length from the growth table of the
@@ -47,28 +50,23 @@ FactView birthCard(const Context& context, const Map& setup) {
 TodayPage::TodayPage(Application& app, std::string gid, double scale)
     : app_(app), gid_(std::move(gid)), scale_(scale) {}
 
-List TodayPage::cards(const Map& setup, int week, int day) const {
-  const Context& context = app_.context();
-  List list;
-  list.push_back(weekCards(context, week, day).toValue());
-  list.push_back(
-      FactsView{{sizeCard(context, setup, day, scale_), birthCard(context, setup)}}.toValue());
-  return list;
-}
-
+// Five screens: where the pregnancy stands, the child's size and the date of birth, the moving
+// picture, and the week's texts for the mother and for the child.
 Value TodayPage::view() {
   const Context& context = app_.context();
   const Map setup = loadSetupData(app_.store(), gid_);
   const int week = getCurWeek(context, setup);
   const int day = getCurDay(context, setup);
-  List children = cards(setup, week, day);
-  children.push_back(MovieView{week::movieFrames(week), 1000}.toValue());
   week::ReadingOptions options;
   options.justGroup = week;
   options.top = 0;
-  children.push_back(week::readingView(context, "woman", "woman-u", options).toValue());
-  children.push_back(week::readingView(context, "child", "child-u", options).toValue());
-  return PageView{week::pageTitle(context, kTodayPage), std::move(children)}.toValue();
+  ScreensView screens{
+      {{weekCards(context, setup, week, day).toValue()},
+       {FactsView{{sizeCard(context, setup, day, scale_), birthCard(context, setup)}}.toValue()},
+       {MovieView{week::movieFrames(week), 1000}.toValue()},
+       {week::readingView(context, "woman", "woman-u", options).toValue()},
+       {week::readingView(context, "child", "child-u", options).toValue()}}};
+  return PageView{week::pageTitle(context, kTodayPage), {screens.toValue()}}.toValue();
 }
 
 EventResult TodayPage::tap(std::string_view target) {

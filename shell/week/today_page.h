@@ -17,8 +17,6 @@ class TodayPage : public Screen {
   EventResult tap(std::string_view target) override;
 
  private:
-  List cards(const Map& setup, int week, int day) const;
-
   Application& app_;
   std::string gid_;
   double scale_;

@@ -89,10 +89,11 @@ const picturesLoaded = (page, selector) =>
 
 async function checkToday(page, p) {
   await openPage(page, 1, '.content[data-content="woman"] .content-row');
-  const [trimester, week] = await texts(page, '.fact-value');
+  const [trimester, week, , fromConception] = await texts(page, '.fact-value');
   assert.equal(trimester, p.week > 26 ? '3' : '1');
   assert.equal(week, String(p.week));
-  assert.match((await texts(page, '.fact'))[3], /\d+\.\d гр\.\n\d+\.\d мм\./);
+  assert.equal(fromConception, String(p.week - 2));
+  assert.match((await texts(page, '.fact'))[4], /\d+\.\d гр\.\n\d+\.\d мм\./);
   assert.deepEqual(
     await texts(page, '.content[data-content="woman"] .content-text'),
     bodyLines('woman-u', p.week),
@@ -106,6 +107,22 @@ async function checkToday(page, p) {
   await page.waitForFunction(() => document.querySelector('img.movie')?.dataset.frame === '3');
   assert.match(await movie.getAttribute('src'), new RegExp(`/${p.frames}003\\.jpg$`));
   assert.ok(await picturesLoaded(page, 'img.movie'), 'the frame of the week loads');
+}
+
+/** The page is five screens that snap one at a time; a dot of the page control brings one. */
+async function checkScreens(page, shot) {
+  const screens = page.locator('.ring-page .screens');
+  assert.equal(await page.locator('.ring-page .page-dot').count(), 5);
+  assert.equal(await screens.getAttribute('data-screen'), '1');
+  await page.tap('.ring-page .page-dot >> nth=2');
+  // The third screen comes to stand whole in the page, its dot marked.
+  await page.waitForFunction(() => {
+    const column = document.querySelector('.ring-page .screens-column');
+    return Math.abs(column.scrollTop - 2 * column.clientHeight) < 1;
+  });
+  assert.equal(await screens.getAttribute('data-screen'), '3');
+  assert.equal(await page.locator('.ring-page .page-dot.current').count(), 1);
+  await shot('today-picture', false);
 }
 
 async function checkBaby(page, p) {
@@ -168,7 +185,8 @@ async function checkPregnancy(page, outDir, p, device) {
   const shot = (what, fullPage = true) =>
     page.screenshot({ path: path.join(outDir, `week-${p.week}-${what}-${device}.png`), fullPage });
   await checkToday(page, p);
-  await shot('today');
+  await shot('today', false);
+  await checkScreens(page, shot);
   await checkBaby(page, p);
   await shot('baby');
   await shotOfElement(

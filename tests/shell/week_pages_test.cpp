@@ -74,6 +74,14 @@ std::string fact(const Value& page, std::size_t n, std::size_t card, const char*
   return at(at(page["children"], n)["facts"], card)[key].text();
 }
 
+const Value* child(const Value& page, std::string_view kind, std::string_view key = "",
+                   std::string_view value = "");
+
+// The nodes of the n-th screen of a page made of screens.
+const Value& screen(const Value& page, std::size_t n) {
+  return at((*child(page, "screens"))["screens"], n);
+}
+
 std::vector<std::string> rowTexts(const Value& content) {
   std::vector<std::string> texts;
   for (const Value& row : *content["rows"].asList()) texts.push_back(row["text"].text());
@@ -81,8 +89,8 @@ std::vector<std::string> rowTexts(const Value& content) {
 }
 
 // The first child node of the kind with the key equal to the value.
-const Value* child(const Value& page, std::string_view kind, std::string_view key = "",
-                   std::string_view value = "") {
+const Value* child(const Value& page, std::string_view kind, std::string_view key,
+                   std::string_view value) {
   for (const Value& c : *page["children"].asList())
     if (c["kind"].text() == kind && (key.empty() || c[std::string(key)].text() == value)) return &c;
   return nullptr;
@@ -126,39 +134,45 @@ class WeekPagesTest : public ApplicationTest {
 TEST_F(WeekPagesTest, TodayShowsTheCardsPictureAndTextsOfThePresentWeek) {
   shell::TodayPage page(*app, pregnancyOnDay(81), 1);  // week 12
   Value view = page.view();
-  EXPECT_EQ(fact(view, 0, 0), "1");
-  EXPECT_EQ(fact(view, 0, 1), "12");
-  EXPECT_EQ(fact(view, 0, 2), "81");
+  EXPECT_EQ(fact(screen(view, 0), 0, 0), "1");
+  EXPECT_EQ(fact(screen(view, 0), 0, 1), "12");
+  EXPECT_EQ(fact(screen(view, 0), 0, 2), "81");
+  EXPECT_EQ(fact(screen(view, 0), 0, 3), "10");  // counted from conception, two weeks later
   // Eleven whole weeks of the growth table.
   const auto size = health::getVesRost(11, 1);
-  EXPECT_EQ(fact(view, 1, 0),
+  EXPECT_EQ(fact(screen(view, 1), 0, 0),
             formatFixed(size.ves, 1) + " гр.\n" + formatFixed(size.rost, 1) + " мм.");
-  EXPECT_EQ(fact(view, 1, 1, "caption"), "Приблизительная дата родов");
+  EXPECT_EQ(fact(screen(view, 1), 0, 1, "caption"), "Приблизительная дата родов");
   const auto& dates = app->context().dates();
-  EXPECT_EQ(fact(view, 1, 1), dates.dateToString(dates.addDays(clock->now(), 200), "dd.MM.yyyy"));
-  EXPECT_EQ(at((*child(view, "movie"))["frames"], 7).text(), "12w008.jpg");
+  EXPECT_EQ(fact(screen(view, 1), 0, 1),
+            dates.dateToString(dates.addDays(clock->now(), 200), "dd.MM.yyyy"));
+  EXPECT_EQ(at((*child(screen(view, 2), "movie"))["frames"], 7).text(), "12w008.jpg");
 
-  const auto woman = rowTexts(*child(view, "content", "id", "woman"));
+  const auto woman = rowTexts(*child(screen(view, 3), "content", "id", "woman"));
   EXPECT_EQ(woman, bodyLines(folder(), "woman-u", 12));
   EXPECT_FALSE(woman.empty());
-  EXPECT_EQ(rowTexts(*child(view, "content", "id", "child")), bodyLines(folder(), "child-u", 12));
+  EXPECT_EQ(rowTexts(*child(screen(view, 4), "content", "id", "child")),
+            bodyLines(folder(), "child-u", 12));
 
   // Week 30 of another pregnancy, and one far past its term.
   view = shell::TodayPage(*app, pregnancyOnDay(204), 1).view();
-  EXPECT_EQ(fact(view, 0, 0), "3");
-  EXPECT_EQ(rowTexts(*child(view, "content", "id", "woman")), bodyLines(folder(), "woman-u", 30));
-  EXPECT_EQ(at((*child(view, "movie"))["frames"], 0).text(), "30w001.jpg");
+  EXPECT_EQ(fact(screen(view, 0), 0, 0), "3");
+  EXPECT_EQ(rowTexts(*child(screen(view, 3), "content", "id", "woman")),
+            bodyLines(folder(), "woman-u", 30));
+  EXPECT_EQ(at((*child(screen(view, 2), "movie"))["frames"], 0).text(), "30w001.jpg");
   view = shell::TodayPage(*app, pregnancyOnDay(310), 1).view();
-  EXPECT_EQ(fact(view, 0, 1), "-");
-  EXPECT_EQ(fact(view, 0, 2), "-");
+  EXPECT_EQ(fact(screen(view, 0), 0, 1), "-");
+  EXPECT_EQ(fact(screen(view, 0), 0, 2), "-");
+  EXPECT_EQ(fact(screen(view, 0), 0, 3), "-");
 
   // A child born on day 270: the date of birth, and the week stands where the birth left it.
   const Date first = dates.addDays(clock->now(), -300);
   addPregnancy(app->store(), "BORN", first, "60", dates.addDays(first, 269));
   view = shell::TodayPage(*app, "BORN", 1).view();
-  EXPECT_EQ(fact(view, 1, 1, "caption"), "Дата родов\n ");
-  EXPECT_EQ(fact(view, 1, 1), dates.dateToString(dates.addDays(first, 269), "dd.MM.yyyy"));
-  EXPECT_EQ(fact(view, 0, 1), "39");
+  EXPECT_EQ(fact(screen(view, 1), 0, 1, "caption"), "Дата родов\n ");
+  EXPECT_EQ(fact(screen(view, 1), 0, 1),
+            dates.dateToString(dates.addDays(first, 269), "dd.MM.yyyy"));
+  EXPECT_EQ(fact(screen(view, 0), 0, 1), "39");
 }
 
 TEST_F(WeekPagesTest, BabyMarksThePresentWeekOfAnOrganAndDimsTheFutureAchievements) {

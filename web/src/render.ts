@@ -6,7 +6,13 @@ import { element } from './dom.js';
 import { renderIcon, renderPicture } from './pictures.js';
 import { renderEditor } from './editor.js';
 import { renderRing } from './ring.js';
-import { renderContent, renderFacts, renderHintPicture, renderMovie } from './week.js';
+import {
+  renderContent,
+  renderFacts,
+  renderHintPicture,
+  renderMovie,
+  renderScreens,
+} from './week.js';
 import type {
   AddressNode,
   ButtonsNode,
@@ -65,6 +71,8 @@ export function render(node: ViewNode): HTMLElement | null {
       return renderEditor(node);
     case 'facts':
       return renderFacts(node);
+    case 'screens':
+      return renderScreens(node, renderAll);
     case 'movie':
       return renderMovie(node);
     case 'hintPicture':

@@ -443,6 +443,12 @@ export interface FactsNode {
   facts: Fact[];
 }
 
+/** A column of screens as high as the page, scrolled one at a time, with a page control. */
+export interface ScreensNode {
+  kind: 'screens';
+  screens: { children: ViewNode[] }[];
+}
+
 /** Pictures of the program shown in turn, from the first again after the last. */
 export interface MovieNode {
   kind: 'movie';
@@ -510,6 +516,7 @@ export type ViewNode =
   | DayEditorNode
   | CycleCalendarNode
   | FactsNode
+  | ScreensNode
   | MovieNode
   | HintPictureNode
   | ContentNode;

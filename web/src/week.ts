@@ -2,7 +2,15 @@
 // body picture with its named points, and reading matter.
 import { element } from './dom.js';
 import { renderIcon } from './pictures.js';
-import type { ContentNode, ContentRow, FactsNode, HintPictureNode, MovieNode } from './view.js';
+import type {
+  ContentNode,
+  ContentRow,
+  FactsNode,
+  HintPictureNode,
+  MovieNode,
+  ScreensNode,
+  ViewNode,
+} from './view.js';
 
 export function renderFacts(node: FactsNode): HTMLElement {
   const facts = element('div', 'facts');
@@ -13,6 +21,38 @@ export function renderFacts(node: FactsNode): HTMLElement {
     facts.append(card);
   }
   return facts;
+}
+
+/**
+ * The screens stand in a column that snaps screen by screen; the dot of the screen in sight is
+ * marked, and a tap on a dot brings its screen.
+ */
+export function renderScreens(
+  node: ScreensNode,
+  renderAll: (nodes: readonly ViewNode[]) => HTMLElement[],
+): HTMLElement {
+  const box = element('div', 'screens');
+  const column = element('div', 'screens-column');
+  const dots = element('div', 'page-control');
+  const sections = node.screens.map((screen, i) => {
+    const section = element('section', 'screen');
+    section.append(...renderAll(screen.children));
+    const dot = element('button', 'page-dot');
+    dot.setAttribute('aria-label', String(i + 1));
+    dot.addEventListener('click', () => section.scrollIntoView({ behavior: 'smooth' }));
+    dots.append(dot);
+    return section;
+  });
+  column.append(...sections);
+  const mark = () => {
+    const shown = Math.round(column.scrollTop / Math.max(1, column.clientHeight));
+    [...dots.children].forEach((dot, i) => dot.classList.toggle('current', i === shown));
+    box.dataset.screen = String(shown + 1);
+  };
+  column.addEventListener('scroll', mark, { passive: true });
+  mark();
+  box.append(column, dots);
+  return box;
 }
 
 /** Steps through the frames until the picture leaves the page. */
