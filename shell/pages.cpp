@@ -1,6 +1,7 @@
 #include "shell/pages.h"
 
 #include "core/edition.h"
+#include "shell/checks/check_screen.h"
 #include "shell/contraction_screen.h"
 #include "shell/cycle/cycle_calendar.h"
 #include "shell/cycle/cycle_today.h"
@@ -14,10 +15,10 @@ namespace lad::shell {
 
 std::set<int> builtPages(int appid) {
   std::set<int> pages{kDiaryPage};
-  // The title page, the week pages and the contraction counter are a pregnancy's; the child's
-  // graphs on the same rows are still to come.
+  // The title page, the week pages, the contraction counter and the doctor's plan are a
+  // pregnancy's; the child's graphs on the same rows are still to come.
   if (isPregnancyEdition(appid))
-    pages.insert({kTodayPage, kTitlePage, kBabyPage, kWomanPage, kContractionsPage});
+    pages.insert({kTodayPage, kTitlePage, kBabyPage, kWomanPage, kContractionsPage, kDoctorPage});
   // The cycle edition's today and woman's pages are her cycle's.
   if (isCycleEdition(appid)) pages.insert({kTodayPage, kWomanPage});
   return pages;
@@ -31,6 +32,9 @@ std::shared_ptr<Screen> makePage(int page, const PageArgs& args) {
     case kContractionsPage:
       if (!isPregnancyEdition(args.app.context().values().appid)) return nullptr;
       return ContractionScreen::open(args.app, args.gid, args.scale);
+    case kDoctorPage:
+      if (!isPregnancyEdition(args.app.context().values().appid)) return nullptr;
+      return checks::doctorPage(args.app, args.host, args.gid);
     case kTodayPage:
       if (isPregnancyEdition(args.app.context().values().appid))
         return std::make_shared<TodayPage>(args.app, args.gid, args.scale);

@@ -17,6 +17,7 @@ inline constexpr int kTitlePage = 3;
 inline constexpr int kBabyPage = 4;
 inline constexpr int kWomanPage = 5;
 inline constexpr int kContractionsPage = 6;
+inline constexpr int kDoctorPage = 7;
 inline constexpr int kDiaryPage = 8;
 
 // What a page is made with: the installation, the session that shows it (for the screens it

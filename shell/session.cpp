@@ -4,6 +4,7 @@
 #include <functional>
 
 #include "core/ids.h"
+#include "shell/checks/check_screen.h"
 #include "shell/child/child_dialog.h"
 #include "shell/cloud_screen.h"
 #include "shell/diary/day_editor.h"
@@ -29,6 +30,7 @@ constexpr int kPasswordSwitch = 52;
 constexpr int kReminderFeedRow = 57;
 constexpr int kReportRow = 21;
 constexpr int kCloudRow = 38;
+constexpr int kHospitalListsRow = 33;
 
 bool isNumber(const Value& v) {
   return v.type() == Value::Type::Integer || v.type() == Value::Type::Double;
@@ -78,6 +80,8 @@ void Session::addMenuCommands() {
   menu_.onCommand(kReminderFeedRow,
                   showing([this] { push(std::make_shared<ReminderFeedScreen>(app_, *this)); }));
   menu_.onCommand(kReportRow, [this] { return reports_.ask(profileId()); });
+  menu_.onCommand(kHospitalListsRow,
+                  showing([this] { push(checks::hospitalListsPage(app_, *this)); }));
   menu_.onCommand(kCloudRow, showing([this] { push(std::make_shared<CloudScreen>(app_, *this)); }));
   menu_.onCommand(kPasswordSwitch, [this] { return togglePassword(); });
 }

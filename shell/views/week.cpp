@@ -62,6 +62,12 @@ Value ContentRowView::toValue() const {
   if (!pic.empty()) m.set("pic", pic);
   m.set("group", group);
   m.set("alpha", alpha);
+  if (tick >= 0) {
+    m.set("tick", tick);
+    m.set("target", target);
+  }
+  if (!link.empty()) m.set("link", link);
+  if (button) m.set("button", true);
   return m;
 }
 

@@ -60,13 +60,18 @@ struct ScreensView {
   Value toValue() const;
 };
 
-// One row of reading matter: its kind decides the type size and colour.
+// One row of reading matter: its kind decides the type size and colour. A tick box and a link
+// have each their tap target.
 struct ContentRowView {
   int tp = 0;
   std::string text;
   std::string pic;  // a picture of the program; empty: none
   int group = 0;
   double alpha = 1;
+  int tick = -1;        // -1: no box; 0 clear; 1 ticked
+  std::string target;   // the tick box's
+  std::string link;     // empty: the row links nowhere
+  bool button = false;  // the link is the whole row, shown as a button
 
   Value toValue() const;
 };

@@ -7,6 +7,7 @@
 #include <string>
 #include <string_view>
 
+#include "content/layout.h"
 #include "core/context.h"
 #include "shell/views/week.h"
 
@@ -23,6 +24,16 @@ struct ReadingOptions {
 
 // The content folder of the installation's resources.
 std::filesystem::path contentFolder(const Context& context);
+
+// The group that the screen marks for n, as hiliteGroup lands on it (with `just`, group n
+// itself or the first one above it); 0 when none.
+int highlightedGroup(const content::TextLayout& layout, int n, bool just = false);
+
+// The rows of a laid-out text as the browser shows them, each with its alpha; with
+// `interactive`, tick boxes and links get the targets "<id>:tick:<index of the layout row>" and
+// "<id>:link:<index>", and the rows of buttons are shown.
+ContentView layoutView(std::string id, const content::TextLayout& layout,
+                       const std::vector<double>& alpha, bool interactive);
 
 ContentView readingView(const Context& context, std::string id, std::string_view resource,
                         const ReadingOptions& options);

@@ -479,6 +479,13 @@ export interface ContentRow {
   pic?: string;
   group: number;
   alpha: number;
+  /** 0 or 1: the row's tick box, clear or ticked; `target` is the box's tap target. */
+  tick?: number;
+  target?: string;
+  /** The tap target of the row's link. */
+  link?: string;
+  /** The link is the whole row, shown as a button. */
+  button?: boolean;
 }
 
 /** Reading matter; the highlighted group (0: none) is marked and scrolled into sight. */

@@ -96,11 +96,39 @@ export function renderHintPicture(node: HintPictureNode): HTMLElement {
   return box;
 }
 
+function tapTarget(tag: 'button', className: string, target: string, text = ''): HTMLElement {
+  const button = element(tag, className, text);
+  button.type = 'button';
+  button.dataset.id = target;
+  return button;
+}
+
+/**
+ * A row that links elsewhere and has no tick box is a button as a whole; one with a box has the
+ * box before its text and an arrow after it.
+ */
 function renderContentRow(row: ContentRow, highlight: number): HTMLElement {
-  const line = element('div', `content-row tp${row.tp}`);
+  const whole = row.link !== undefined && (row.button || row.tick === undefined);
+  const line = whole
+    ? tapTarget('button', `content-row tp${row.tp} content-link`, row.link ?? '')
+    : element('div', `content-row tp${row.tp}`);
+  if (row.button) line.classList.add('content-button');
   line.dataset.group = String(row.group);
+  if (row.tick !== undefined && row.target) {
+    const box = tapTarget('button', 'content-tick', row.target, row.tick === 1 ? '✓' : '');
+    box.setAttribute('aria-pressed', String(row.tick === 1));
+    line.classList.add('content-check');
+    line.classList.toggle('ticked', row.tick === 1);
+    line.append(box);
+  }
   if (row.pic) line.append(renderIcon(row.pic, row.tp === 6 ? 'content-picture' : 'content-pic'));
   if (row.tp !== 6) line.append(element('span', 'content-text', row.text));
+  if (row.link !== undefined && !row.button)
+    line.append(
+      whole
+        ? element('span', 'content-arrow', '›')
+        : tapTarget('button', 'content-arrow', row.link, '›'),
+    );
   if (row.alpha < 1) line.style.opacity = String(row.alpha);
   if (highlight > 0 && row.group === highlight) line.classList.add('highlight');
   return line;

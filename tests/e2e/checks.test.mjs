@@ -1,0 +1,71 @@
+// Browser test of the check-lists. Phone: the doctor's plan of a pregnancy, an item ticked, its
+// text kept in the editor and then found in today's diary. Tablet: the hospital lists of the
+// menu, an item of one ticked and still ticked when the list is opened again. Screenshots of the
+// plan, the editor and a list.
+//   node tests/e2e/checks.test.mjs --server PATH_TO_SERVER --out SCREENSHOT_DIR
+import assert from 'node:assert/strict';
+import path from 'node:path';
+import { PHONE, TABLET, openPastGreeting, runBrowserTest } from './harness.mjs';
+
+async function openProfile(page) {
+  if ((await page.locator('.card[data-id]').count()) > 0) await page.tap('.card[data-id]');
+}
+
+async function tickPlanItem(page, shot) {
+  await openProfile(page);
+  await page.tap('[data-id="menu:7"]');
+  const box = page.locator('.content[data-content="doctor"] .content-tick').first();
+  await box.waitFor();
+  await page.waitForSelector('.ring-page .content-row.highlight');
+  await shot('plan');
+  assert.equal(await box.getAttribute('aria-pressed'), 'false');
+  await box.tap();
+  await page.waitForSelector('.editor textarea');
+  const text = await page.inputValue('.editor textarea');
+  assert.ok(text.length > 0, 'the item brings its text');
+  await shot('plan-editor');
+  await page.tap('button[data-id="editor:ok"]');
+  await page.waitForSelector('.editor', { state: 'detached' });
+  const ticked = page.locator('.content[data-content="doctor"] .content-tick').first();
+  assert.equal(await ticked.getAttribute('aria-pressed'), 'true');
+  return text;
+}
+
+async function findInDiary(page, text) {
+  await page.tap('.ring-page .to-menu');
+  await page.waitForSelector('.ring', { state: 'detached' });
+  await page.tap('[data-id="menu:8"]');
+  const today = page.locator('.diary .day-cell.today');
+  await today.waitFor();
+  assert.ok((await today.textContent()).includes(text.split('\n')[0]), 'the text is in the day');
+}
+
+async function tickHospitalItem(page, shot) {
+  await page.tap('[data-id="menu:33"]');
+  await page.locator('.content[data-content="checks"] .content-link').first().tap();
+  const box = page.locator('.content[data-content="subcheck"] .content-tick').first();
+  await box.waitFor();
+  await box.tap();
+  await page.waitForSelector('.content[data-content="subcheck"] .content-check.ticked');
+  await shot('hospital-list');
+  await page.tap('button[data-id="checks:close"]');
+  await page.locator('.content[data-content="checks"] .content-link').first().tap();
+  await page.waitForSelector('.content[data-content="subcheck"] .content-check.ticked');
+  assert.equal(await page.locator('.content-check.ticked').count(), 1);
+}
+
+await runBrowserTest('checks', async ({ browser, base, outDir }) => {
+  const shots = (page, device) => (what) =>
+    page.screenshot({ path: path.join(outDir, `checks-${what}-${device}.png`) });
+
+  const phone = await openPastGreeting(browser, base, { device: PHONE });
+  const text = await tickPlanItem(phone.page, shots(phone.page, 'phone'));
+  await findInDiary(phone.page, text);
+  assert.deepEqual(phone.errors, []);
+  await phone.context.close();
+
+  const tablet = await openPastGreeting(browser, base, { device: TABLET });
+  await tickHospitalItem(tablet.page, shots(tablet.page, 'tablet'));
+  assert.deepEqual(tablet.errors, []);
+  await tablet.context.close();
+});
