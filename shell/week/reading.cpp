@@ -18,10 +18,6 @@ int highlightedGroup(const content::TextLayout& layout, int week) {
 
 }  // namespace
 
-std::filesystem::path contentFolder(const Context& context) {
-  return context.resourcesDir() / "content";
-}
-
 ContentView readingView(const Context& context, std::string id, std::string_view resource,
                         const ReadingOptions& options) {
   content::LayoutSettings settings;

@@ -7,6 +7,7 @@
 #include <string>
 #include <string_view>
 
+#include "content/resource.h"
 #include "core/context.h"
 #include "shell/views/week.h"
 
@@ -21,8 +22,7 @@ struct ReadingOptions {
   std::optional<Date> start;  // the first day of the pregnancy, for the dates of week marks
 };
 
-// The content folder of the installation's resources.
-std::filesystem::path contentFolder(const Context& context);
+using content::contentFolder;
 
 ContentView readingView(const Context& context, std::string id, std::string_view resource,
                         const ReadingOptions& options);
