@@ -6,6 +6,7 @@ import { element } from './dom.js';
 import { renderIcon, renderPicture } from './pictures.js';
 import { renderEditor } from './editor.js';
 import { renderRing } from './ring.js';
+import { renderSchedule } from './schedule.js';
 import { renderContent, renderFacts, renderHintPicture, renderMovie } from './week.js';
 import type {
   AddressNode,
@@ -71,6 +72,8 @@ export function render(node: ViewNode): HTMLElement | null {
       return renderHintPicture(node);
     case 'content':
       return renderContent(node);
+    case 'schedule':
+      return renderSchedule(node);
     default:
       return null; // kinds this build does not know are skipped
   }
