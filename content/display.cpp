@@ -63,8 +63,8 @@ std::string shownText(std::string_view format, std::string_view text, Date start
   return format.empty() ? std::string(text) : fillTemplate(format, text, start, dates);
 }
 
-std::string tickGuid(std::string_view checkid) {
-  if (characters(checkid) > 9) return std::string(checkid);
+std::string tickGuid(std::string_view checkid, std::size_t longestNumber) {
+  if (characters(checkid) > longestNumber) return std::string(checkid);
   return newID2(2, leadingInteger(checkid));
 }
 

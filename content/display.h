@@ -1,6 +1,7 @@
 // What a record shows: its display template filled in, and the identifier of its tick box.
 #pragma once
 
+#include <cstddef>
 #include <string>
 #include <string_view>
 
@@ -20,8 +21,9 @@ std::string fillTemplate(std::string_view format, std::string_view text, Date st
 std::string shownText(std::string_view format, std::string_view text, Date start,
                       const DateCodec& dates);
 
-// A tick identifier of nine characters or fewer is a number made into a fixed identifier of
-// group 2; a longer one stands as it is.
-std::string tickGuid(std::string_view checkid);
+// A tick identifier of `longestNumber` characters or fewer is a number made into a fixed
+// identifier of group 2; a longer one stands as it is. The laid-out texts take numbers of up to
+// nine characters, the day schedule's due items of up to four.
+std::string tickGuid(std::string_view checkid, std::size_t longestNumber = 9);
 
 }  // namespace lad::content

@@ -6,6 +6,7 @@
 #include <sstream>
 
 #include "content/record.h"
+#include "core/context.h"
 
 namespace lad::content {
 
@@ -30,6 +31,10 @@ std::optional<std::string> readFile(const std::filesystem::path& folder, std::st
 }
 
 }  // namespace
+
+std::filesystem::path contentFolder(const Context& context) {
+  return context.resourcesDir() / "content";
+}
 
 std::string_view trimText(std::string_view text) {
   constexpr std::string_view kSpace = " \t\r\n\v\f";

@@ -6,7 +6,14 @@
 #include <string>
 #include <string_view>
 
+namespace lad {
+class Context;
+}
+
 namespace lad::content {
+
+// The content folder of the installation's resources.
+std::filesystem::path contentFolder(const Context& context);
 
 struct Resource {
   std::string text;   // trimmed; empty when nothing could be read

@@ -49,4 +49,13 @@ std::string sortValueByTime(int /*type*/, std::string_view source) {
   return out;
 }
 
+std::optional<int> clockMinutes(std::string_view text) {
+  const auto digit = [&](std::size_t i) { return text[i] >= '0' && text[i] <= '9'; };
+  if (text.size() != 5 || text[2] != ':' || !digit(0) || !digit(1) || !digit(3) || !digit(4))
+    return std::nullopt;
+  const int h = (text[0] - '0') * 10 + text[1] - '0', m = (text[3] - '0') * 10 + text[4] - '0';
+  if (h > 23 || m > 59) return std::nullopt;
+  return h * 60 + m;
+}
+
 }  // namespace lad

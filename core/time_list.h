@@ -2,6 +2,7 @@
 #pragma once
 
 #include <cstdint>
+#include <optional>
 #include <string>
 #include <string_view>
 
@@ -11,6 +12,10 @@ namespace lad {
 // hours and the rest as the minutes, each by its leading number. A text without a two-digit
 // hour gives a wrong difference, not an error.
 std::int64_t timeCompare(std::string_view time1, std::string_view time2);
+
+// Minutes since midnight of an exact clock time "HH:mm" (00:00 to 23:59); nullopt for any other
+// text, "9:00" and "24:00" among them.
+std::optional<int> clockMinutes(std::string_view text);
 
 // Orders the "<end>"-separated items of a list, each opening with "HH:mm<td>", by their times;
 // items of equal time keep their order. A list of fewer than two items comes back as it is.

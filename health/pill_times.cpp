@@ -19,6 +19,7 @@ constexpr int kWakingMinutes = 14 * 60;
 constexpr int kDayMinutes = 24 * 60;
 // The picker offers up to 24 intakes a day; a larger count comes from a damaged value.
 constexpr std::int64_t kMostIntakes = 24;
+constexpr const char* kAnyTime = "Независимо от еды";
 
 struct Relation {
   const char* caption;
@@ -35,14 +36,6 @@ constexpr std::array<Relation, 9> kRelations{{
     {"Через 30 минут после еды", 40},
     {"Через 1 час после еды", 70},
 }};
-
-// The meals (0 breakfast to 4 dinner) that a count of intakes bound to food falls on.
-std::span<const int> mealsFor(std::int64_t count) {
-  static constexpr int kOne[] = {0}, kTwo[] = {0, 4}, kThree[] = {0, 2, 4}, kFour[] = {0, 2, 3, 4},
-                       kFive[] = {0, 1, 2, 3, 4};
-  static constexpr std::span<const int> kByCount[] = {kOne, kTwo, kThree, kFour, kFive};
-  return kByCount[std::clamp<std::int64_t>(count, 1, 5) - 1];
-}
 
 std::string twoDigits(int n) {
   const std::string text = "0" + std::to_string(n);
@@ -94,6 +87,22 @@ int mealOffset(const Context& context, std::string_view relation) {
   return 0;
 }
 
+int relationRank(const Context& context, std::string_view relation) {
+  // The four before a meal stand first in the table, "Во время еды" fifth, the four after last.
+  constexpr int kDuring = 4;
+  for (int i = 0; i < static_cast<int>(kRelations.size()); ++i)
+    if (i != kDuring && relation == context.translate(kRelations[i].caption))
+      return i < kDuring ? i + 1 : i - kDuring;
+  return 0;
+}
+
+std::span<const int> mealsFor(std::int64_t count) {
+  static constexpr int kOne[] = {0}, kTwo[] = {0, 4}, kThree[] = {0, 2, 4}, kFour[] = {0, 2, 3, 4},
+                       kFive[] = {0, 1, 2, 3, 4};
+  static constexpr std::span<const int> kByCount[] = {kOne, kTwo, kThree, kFour, kFive};
+  return kByCount[std::clamp<std::int64_t>(count, 1, 5) - 1];
+}
+
 std::optional<Date> generateTimeEat(const Context& context, Date day, int base,
                                     std::string_view relation) {
   int h = base, m = mealOffset(context, relation);
@@ -108,25 +117,42 @@ std::optional<Date> generateTimeEat(const Context& context, Date day, int base,
   return timeOfDay(context.dates(), day, h, m);
 }
 
+std::int64_t intakeCount(const Regimen& regimen) {
+  return std::min(leadingInteger(pairOf(regimen.pillinter).first), kMostIntakes);
+}
+
+bool spreadsOverDay(const Context& context, std::int64_t count, std::string_view relation) {
+  return count > 5 || relation == context.translate(kAnyTime);
+}
+
+std::string withRelation(const Context& context, const std::string& base,
+                         std::string_view relation) {
+  if (relation == context.translate(kAnyTime)) return base;
+  return base + ", " + std::string(relation);
+}
+
+std::string intakeBaseText(const Context& context, const Regimen& regimen, const List& listData) {
+  return checkStringToRead(regimen.pillname, listData) + ": " +
+         dozaToRead3(context, regimen.pilldoza);
+}
+
 std::vector<Intake> regimenIntakes(const Context& context, Date day, const Regimen& regimen,
                                    const List& listData, std::string_view meals) {
   const DateCodec& dates = context.dates();
   std::vector<Intake> out;
-  const std::string base =
-      checkStringToRead(regimen.pillname, listData) + ": " + dozaToRead3(context, regimen.pilldoza);
+  const std::string base = intakeBaseText(context, regimen, listData);
   if (!regimen.pilltime.empty()) {
     const std::string dayText = dates.dateToString(day, "yyyy-MM-dd") + " ";
     for (std::string_view time : splitOn(regimen.pilltime, "<td>"))
       if (auto at = dates.dateFromString(dayText + std::string(time))) out.push_back({*at, base});
     return out;
   }
-  const auto [countText, unit] = pairOf(regimen.pillinter);
-  const std::int64_t count = std::min(leadingInteger(countText), kMostIntakes);
+  const std::int64_t count = intakeCount(regimen);
   const std::string relation = checkStringToRead(regimen.pilleat, listData);
-  const std::string anyTime = context.translate("Независимо от еды");
-  if (count > 5 || relation == anyTime) {
-    const std::string msg = relation == anyTime ? base : base + ", " + relation;
-    spreadEvenly(dates, day, unit == "раз в сутки" ? 2 : 1, count, msg, out);
+  if (spreadsOverDay(context, count, relation)) {
+    const std::string msg = withRelation(context, base, relation);
+    const int type = pairOf(regimen.pillinter).second == "раз в сутки" ? 2 : 1;
+    spreadEvenly(dates, day, type, count, msg, out);
     return out;
   }
   const std::string msg = base + " (" + relation + ")";

@@ -2,7 +2,9 @@
 // and the intakes of every course of a day's `pills` value.
 #pragma once
 
+#include <cstdint>
 #include <optional>
+#include <span>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -31,10 +33,33 @@ std::optional<Date> generateTime(const DateCodec& dates, Date day, int type, int
 // Minutes from the meal at which a medicine with that relation to food is taken.
 int mealOffset(const Context& context, std::string_view relation);
 
+// The place of a relation among those before a meal, nearest last (1 to 4), or among those after
+// it, nearest first (1 to 4); 0 for any other text.
+int relationRank(const Context& context, std::string_view relation);
+
+// The meals (0 breakfast to 4 dinner) that a count of intakes bound to food falls on: breakfast
+// always, dinner from 2, lunch from 3, the afternoon meal from 4, the second breakfast at 5.
+std::span<const int> mealsFor(std::int64_t count);
+
 // The intake for a meal at the whole hour `base` and the relation's offset; nullopt when the
 // hour falls outside the day (a meal at 0 taken an hour before) or the time does not exist.
 std::optional<Date> generateTimeEat(const Context& context, Date day, int base,
                                     std::string_view relation);
+
+// The number of intakes a day of a course, at most 24.
+std::int64_t intakeCount(const Regimen& regimen);
+
+// Whether a course of that count and relation to food is spread over the day rather than bound
+// to the meals: more than five intakes, or "Независимо от еды".
+bool spreadsOverDay(const Context& context, std::int64_t count, std::string_view relation);
+
+// The text of a spread intake: the base text with ", " and the relation, unless that is
+// "Независимо от еды".
+std::string withRelation(const Context& context, const std::string& base,
+                         std::string_view relation);
+
+// "Арбидол: 1 штука": the medicine's name and the dose of one intake.
+std::string intakeBaseText(const Context& context, const Regimen& regimen, const List& listData);
 
 // The intakes of one course on the day. The meals are the five "HH:mm" times joined by
 // "<table>" that getObed gives.

@@ -9,6 +9,7 @@
 #include "shell/pages.h"
 #include "shell/profile_cards.h"
 #include "shell/views/pages.h"
+#include "shell/week_notices.h"
 #include "store/profiles.h"
 
 namespace lad::shell {
@@ -29,6 +30,8 @@ struct SwitchSetting {
 namespace {
 
 constexpr std::string_view kTargetPrefix = "menu:";
+// The badge of a row's notices of the week ("menu:notice:7").
+constexpr std::string_view kNoticePrefix = "menu:notice:";
 // The cloud row tells the mode and how complete the folder is.
 constexpr int kCloudRow = 38;
 
@@ -90,6 +93,12 @@ RowView MainMenu::rowOf(const Value& item) const {
     row.comment.clear();
   }
   if (item["hint"].intValue() > 0) row.badge = item["hint"].text();
+  if (isProfileItem(*item.asMap()) && !activeId_.empty() &&
+      hasWeekNotices(context_.values().appid, id))
+    if (const auto notices = weekNotices(store_, id, activeId_); !notices.empty()) {
+      row.badge = std::to_string(notices.size());
+      row.badgeTarget = std::string(kNoticePrefix) + std::to_string(id);
+    }
   row.enabled = isBuilt(id);
   if (item["tp"].intValue() == kMenuSwitch) row.checked = item["checked"].boolValue();
   return row;
@@ -143,6 +152,13 @@ Value MainMenu::view() {
 
 EventResult MainMenu::tap(std::string_view target) {
   if (const std::string guid = cardGuid(target); !guid.empty()) return tapCard(guid);
+  if (target.starts_with(kNoticePrefix)) {
+    int id = 0;
+    const auto number = target.substr(kNoticePrefix.size());
+    auto [end, ec] = std::from_chars(number.data(), number.data() + number.size(), id);
+    if (ec == std::errc() && end == number.data() + number.size()) return readNotices(id);
+    return EventResult::refused("no notices " + std::string(target));
+  }
   auto id = parseTarget(target);
   const Map* item = id ? menuRow(context_.values().tabMenu, *id) : nullptr;
   if (!item) return EventResult::refused("no menu item " + std::string(target));
@@ -168,6 +184,18 @@ EventResult MainMenu::tapItem(int id, bool profileItem) {
   if (auto command = commands_.find(id); command != commands_.end()) return command->second();
   if (!openPage_) return EventResult::refused("pages cannot be opened here");
   return openPage_(id);
+}
+
+// The notices go into a message and the week's badge goes; the row's page stays where it is.
+EventResult MainMenu::readNotices(int id) {
+  if (activeId_.empty() || !hasWeekNotices(context_.values().appid, id))
+    return EventResult::refused("no notices of row " + std::to_string(id));
+  auto message = readWeekNotices(store_, id, activeId_);
+  if (!message) return EventResult::refused("no notices this week");
+  if (showMessage_) showMessage_(std::move(*message));
+  EventResult result;
+  result.installationChanged = true;
+  return result;
 }
 
 EventResult MainMenu::toggleSwitch(const SwitchSetting& s) {

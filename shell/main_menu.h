@@ -6,6 +6,7 @@
 #include <string>
 
 #include "core/context.h"
+#include "shell/message_box.h"
 #include "shell/screen.h"
 #include "shell/views/rows.h"
 #include "store/store.h"
@@ -22,6 +23,7 @@ class MainMenu : public Screen {
   using PageOpener = std::function<EventResult(int page)>;
   // A command row's action, given by the screen that owns what it opens.
   using Command = std::function<EventResult()>;
+  using MessageShower = std::function<void(MessageBox)>;
 
   MainMenu(Context& context, Store& store) : context_(context), store_(store) {}
 
@@ -32,6 +34,8 @@ class MainMenu : public Screen {
   void updateMenu();
 
   void onOpenPage(PageOpener opener) { openPage_ = std::move(opener); }
+  // Where the week's notices of a row are shown when their badge is tapped.
+  void onMessage(MessageShower shower) { showMessage_ = std::move(shower); }
   // Rows with an action are enabled; the others wait for their screens.
   void onCommand(int id, Command action) { commands_[id] = std::move(action); }
   // The open profile, or "" while every card is closed.
@@ -47,10 +51,12 @@ class MainMenu : public Screen {
   RowView rowOf(const Value& item) const;
   EventResult tapItem(int id, bool profileItem);
   EventResult toggleSwitch(const SwitchSetting& s);
+  EventResult readNotices(int id);
 
   Context& context_;
   Store& store_;
   PageOpener openPage_;
+  MessageShower showMessage_;
   std::map<int, Command> commands_;
   std::string activeId_;
 };

@@ -5,6 +5,7 @@
 #include "shell/contraction_screen.h"
 #include "shell/cycle/cycle_calendar.h"
 #include "shell/cycle/cycle_today.h"
+#include "shell/day_schedule_page.h"
 #include "shell/diary/diary_list.h"
 #include "shell/title_page.h"
 #include "shell/week/baby_page.h"
@@ -14,7 +15,8 @@
 namespace lad::shell {
 
 std::set<int> builtPages(int appid) {
-  std::set<int> pages{kDiaryPage};
+  // Every edition's menu has the diary and the day schedule.
+  std::set<int> pages{kDiaryPage, kSchedulePage};
   // The title page, the week pages, the contraction counter and the doctor's plan are a
   // pregnancy's; the child's graphs on the same rows are still to come.
   if (isPregnancyEdition(appid))
@@ -49,6 +51,9 @@ std::shared_ptr<Screen> makePage(int page, const PageArgs& args) {
       if (!isCycleEdition(args.app.context().values().appid)) return nullptr;
       return std::make_shared<CycleCalendar>(args.app, args.host, args.gid, args.diary, false,
                                              args.fromMenu);
+    case kSchedulePage:
+      return std::make_shared<DaySchedulePage>(args.app, args.host, args.gid, args.diary,
+                                               args.fromMenu);
     case kDiaryPage:
       return std::make_shared<DiaryList>(args.app, args.host, args.gid, args.diary, args.fromMenu);
     default:

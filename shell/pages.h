@@ -13,6 +13,7 @@
 namespace lad::shell {
 
 inline constexpr int kTodayPage = 1;
+inline constexpr int kSchedulePage = 2;
 inline constexpr int kTitlePage = 3;
 inline constexpr int kBabyPage = 4;
 inline constexpr int kWomanPage = 5;

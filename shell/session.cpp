@@ -59,6 +59,7 @@ Session::Session(Application& app)
                               builtPages(app.context().values().appid))),
       fingerprint_(app.context()) {
   menu_.onOpenPage([this](int page) { return openTab(page); });
+  menu_.onMessage([this](MessageBox message) { showMessage(std::move(message)); });
   addMenuCommands();
   if (passwordOn(app.context().settings())) showLock(LockMode::Check);
 }

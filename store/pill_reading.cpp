@@ -131,11 +131,16 @@ std::string pillsToRead(const Context& context, const Value& pill, const List& l
   appendPiece(sentence, checkStringToRead(text("pilleat"), listData));
   appendPiece(sentence, intervalToRead3(context, text("pilllength"), false));
   if (!forDate) return sentence;
+  return sentence + courseDayText(context, text("pillsdate"), text("pilllength"), *forDate);
+}
+
+std::string courseDayText(const Context& context, std::string_view pillsdate,
+                          std::string_view pilllength, Date day) {
   const DateCodec& dates = context.dates();
-  const auto first = dates.dateFromStringFormat(text("pillsdate"), "dd.MM.yyyy");
-  if (!first) return sentence;
-  return sentence + " (" + std::to_string(dates.getDays(*first, *forDate) + 1) + " день из " +
-         std::to_string(pillLengthToDays(context, text("pilllength"), *first)) + ")";
+  const auto first = dates.dateFromStringFormat(pillsdate, "dd.MM.yyyy");
+  if (!first) return "";
+  return " (" + std::to_string(dates.getDays(*first, day) + 1) + " день из " +
+         std::to_string(pillLengthToDays(context, pilllength, *first)) + ")";
 }
 
 }  // namespace lad

@@ -4,6 +4,7 @@
 
 #include <optional>
 #include <string>
+#include <string_view>
 
 #include "core/value.h"
 
@@ -29,6 +30,11 @@ std::string periodToRead(const Context& context, std::string_view value);
 
 // The days a course of that length lasts from its first day; 0 for an unknown unit.
 int pillLengthToDays(const Context& context, std::string_view length, Date first);
+
+// " (3 день из 7)": the day's number in a course from its first day "dd.MM.yyyy" and the
+// course's length in days; "" when the first day is not a date.
+std::string courseDayText(const Context& context, std::string_view pillsdate,
+                          std::string_view pilllength, Date day);
 
 // The sentence of one course: name, dose, periodicity, frequency, relation to food and length,
 // with " (%d день из %d)" when a day is given.

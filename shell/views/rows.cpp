@@ -11,6 +11,7 @@ Value RowView::toValue() const {
   m.set("caption", caption);
   m.set("comment", comment);
   m.set("badge", badge);
+  if (!badgeTarget.empty()) m.set("badgeTarget", badgeTarget);
   m.set("enabled", enabled);
   if (checked) m.set("checked", *checked);
   if (!deleteTarget.empty()) {

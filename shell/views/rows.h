@@ -17,6 +17,7 @@ struct RowView {
   std::string caption;
   std::string comment;
   std::string badge;
+  std::string badgeTarget;  // set: the badge is a button of its own
   bool enabled = true;
   std::optional<bool> checked;  // set: the row is a switch
   // Set on a row that a swipe to the left offers to delete: the tap target and its caption.

@@ -38,10 +38,6 @@ ContentView layoutView(std::string id, const content::TextLayout& layout,
   return view;
 }
 
-std::filesystem::path contentFolder(const Context& context) {
-  return context.resourcesDir() / "content";
-}
-
 ContentView readingView(const Context& context, std::string id, std::string_view resource,
                         const ReadingOptions& options) {
   content::LayoutSettings settings;

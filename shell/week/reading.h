@@ -8,6 +8,7 @@
 #include <string_view>
 
 #include "content/layout.h"
+#include "content/resource.h"
 #include "core/context.h"
 #include "shell/views/week.h"
 
@@ -22,8 +23,7 @@ struct ReadingOptions {
   std::optional<Date> start;  // the first day of the pregnancy, for the dates of week marks
 };
 
-// The content folder of the installation's resources.
-std::filesystem::path contentFolder(const Context& context);
+using content::contentFolder;
 
 // The group that the screen marks for n, as hiliteGroup lands on it (with `just`, group n
 // itself or the first one above it); 0 when none.

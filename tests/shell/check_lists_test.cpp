@@ -2,10 +2,13 @@
 // offered for the diary when an item is ticked, and the lists shared by every pregnancy.
 #include <gtest/gtest.h>
 
+#include "content/resource.h"
 #include "core/ids.h"
+#include "core/text_parts.h"
 #include "shell/checks/check_screen.h"
 #include "shell/checks/plan_note.h"
 #include "shell/editor/editor_view.h"
+#include "shell/week_notices.h"
 #include "store/records.h"
 #include "store/selections.h"
 #include "store/store.h"
@@ -177,6 +180,51 @@ TEST_F(CheckListsTest, TheChildsDiaryTakesThePlanTextAsAVaccination) {
   shell::checks::insertIntoNote(*app, kGid, "Осмотр педиатра", clock->now());
   EXPECT_EQ(diary("priv"), "Прививка БЦЖ\nОсмотр педиатра");
   EXPECT_EQ(diary("doctor"), "");
+}
+
+// The first notice of the woman's row in the notice file: its week and its text.
+std::pair<int, std::string> firstWomanNotice(const std::filesystem::path& resources) {
+  const std::string text = testing::readFile(resources / "content" / "warning.txt");
+  for (std::string_view row : splitOn(text, "<tr>")) {
+    const auto fields = splitOn(row, "<td>");
+    if (fields.size() >= 3 && std::stoi(std::string(fields[0])) == 5)
+      return {std::stoi(std::string(fields[1])), std::string(content::trimText(fields[2]))};
+  }
+  return {0, ""};
+}
+
+// Finds the row of the open card's list with the id, in the menu's view.
+Value menuRowOf(shell::Session& s, std::string_view id) {
+  const Value view = s.view();
+  for (const Value& node : *view["children"].asList())
+    if (node["kind"].text() == "list")
+      for (const Value& row : *node["rows"].asList())
+        if (row["id"].text() == id) return row;
+  return Value();
+}
+
+TEST_F(CheckListsTest, AWeeksNoticeIsReadFromItsBadgeAndThenStaysAwayForThatWeek) {
+  const auto [week, text] = firstWomanNotice(LADANEYA_RESOURCES_DIR);
+  ASSERT_GT(week, 0);
+  const std::string gid = "NOTICE-PREGNANCY";
+  const Date first = app->context().dates().addDays(clock->now(), -(week - 1) * 7);
+  testing::addPregnancy(app->store(), gid, first, "60");
+  testing::addPregnancy(app->store(), "OTHER", first, "60");
+  auto session = greetedSession();
+  ASSERT_TRUE(tap(*session, "card:" + gid).ok());
+  Value row = menuRowOf(*session, "menu:5");
+  ASSERT_EQ(row["badgeTarget"].text(), "menu:notice:5");
+  EXPECT_GE(row["badge"].intValue(), 1);
+
+  ASSERT_TRUE(tap(*session, "menu:notice:5").ok());
+  const Value message = session->view()["message"];
+  EXPECT_EQ(message["caption"].text(), "События " + std::to_string(week) + " недели");
+  EXPECT_NE(message["text"].text().find(text), std::string::npos);
+  ASSERT_TRUE(tap(*session, shell::kMessageClose).ok());
+  EXPECT_TRUE(menuRowOf(*session, "menu:5")["badgeTarget"].text().empty());
+  EXPECT_FALSE(tap(*session, "menu:notice:5").ok()) << "read once, the week's notices are gone";
+  // Another pregnancy in the same week still has them.
+  EXPECT_FALSE(shell::weekNotices(app->store(), 5, "OTHER").empty());
 }
 
 }  // namespace

@@ -18,12 +18,14 @@ class StoreTest : public ::testing::Test {
   // 2026-03-30 10:00 in Berlin: the day after the change to summer time.
   static Date testNow() { return *dateFromIso("2026-03-30T08:00:00Z"); }
 
-  void open(int appid = 1, int langid = 1) {
+  // The program's resources may be replaced by a folder of the test's own.
+  void open(int appid = 1, int langid = 1,
+            const std::filesystem::path& resources = LADANEYA_RESOURCES_DIR) {
     store.reset();
     context.reset();
     clock = std::make_shared<ManualClock>(testNow(), "Europe/Berlin");
     context = std::make_unique<Context>(
-        ContextOptions{appid, langid, dir.path(), "1.0", clock, LADANEYA_RESOURCES_DIR});
+        ContextOptions{appid, langid, dir.path(), "1.0", clock, resources});
     launch(*context);
     store = std::make_unique<Store>(*context);
   }

@@ -6,6 +6,7 @@ import { element } from './dom.js';
 import { renderIcon, renderPicture } from './pictures.js';
 import { renderEditor } from './editor.js';
 import { renderRing } from './ring.js';
+import { renderSchedule } from './schedule.js';
 import {
   renderContent,
   renderFacts,
@@ -79,6 +80,8 @@ export function render(node: ViewNode): HTMLElement | null {
       return renderHintPicture(node);
     case 'content':
       return renderContent(node);
+    case 'schedule':
+      return renderSchedule(node);
     default:
       return null; // kinds this build does not know are skipped
   }
@@ -116,6 +119,15 @@ function renderAll(nodes: readonly ViewNode[]): HTMLElement[] {
   return nodes.map(render).filter((child): child is HTMLElement => child !== null);
 }
 
+/** A row's badge; one with a target of its own is a button beside the row's own tap. */
+function renderBadge(badge: string, target?: string): HTMLElement {
+  if (!target) return element('span', 'badge', badge);
+  const button = element('button', 'badge week-notice', badge);
+  button.type = 'button';
+  button.dataset.id = target;
+  return button;
+}
+
 function renderRow(node: RowNode): HTMLElement {
   const row = element('div', 'row');
   row.dataset.id = node.id;
@@ -129,7 +141,7 @@ function renderRow(node: RowNode): HTMLElement {
   if (node.caption && node.comment) text.append(element('div', 'comment', node.comment));
   row.append(text);
 
-  if (node.badge) row.append(element('span', 'badge', node.badge));
+  if (node.badge) row.append(renderBadge(node.badge, node.badgeTarget));
   if (node.deleteTarget) addSwipeToDelete(row, node.deleteTarget, node.deleteCaption ?? '');
 
   // The part a keyboard or screen reader operates: the toggle, or else the text.

@@ -8,6 +8,8 @@ export interface RowNode {
   icon?: string;
   comment?: string;
   badge?: string;
+  /** Set: the badge is a button with this tap target. */
+  badgeTarget?: string;
   /** Present only on switch rows. */
   checked?: boolean;
   /** Present on rows that a swipe to the left offers to delete: the tap target and its caption. */
@@ -362,6 +364,27 @@ export interface DayCellNode {
   deleteCaption: string;
 }
 
+/** One text of a schedule row: 0 a notice, 1 a doctor's item, 5 a reminder, 23 a medicine,
+ * 25 a diet's menu. */
+export interface ScheduleEntry {
+  kind: number;
+  text: string;
+}
+
+export interface ScheduleRow {
+  style: 'meal' | 'relation' | 'heading' | 'blank' | 'plain';
+  right: string;
+  entries: ScheduleEntry[];
+}
+
+/** The day schedule: the day between its buttons, the meal times, the rows of the day. */
+export interface ScheduleNode {
+  kind: 'schedule';
+  day: YearNode;
+  meals: ButtonNode;
+  rows: ScheduleRow[];
+}
+
 /** A year chosen with the buttons on either side of its caption. */
 export interface YearNode {
   caption: string;
@@ -526,7 +549,8 @@ export type ViewNode =
   | ScreensNode
   | MovieNode
   | HintPictureNode
-  | ContentNode;
+  | ContentNode
+  | ScheduleNode;
 
 /**
  * What the server sends: the screen on top, with a popup and a message over it while open,
