@@ -12,7 +12,7 @@ import {
   stopServer,
 } from './harness.mjs';
 
-const NOT_BUILT_ROW = 'menu:2';
+const NOT_BUILT_ROW = 'menu:9';
 const SWITCH_ROW = 'menu:51';
 const SWITCH_TEXT = 'Не показывать в дневнике пустые дни';
 const SWITCH = `[data-id="${SWITCH_ROW}"] .switch`;

@@ -101,7 +101,7 @@ TEST_F(ServerTest, RefusesBadEventsWithoutChangingAnything) {
       {R"({"type":"swipe","target":"menu:51"})", "swipe"},
       {R"({"type":"tap"})", "\"target\""},
       {R"({"type":"tap","target":51})", "\"target\""},
-      {R"({"type":"tap","target":"menu:2"})", "menu:2"},
+      {R"({"type":"tap","target":"menu:9"})", "menu:9"},
       {R"({"type":"tap","target":"menu:999"})", "menu:999"},
       {R"({"type":"tap","target":"menu:51x"})", "menu:51x"},
       {R"({"type":"viewport","width":0,"height":844})", "positive"},
@@ -120,7 +120,7 @@ TEST_F(ServerTest, RefusesBadEventsWithoutChangingAnything) {
     EXPECT_NE(error.find(c.saysWhat), std::string::npos) << c.body << " -> " << res->body;
   }
   // The disabled row and the unknown row are refused for different reasons.
-  EXPECT_NE(errorOf(*postEvent(R"({"type":"tap","target":"menu:2"})", session)),
+  EXPECT_NE(errorOf(*postEvent(R"({"type":"tap","target":"menu:9"})", session)),
             errorOf(*postEvent(R"({"type":"tap","target":"menu:999"})", session)));
 
   // A valid tap that arrives in the wrong way must not be taken either.

@@ -54,13 +54,13 @@ TEST_F(MainMenuTest, CardsComeFirstAndAnOpenCardShowsItsProfileItems) {
   // The first launch starts a pregnancy today, due in 280 days.
   EXPECT_EQ((*card["lines"].asList())[0].text(), "23.11.2026 - 30.08.2027");
   EXPECT_EQ(lists(view).size(), 1u);
-  EXPECT_EQ(row(view, "menu:2"), nullptr);  // profile items wait for an open card
+  EXPECT_EQ(row(view, "menu:9"), nullptr);  // profile items wait for an open card
 
   ASSERT_TRUE(m.tap("card:" + guid).ok());
   EXPECT_EQ(m.activeId(), guid);
   view = m.view();
   ASSERT_EQ(lists(view).size(), 2u);
-  EXPECT_EQ((*row(view, "menu:2"))["enabled"], Value(false));  // its screen is not built
+  EXPECT_EQ((*row(view, "menu:9"))["enabled"], Value(false));  // its screen is not built
   EXPECT_EQ((*row(view, "menu:3"))["enabled"], Value(true));
 
   // Opening a page goes to the page ring; a page without a screen never gets there.
@@ -70,12 +70,12 @@ TEST_F(MainMenuTest, CardsComeFirstAndAnOpenCardShowsItsProfileItems) {
     return EventResult{};
   });
   EXPECT_TRUE(m.tap("menu:3").ok());
-  EXPECT_FALSE(m.tap("menu:2").ok());
+  EXPECT_FALSE(m.tap("menu:9").ok());
   EXPECT_EQ(opened, std::vector<int>{3});
 
   ASSERT_TRUE(m.tap("card:" + guid).ok());  // touching an open card closes it
   EXPECT_EQ(m.activeId(), "");
-  EXPECT_EQ(row(view = m.view(), "menu:2"), nullptr);
+  EXPECT_EQ(row(view = m.view(), "menu:9"), nullptr);
   EXPECT_FALSE(m.tap("menu:3").ok());
   EXPECT_FALSE(m.tap("card:00000000-0000-0000-0001-000000000009").ok());
 

@@ -1,0 +1,127 @@
+// Browser test of the day schedule: a medicine taken twice a day before meals, written in the day
+// editor, stands before breakfast and dinner; the meal times set in the dialog "Время приема
+// пищи" move its rows, the dinner's over midnight to the top of the day. Screenshots of the
+// schedule and the dialog at phone and tablet size.
+//   node tests/e2e/inday.test.mjs --server PATH_TO_SERVER --out SCREENSHOT_DIR
+import assert from 'node:assert/strict';
+import path from 'node:path';
+import {
+  PHONE,
+  TABLET,
+  openPastGreeting,
+  pickOnWheels,
+  runBrowserTest,
+  settled,
+} from './harness.mjs';
+
+const PILLS_ROW = '.day-field:has(img[src$="/ne-pills128.png"])';
+const RELATION = 'Перед едой';
+
+async function screenshots(page, name, outDir) {
+  await page.screenshot({ path: path.join(outDir, `${name}.png`), fullPage: true });
+  await page.setViewportSize(TABLET.viewport);
+  await page.screenshot({ path: path.join(outDir, `${name}-tablet.png`), fullPage: true });
+  await page.setViewportSize(PHONE.viewport);
+}
+
+/** Chooses the entry of a dictionary field of the medicine form. */
+async function chooseEntry(page, field, caption) {
+  await page.tap(`button[data-id="field:${field}"]`);
+  await page.tap(`.editor-entry:has-text("${caption}")`);
+  await page.tap('.editor-ok');
+  await page.waitForSelector(`button[data-id="field:${field}"]:has-text("${caption}")`);
+}
+
+/** A new pregnancy from today, opened under its card. */
+async function createPregnancy(page) {
+  await page.tap('[data-id="menu:31"]');
+  await page.waitForSelector('.editor');
+  await page.fill('input[data-field="field:name"]', 'Вера');
+  await page.locator('input[data-field="field:name"]').blur();
+  await page.tap('button[data-id="editor:ok"]');
+  await page.waitForSelector('.editor', { state: 'detached' });
+  await page.locator('.card', { hasText: 'Вера' }).tap();
+  await page.waitForSelector('.card.open');
+}
+
+/** Today's course of Арбидол, twice a day before meals. */
+async function writeCourse(page) {
+  await page.tap('[data-id="menu:8"]');
+  await page.tap('.ring-page .diary-add');
+  await page.waitForSelector('.day-editor');
+  await page.tap(PILLS_ROW);
+  await chooseEntry(page, 'pillname', 'Арбидол');
+  await pickOnWheels(page, 'field:pillinter', ['2', 'раз в день']);
+  await chooseEntry(page, 'pilleat', RELATION);
+  await page.tap('.editor-ok');
+  await page.waitForSelector(`${PILLS_ROW} .day-line:has-text("Арбидол")`);
+  await page.tap('.day-editor .editor-ok');
+  await page.waitForSelector('.ring-page .diary');
+  await page.tap('.ring-page .to-menu');
+}
+
+/** The rows of the schedule that say something: the meal's word, or the first text. */
+function shownRows(page) {
+  return page.$$eval('.ring-page .schedule-row:not(.schedule-blank)', (rows) =>
+    rows.map((row) =>
+      row.classList.contains('schedule-meal')
+        ? `meal ${row.querySelector('.schedule-right').textContent}`
+        : row.classList.contains('schedule-relation')
+          ? `${row.querySelector('.schedule-right').textContent}: ${row.querySelector('.schedule-entry').textContent}`
+          : row.textContent,
+    ),
+  );
+}
+
+await runBrowserTest('inday', async ({ browser, base, outDir }) => {
+  const { context, page, errors } = await openPastGreeting(browser, base);
+  await createPregnancy(page);
+  await writeCourse(page);
+  await page.tap('[data-id="menu:2"]');
+  await page.waitForSelector('.ring-page .schedule');
+  assert.equal(await page.textContent('.ring-page .page-title'), 'Расписание на день');
+
+  const intake = `${RELATION}: Арбидол: 3 штуки`;
+  const before = await shownRows(page);
+  assert.equal(before[0], 'В этом дне напоминаний нет');
+  assert.ok(before[1].startsWith(intake), before[1]);
+  assert.equal(before[2], 'meal завтрак');
+  assert.ok(before[3].startsWith(intake), before[3]);
+  assert.equal(before[4], 'meal ужин');
+  await screenshots(page, 'inday', outDir);
+
+  await page.tap('.ring-page .schedule-meals');
+  await page.waitForSelector('.editor [data-field="field:time1"]');
+  assert.equal(await page.inputValue('[data-field="field:time1"]'), '09:00');
+  await page.fill('[data-field="field:time1"]', '07:30');
+  await page.fill('[data-field="field:time3"]', '23:58');
+  await settled(page);
+  await screenshots(page, 'inday-meals', outDir);
+  await page.tap('.editor-ok');
+  await page.waitForSelector('.ring-page .schedule');
+
+  // Dinner at 23:58: its intake and meal wrap to the first minutes of the day, breakfast follows.
+  await page.waitForFunction(
+    () =>
+      document.querySelector('.ring-page .schedule-meal .schedule-right')?.textContent === 'ужин',
+  );
+  const after = await shownRows(page);
+  assert.equal(after[0], 'В этом дне напоминаний нет');
+  assert.ok(after[1].startsWith(intake), after[1]);
+  assert.equal(after[2], 'meal ужин');
+  assert.ok(after[3].startsWith(intake), after[3]);
+  assert.equal(after[4], 'meal завтрак');
+  assert.equal(after.at(-1), 'Необходимых посещений медицинских учреждений нет');
+  await screenshots(page, 'inday-after', outDir);
+
+  // The day before has no course; the dialog opens with the times stored.
+  await page.tap('.ring-page .diary-year button >> nth=0');
+  await page.waitForFunction(() => !document.querySelector('.ring-page .schedule-relation'));
+  assert.ok((await shownRows(page)).includes('Приема лекарств и процедур в этом дне нет'));
+  await page.tap('.ring-page .schedule-meals');
+  assert.equal(await page.inputValue('[data-field="field:time1"]'), '07:30');
+  assert.equal(await page.inputValue('[data-field="field:time3"]'), '23:58');
+  await page.tap('.editor-cancel');
+  assert.deepEqual(errors, []);
+  await context.close();
+});
