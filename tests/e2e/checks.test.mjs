@@ -1,11 +1,20 @@
 // Browser test of the check-lists. Phone: the doctor's plan of a pregnancy, an item ticked, its
-// text kept in the editor and then found in today's diary. Tablet: the hospital lists of the
+// text kept in the editor and then found in today's diary; the woman's notices of the week read
+// from their badge in the menu, and gone after that. Tablet: the hospital lists of the
 // menu, an item of one ticked and still ticked when the list is opened again. Screenshots of the
 // plan, the editor and a list.
 //   node tests/e2e/checks.test.mjs --server PATH_TO_SERVER --out SCREENSHOT_DIR
 import assert from 'node:assert/strict';
+import fs from 'node:fs';
 import path from 'node:path';
-import { PHONE, TABLET, openPastGreeting, runBrowserTest } from './harness.mjs';
+import {
+  PHONE,
+  TABLET,
+  createPregnancy,
+  openCard,
+  openPastGreeting,
+  runBrowserTest,
+} from './harness.mjs';
 
 async function openProfile(page) {
   if ((await page.locator('.card[data-id]').count()) > 0) await page.tap('.card[data-id]');
@@ -40,6 +49,32 @@ async function findInDiary(page, text) {
   assert.ok((await today.textContent()).includes(text.split('\n')[0]), 'the text is in the day');
 }
 
+/** The first week with a notice of the woman's row (5) in the notice file. */
+function firstWomanNoticeWeek() {
+  const rows = fs.readFileSync('resources/content/warning.txt', 'utf8').split('<tr>');
+  const fields = rows.map((row) => row.split('<td>').map((f) => f.trim()));
+  return Number(fields.find((f) => f.length >= 3 && f[0] === '5')[1]);
+}
+
+async function readWeekNotice(page, shot) {
+  const week = firstWomanNoticeWeek();
+  const name = `Неделя ${week}`;
+  await page.tap('.ring-page .to-menu');
+  await page.waitForSelector('.ring', { state: 'detached' });
+  await createPregnancy(page, { name, daysAgo: (week - 1) * 7 });
+  const badge = page.locator('button[data-id="menu:notice:5"]');
+  await badge.tap();
+  await page.waitForSelector(`.message:has-text("События ${week} недели")`);
+  await shot('notice');
+  await page.tap('button[data-id="message:ok"]');
+  await badge.waitFor({ state: 'detached' });
+  // Closed and opened again, the card shows no notice for this week.
+  await page.locator('.card', { hasText: name }).tap();
+  await page.waitForSelector('.card.open', { state: 'detached' });
+  await openCard(page, name);
+  assert.equal(await badge.count(), 0);
+}
+
 async function tickHospitalItem(page, shot) {
   await page.tap('[data-id="menu:33"]');
   await page.locator('.content[data-content="checks"] .content-link').first().tap();
@@ -61,6 +96,7 @@ await runBrowserTest('checks', async ({ browser, base, outDir }) => {
   const phone = await openPastGreeting(browser, base, { device: PHONE });
   const text = await tickPlanItem(phone.page, shots(phone.page, 'phone'));
   await findInDiary(phone.page, text);
+  await readWeekNotice(phone.page, shots(phone.page, 'phone'));
   assert.deepEqual(phone.errors, []);
   await phone.context.close();
 

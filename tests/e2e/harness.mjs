@@ -208,6 +208,40 @@ export async function pickOnWheels(page, target, texts) {
   await page.waitForSelector('.popup-cover', { state: 'detached' });
 }
 
+/** The month of a date as the date wheel names it ("мая"). */
+const monthOf = (date) =>
+  new Intl.DateTimeFormat('ru', { day: 'numeric', month: 'long' })
+    .formatToParts(date)
+    .find((part) => part.type === 'month').value;
+
+/**
+ * "Новая беременность" named `name`, with its first day `daysAgo` days before today (the dialog's
+ * own date when 0), saved and opened under its card.
+ */
+export async function createPregnancy(page, { name, daysAgo = 0 }) {
+  await page.tap('[data-id="menu:31"]');
+  await page.waitForSelector('.editor');
+  if (daysAgo > 0) {
+    const first = new Date(Date.now() - daysAgo * 86400000);
+    await pickOnWheels(page, 'field:sdat1', [
+      String(first.getDate()),
+      monthOf(first),
+      String(first.getFullYear()),
+    ]);
+  }
+  await page.fill('input[data-field="field:name"]', name);
+  await page.locator('input[data-field="field:name"]').blur();
+  await page.tap('button[data-id="editor:ok"]');
+  await page.waitForSelector('.editor', { state: 'detached' });
+  await openCard(page, name);
+}
+
+/** The card of the pregnancy with that name, opened. */
+export async function openCard(page, name) {
+  await page.locator('.card', { hasText: name }).tap();
+  await page.waitForSelector('.card.open');
+}
+
 /**
  * Where the elements matching a selector lie, read in one step: a redraw between finding them
  * and measuring them would measure elements no longer on the page.

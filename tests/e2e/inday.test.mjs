@@ -8,6 +8,7 @@ import path from 'node:path';
 import {
   PHONE,
   TABLET,
+  createPregnancy,
   openPastGreeting,
   pickOnWheels,
   runBrowserTest,
@@ -30,18 +31,6 @@ async function chooseEntry(page, field, caption) {
   await page.tap(`.editor-entry:has-text("${caption}")`);
   await page.tap('.editor-ok');
   await page.waitForSelector(`button[data-id="field:${field}"]:has-text("${caption}")`);
-}
-
-/** A new pregnancy from today, opened under its card. */
-async function createPregnancy(page) {
-  await page.tap('[data-id="menu:31"]');
-  await page.waitForSelector('.editor');
-  await page.fill('input[data-field="field:name"]', 'Вера');
-  await page.locator('input[data-field="field:name"]').blur();
-  await page.tap('button[data-id="editor:ok"]');
-  await page.waitForSelector('.editor', { state: 'detached' });
-  await page.locator('.card', { hasText: 'Вера' }).tap();
-  await page.waitForSelector('.card.open');
 }
 
 /** Today's course of Арбидол, twice a day before meals. */
@@ -75,7 +64,7 @@ function shownRows(page) {
 
 await runBrowserTest('inday', async ({ browser, base, outDir }) => {
   const { context, page, errors } = await openPastGreeting(browser, base);
-  await createPregnancy(page);
+  await createPregnancy(page, { name: 'Вера' });
   await writeCourse(page);
   await page.tap('[data-id="menu:2"]');
   await page.waitForSelector('.ring-page .schedule');

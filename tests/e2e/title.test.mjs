@@ -7,43 +7,15 @@ import assert from 'node:assert/strict';
 import path from 'node:path';
 import {
   TABLET,
+  createPregnancy,
   dayField,
+  openCard,
   openPastGreeting,
-  pickOnWheels,
   runBrowserTest,
   settled,
 } from './harness.mjs';
 
 const NAME = 'Ульяна';
-// A month as the date wheel names it: in the genitive, as a date is written ("1 мая").
-const monthOf = (date) =>
-  new Intl.DateTimeFormat('ru', { day: 'numeric', month: 'long' })
-    .formatToParts(date)
-    .find((part) => part.type === 'month').value;
-
-/** "Новая беременность" with its first day `daysAgo` days before today, opened under its card. */
-async function createPregnancy(page, daysAgo) {
-  const first = new Date(Date.now() - daysAgo * 86400000);
-  await page.tap('[data-id="menu:31"]');
-  await page.waitForSelector('.editor');
-  await pickOnWheels(page, 'field:sdat1', [
-    String(first.getDate()),
-    monthOf(first),
-    String(first.getFullYear()),
-  ]);
-  await page.fill('input[data-field="field:name"]', NAME);
-  await page.locator('input[data-field="field:name"]').blur();
-  await page.tap('button[data-id="editor:ok"]');
-  await page.waitForSelector('.editor', { state: 'detached' });
-  await openCard(page);
-}
-
-/** The new pregnancy's card, opened. */
-async function openCard(page) {
-  await page.locator('.card', { hasText: NAME }).tap();
-  await page.waitForSelector('.card.open');
-}
-
 /** Slides the nth ruler of the open form until its needle stands on the value. */
 async function slideTo(page, nth, value) {
   await page.evaluate(
@@ -96,7 +68,7 @@ async function chartTexts(page) {
 
 await runBrowserTest('title', async ({ browser, base, outDir }) => {
   const { context, page, errors } = await openPastGreeting(browser, base);
-  await createPregnancy(page, 200);
+  await createPregnancy(page, { name: NAME, daysAgo: 200 });
   await recordUltrasound(page);
   await page.tap('.ring-page .to-menu');
   await page.waitForSelector('.ring', { state: 'detached' });
@@ -113,7 +85,7 @@ await runBrowserTest('title', async ({ browser, base, outDir }) => {
   await context.close();
 
   const tablet = await openPastGreeting(browser, base, { device: TABLET });
-  await openCard(tablet.page);
+  await openCard(tablet.page, NAME);
   await tablet.page.tap('[data-id="menu:3"]');
   await chartTexts(tablet.page);
   await tablet.page.screenshot({
