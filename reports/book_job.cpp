@@ -22,6 +22,11 @@ namespace {
 
 constexpr const char* kGraphLabel = "График прибавки веса за весь период беременности (килограммы)";
 
+// The book's grounds and cover pictures, rendered at build time from their sources.
+std::filesystem::path bookPictures(const Context& context) {
+  return context.resourcesDir() / "images";
+}
+
 // The regim of the book's days in each edition.
 int bookRegim(DayEdition edition) {
   return edition == DayEdition::Woman ? 3 : 8;
@@ -29,16 +34,15 @@ int bookRegim(DayEdition edition) {
 
 // The jacket (page 1) or the cover (page 2).
 std::optional<BookPage> coverPage(const Context& context, const Map& dic, int number,
-                                  const BookOptions& options, const std::filesystem::path& folder,
-                                  std::string* error) {
+                                  const std::filesystem::path& folder, std::string* error) {
   const draw::Size size = number == 1 ? kJacketPage : kCoverPage;
   const PageGround ground{static_cast<int>(dic["booktype"].intValue()), number, 0};
   BookPage page{number, false, {}, bookPageFile(folder, number)};
   const bool written = writePageJpeg(
       size,
       [&](draw::Canvas& canvas) {
-        paintBookGround(canvas, size, ground, options.imagesDir);
-        drawBookCover(canvas, size, dic, context.values().appid, options.imagesDir);
+        paintBookGround(canvas, size, ground, bookPictures(context));
+        drawBookCover(canvas, size, dic, context.values().appid, bookPictures(context));
       },
       page.file, error);
   if (!written) return std::nullopt;
@@ -66,7 +70,7 @@ bool drawRecorded(const std::vector<BookCommand>& commands, const BookPageMaker&
 }
 
 // bookPageGraph and bookAddPage: the pregnancy's weight chart as a picture page at the end.
-bool addGraphPage(Store& store, const std::string& gid, const BookPageMaker& maker,
+bool addGraphPage(Store& store, const std::string& gid, int number, const BookPageMaker& maker,
                   const PdfSettings& s, const BookOptions& options,
                   const std::filesystem::path& folder, std::vector<BookPage>& pages,
                   std::string* error) {
@@ -75,7 +79,6 @@ bool addGraphPage(Store& store, const std::string& gid, const BookPageMaker& mak
   if (!png) return true;
   const std::filesystem::path graph = folder / "graph.png";
   std::ofstream(graph, std::ios::binary | std::ios::trunc) << *png;
-  const int number = pages.back().page + 1;
   BookPage page{number,
                 true,
                 {{{graph.string(), true}}, 12, store.context().translate(kGraphLabel)},
@@ -112,7 +115,7 @@ std::optional<std::vector<BookPage>> prepareBook(Store& store, const BookRequest
   const Map dic = bookDictionary(store, r.gid, r.kind, r.year);
   std::vector<BookPage> pages;
   for (const int number : {1, 2}) {
-    auto page = coverPage(context, dic, number, options, folder, error);
+    auto page = coverPage(context, dic, number, folder, error);
     if (!page) return std::nullopt;
     pages.push_back(std::move(*page));
   }
@@ -124,10 +127,13 @@ std::optional<std::vector<BookPage>> prepareBook(Store& store, const BookRequest
   const RowPainter rows(context, settings, options.imagesDir, listData);
   BookRecorder recorder(settings, rows);
   DiaryPages(recorder, settings, rows).drawPages(days);
-  const BookPageMaker maker(context, settings, rows, r.kind, options.imagesDir, folder);
+  const BookPageMaker maker(context, settings, rows, r.kind, bookPictures(context), folder);
   if (!drawRecorded(recorder.commands(), maker, pages, options, error)) return std::nullopt;
+  // The numbers of pages left out stay unused, so that a page's file keeps its number.
+  const std::vector<BookCommand>& commands = recorder.commands();
+  const int next = commands.empty() ? kFirstInnerPage : commands.back().page + 1;
   if (isPregnancyEdition(context.values().appid) &&
-      !addGraphPage(store, r.gid, maker, settings, options, folder, pages, error))
+      !addGraphPage(store, r.gid, next, maker, settings, options, folder, pages, error))
     return std::nullopt;
   return pages;
 }

@@ -24,7 +24,7 @@ struct BookRequest {
 };
 
 struct BookOptions {
-  std::filesystem::path imagesDir;  // the program's pictures: grounds, cover pictures, icons
+  std::filesystem::path imagesDir;  // the program's pictures: the rows' icons
   // Hears how many pages are done, and of how many (the total grows as the days are laid out).
   std::function<void(std::size_t done, std::size_t total)> progress;
 };

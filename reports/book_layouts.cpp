@@ -72,10 +72,10 @@ std::optional<Rect> oneOverTwo(int pos, double W, double H, double ot) {
   return std::nullopt;
 }
 
-// Two columns side by side, the first `split` of the page's width (20 to 22).
-std::optional<Rect> twoColumns(int pos, double W, double H, double ot, double split) {
-  if (pos == 1) return Rect{0, 10 * ot, split * W, H - 40 * ot};
-  if (pos == 2) return Rect{split * W, 10 * ot, W - split * W, H - 40 * ot};
+// Two columns side by side, the first `first` wide (20 to 22).
+std::optional<Rect> twoColumns(int pos, double W, double H, double ot, double first) {
+  if (pos == 1) return Rect{0, 10 * ot, first, H - 40 * ot};
+  if (pos == 2) return Rect{first, 10 * ot, W - first, H - 40 * ot};
   return std::nullopt;
 }
 
@@ -112,11 +112,11 @@ std::optional<Rect> layoutRect(int layout, int pos, draw::Size page, double ot) 
     case 12:
       return single(layout, pos, W, H, ot);
     case 20:
-      return twoColumns(pos, W, H, ot, 0.5);
+      return twoColumns(pos, W, H, ot, W / 2);
     case 21:
-      return twoColumns(pos, W, H, ot, 1.0 / 3);
+      return twoColumns(pos, W, H, ot, W / 3);
     case 22:
-      return twoColumns(pos, W, H, ot, 2.0 / 3);
+      return twoColumns(pos, W, H, ot, 2 * W / 3);
     case 23:
     case 29:
       return pair(pos, W, H, ot);

@@ -24,13 +24,13 @@ std::filesystem::path bookPageFile(const std::filesystem::path& folder, int page
 }
 
 BookPageMaker::BookPageMaker(const Context& context, const PdfSettings& inner,
-                             const RowPainter& rows, int kind, std::filesystem::path imagesDir,
+                             const RowPainter& rows, int kind, std::filesystem::path picturesDir,
                              std::filesystem::path folder)
     : s_(inner),
       rows_(rows),
       caps_(context, inner),
       kind_(kind),
-      imagesDir_(std::move(imagesDir)),
+      picturesDir_(std::move(picturesDir)),
       folder_(std::move(folder)) {}
 
 std::optional<BookPage> BookPageMaker::make(std::span<const BookCommand> commands,
@@ -46,13 +46,13 @@ std::optional<BookPage> BookPageMaker::make(std::span<const BookCommand> command
   return page;
 }
 
-bool BookPageMaker::drawPicturePage(const BookPage& page, std::string* error) const {
+bool BookPageMaker::drawPicturePage(BookPage& page, std::string* error) const {
   const PageGround ground{kind_, page.page, 0};
   return writePageJpeg(
       s_.page,
       [&](draw::Canvas& canvas) {
-        paintBookGround(canvas, s_.page, ground, imagesDir_);
-        buildImagePage(canvas, page.picture, s_.page, kind_, s_.ot);
+        paintBookGround(canvas, s_.page, ground, picturesDir_);
+        page.picture.tp = buildImagePage(canvas, page.picture, s_.page, kind_, s_.ot);
       },
       page.file, error);
 }
@@ -64,7 +64,7 @@ std::optional<BookPage> BookPageMaker::textPage(std::span<const BookCommand> com
   const bool written = writePageJpeg(
       s_.page,
       [&](draw::Canvas& canvas) {
-        paintBookGround(canvas, s_.page, ground, imagesDir_);
+        paintBookGround(canvas, s_.page, ground, picturesDir_);
         for (const BookCommand& c : commands) {
           if (c.func == "pdfDrawDayCap")
             caps_.draw(canvas, c.top, c.day, c.needBig, c.needSmall);

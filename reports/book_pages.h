@@ -33,8 +33,9 @@ class BookPageMaker {
   // written.
   std::optional<BookPage> make(std::span<const BookCommand> commands, std::string* error) const;
 
-  // Draws the picture page as it is now (after an edit, or one added to the book).
-  bool drawPicturePage(const BookPage& page, std::string* error) const;
+  // Draws the picture page as it is now (after an edit, or one added to the book) and keeps
+  // the layout used in it.
+  bool drawPicturePage(BookPage& page, std::string* error) const;
 
  private:
   std::optional<BookPage> textPage(std::span<const BookCommand> commands, std::string* error) const;
@@ -43,7 +44,7 @@ class BookPageMaker {
   const RowPainter& rows_;
   DayCapPainter caps_;
   int kind_;
-  std::filesystem::path imagesDir_;
+  std::filesystem::path picturesDir_;
   std::filesystem::path folder_;
 };
 
