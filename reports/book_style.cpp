@@ -1,5 +1,7 @@
 #include "reports/book_style.h"
 
+#include <algorithm>
+
 #include "core/text_fill.h"
 #include "reports/picture_fill.h"
 
@@ -14,9 +16,10 @@ constexpr int kOpeningGrounds = 5;
 std::string groundPicture(const PageGround& g) {
   switch (g.kind) {
     case 2:
-      if (g.group > 0)
-        return std::string("book-t2-0") + static_cast<char>('a' + (g.group - 1) % kOpeningGrounds) +
-               ".jpg";
+      // The jacket and the cover take the first of the opening grounds.
+      if (g.group > 0 || g.page < kFirstInnerPage)
+        return std::string("book-t2-0") +
+               static_cast<char>('a' + (std::max(g.group, 1) - 1) % kOpeningGrounds) + ".jpg";
       return fillIn("book-t2-%d.jpg", (g.page - kFirstInnerPage) % kInnerGrounds + 1);
     case 4:
       return "book-t4.jpg";
