@@ -38,8 +38,7 @@ std::optional<BookPage> coverPage(const Context& context, const Map& dic, int nu
   const draw::Size size = number == 1 ? kJacketPage : kCoverPage;
   const PageGround ground{static_cast<int>(dic["booktype"].intValue()), number, 0};
   BookPage page{number, false, {}, bookPageFile(folder, number)};
-  const bool written = writePageJpeg(
-      size,
+  const bool written = PageRaster(size).write(
       [&](draw::Canvas& canvas) {
         paintBookGround(canvas, size, ground, bookPictures(context));
         drawBookCover(canvas, size, dic, context.values().appid, bookPictures(context));
@@ -108,6 +107,10 @@ std::string bookCreator(const Context& context) {
 
 std::optional<std::vector<BookPage>> prepareBook(Store& store, const BookRequest& r,
                                                  const BookOptions& options, std::string* error) {
+  if (!isBookKind(r.kind)) {
+    *error = "a book's kind is a number from 1 to 5, not " + std::to_string(r.kind);
+    return std::nullopt;
+  }
   const Context& context = store.context();
   const std::filesystem::path folder = bookFolder(context);
   std::error_code failure;

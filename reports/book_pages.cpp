@@ -31,7 +31,8 @@ BookPageMaker::BookPageMaker(const Context& context, const PdfSettings& inner,
       caps_(context, inner),
       kind_(kind),
       picturesDir_(std::move(picturesDir)),
-      folder_(std::move(folder)) {}
+      folder_(std::move(folder)),
+      raster_(inner.page) {}
 
 std::optional<BookPage> BookPageMaker::make(std::span<const BookCommand> commands,
                                             std::string* error) const {
@@ -48,8 +49,7 @@ std::optional<BookPage> BookPageMaker::make(std::span<const BookCommand> command
 
 bool BookPageMaker::drawPicturePage(BookPage& page, std::string* error) const {
   const PageGround ground{kind_, page.page, 0};
-  return writePageJpeg(
-      s_.page,
+  return raster_.write(
       [&](draw::Canvas& canvas) {
         paintBookGround(canvas, s_.page, ground, picturesDir_);
         page.picture.tp = buildImagePage(canvas, page.picture, s_.page, kind_, s_.ot);
@@ -61,8 +61,7 @@ std::optional<BookPage> BookPageMaker::textPage(std::span<const BookCommand> com
                                                 std::string* error) const {
   BookPage page{commands.front().page, false, {}, bookPageFile(folder_, commands.front().page)};
   const PageGround ground{kind_, page.page, openedGroup(commands)};
-  const bool written = writePageJpeg(
-      s_.page,
+  const bool written = raster_.write(
       [&](draw::Canvas& canvas) {
         paintBookGround(canvas, s_.page, ground, picturesDir_);
         for (const BookCommand& c : commands) {

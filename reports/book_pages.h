@@ -7,6 +7,7 @@
 #include <span>
 #include <string>
 
+#include "reports/book_page_image.h"
 #include "reports/book_recorder.h"
 #include "reports/day_caps.h"
 
@@ -46,6 +47,7 @@ class BookPageMaker {
   int kind_;
   std::filesystem::path picturesDir_;
   std::filesystem::path folder_;
+  PageRaster raster_;  // the pixels every inner page is painted on in turn
 };
 
 }  // namespace lad::report

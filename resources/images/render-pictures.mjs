@@ -7,7 +7,7 @@
 //   "wom-3.svg"    the mother's body in that month, a transparent 640×800 PNG "wom-3.png";
 //   "org-mozg.svg" an organ of the development ring, a transparent 96×96 PNG "org-mozg.png";
 //   "wom-hints.json" the named points of the body pictures, by month: [{name, x, y}] in pixels;
-//   "book-t2-3.svg" a ground of the photo book's pages, a 1669×1294 JPEG "book-t2-3.jpg"
+//   "book-t2-3.svg" a ground of the photo book's pages, a 3338×2588 JPEG "book-t2-3.jpg"
 //                  (kind 2: "book-t2-1" to "book-t2-6" and "book-t2-0a" to "book-t2-0e";
 //                  "book-t4", "book-t5");
 //   "ti-preg3.svg" a picture of the book's cover ring, a 800×800 PNG (also "b-ti-preg",
@@ -34,8 +34,8 @@ const KINDS = [
   { pattern: /^org-[a-z]+$/, width: 96, height: 96, viewBox: '0 0 48 48' },
   {
     pattern: /^book-t(2-[1-6]|2-0[a-e]|[45])$/,
-    width: 1669,
-    height: 1294,
+    width: 3338,
+    height: 2588,
     viewBox: '0 0 1669 1294',
     jpeg: true,
   },
