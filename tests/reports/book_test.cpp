@@ -198,8 +198,11 @@ TEST_F(BookTest, BookPdfHasThePagesAtTheirSizesAndTheCreator) {
     EXPECT_NEAR(size(page).second, 2588 / 4.1667, 0.01);
   }
 
-  // A failure half way leaves the book that was there, and no temporary file.
+  // A kind outside 1 to 5 is refused, and a failure half way leaves the book that was there,
+  // and no temporary file.
   const auto before = readWholeFile(file);
+  EXPECT_FALSE(report::makeBook(*store, {kGid, 6, 0, file}, {LADANEYA_IMAGES_DIR, {}}, &error));
+  EXPECT_EQ(error, "a book's kind is a number from 1 to 5, not 6");
   const auto folder = report::bookFolder(*context);
   EXPECT_FALSE(report::saveBook({folder / "book1.jpg", folder / "book99.jpg"}, file, "x", &error));
   EXPECT_THAT(error, HasSubstr("book99.jpg"));
