@@ -3,6 +3,7 @@
 #include <cctype>
 #include <charconv>
 #include <cstdlib>
+#include <limits>
 
 #include "core/edition.h"
 
@@ -33,7 +34,7 @@ bool testMode() {
 }
 
 std::optional<Command> parseServe(const std::vector<std::string>& args, std::string* error) {
-  Command c{Command::kServe, {}, {}, {}};
+  Command c{Command::kServe, {}, {}, {}, {}};
   for (std::size_t i = 1; i < args.size(); ++i) {
     const std::string& flag = args[i];
     if (flag == "--fake-clock") {
@@ -82,13 +83,36 @@ bool isDayText(const std::string& text) {
   return true;
 }
 
+// A whole number from `least` to `most`, all of the text.
+bool parseNumber(const std::string& text, int least, int most, int& number) {
+  const char* last = text.data() + text.size();
+  auto [end, ec] = std::from_chars(text.data(), last, number);
+  return ec == std::errc() && end == last && number >= least && number <= most;
+}
+
+bool parseYear(const std::string& value, int& year, std::string* error) {
+  if (parseNumber(value, 1, std::numeric_limits<int>::max(), year)) return true;
+  *error = "--year wants a whole number from 1, not " + value;
+  return false;
+}
+
+// The PDF file the command writes: required, and named so.
+bool outputFits(const std::string& command, const std::filesystem::path& output,
+                std::string* error) {
+  if (output.empty())
+    *error = command + " needs -o FILE.pdf";
+  else if (output.extension() != ".pdf")
+    *error = "-o wants a file name ending in .pdf, not " + output.string();
+  else
+    return true;
+  return false;
+}
+
 bool reportArgsFit(const ReportArgs& r, std::string* error) {
   if (r.kind != "diary" && r.kind != "pressure" && r.kind != "fluid")
     *error = "--kind is one of diary, pressure, fluid, not " + r.kind;
-  else if (r.output.empty())
-    *error = "report needs -o FILE.pdf";
-  else if (r.output.extension() != ".pdf")
-    *error = "-o wants a file name ending in .pdf, not " + r.output.string();
+  else if (!outputFits("report", r.output, error))
+    return false;
   else if (!r.date.empty() && r.kind == "diary")
     *error = "--date is for the pressure and fluid reports; the diary report takes --year";
   else if (r.year != 0 && r.kind != "diary")
@@ -99,7 +123,7 @@ bool reportArgsFit(const ReportArgs& r, std::string* error) {
 }
 
 std::optional<Command> parseReport(const std::vector<std::string>& args, std::string* error) {
-  Command c{Command::kReport, {}, {}, {}};
+  Command c{Command::kReport, {}, {}, {}, {}};
   ReportArgs& r = c.report;
   for (std::size_t i = 1; i < args.size(); ++i) {
     const std::string& flag = args[i];
@@ -125,21 +149,47 @@ std::optional<Command> parseReport(const std::vector<std::string>& args, std::st
         return std::nullopt;
       }
       r.date = value;
-    } else {
-      const char* last = value.data() + value.size();
-      auto [end, ec] = std::from_chars(value.data(), last, r.year);
-      if (ec != std::errc() || end != last || r.year < 1) {
-        *error = "--year wants a whole number from 1, not " + value;
-        return std::nullopt;
-      }
+    } else if (!parseYear(value, r.year, error)) {
+      return std::nullopt;
     }
   }
   if (!reportArgsFit(r, error)) return std::nullopt;
   return c;
 }
 
+std::optional<Command> parseBook(const std::vector<std::string>& args, std::string* error) {
+  Command c{Command::kBook, {}, {}, {}, {}};
+  BookArgs& b = c.book;
+  for (std::size_t i = 1; i < args.size(); ++i) {
+    const std::string& flag = args[i];
+    if (flag != "--data" && flag != "--kind" && flag != "--year" && flag != "-o") {
+      *error = "unknown option " + flag;
+      return std::nullopt;
+    }
+    if (i + 1 >= args.size()) {
+      *error = flag + " needs a value";
+      return std::nullopt;
+    }
+    const std::string& value = args[++i];
+    if (flag == "--data") {
+      b.dataDir = value;
+    } else if (flag == "-o") {
+      b.output = value;
+    } else if (flag == "--kind") {
+      if (!parseNumber(value, 1, 5, b.kind)) {
+        *error = "--kind is the book's design, a number from 1 to 5, not " + value;
+        return std::nullopt;
+      }
+    } else if (!parseYear(value, b.year, error)) {
+      return std::nullopt;
+    }
+  }
+  if (!outputFits("book", b.output, error)) return std::nullopt;
+  return c;
+}
+
 std::optional<Command> parseSync(const std::vector<std::string>& args, std::string* error) {
-  Command c{Command::kSync, {}, {}, {}};
+  Command c{Command::kSync, {}, {}, {}, {}};
   for (std::size_t i = 1; i < args.size(); ++i) {
     const std::string& flag = args[i];
     if (flag != "--data" && flag != "--cloud") {
@@ -162,10 +212,11 @@ std::optional<Command> parseSync(const std::vector<std::string>& args, std::stri
 
 std::optional<Command> parseCommandLine(const std::vector<std::string>& args, std::string* error) {
   if (args.empty() || args[0] == "--help" || args[0] == "-h" || args[0] == "help")
-    return Command{Command::kHelp, {}, {}, {}};
-  if (args[0] == "--version") return Command{Command::kVersion, {}, {}, {}};
+    return Command{Command::kHelp, {}, {}, {}, {}};
+  if (args[0] == "--version") return Command{Command::kVersion, {}, {}, {}, {}};
   if (args[0] == "serve") return parseServe(args, error);
   if (args[0] == "report") return parseReport(args, error);
+  if (args[0] == "book") return parseBook(args, error);
   if (args[0] == "sync") return parseSync(args, error);
   *error = "unknown command " + args[0];
   return std::nullopt;
@@ -178,6 +229,7 @@ std::string usage(const std::string& program) {
          "Commands:\n"
          "  serve        run the diary for the browsers of your phone and tablet\n"
          "  report       write a PDF of the diary, or of a day's pressure or liquids\n"
+         "  book         write the photo book of the diary as a PDF for printing\n"
          "  sync         take in the changes of your other installations from the cloud folder\n"
          "               once, with the diary's server stopped\n"
          "\n"
@@ -196,6 +248,13 @@ std::string usage(const std::string& program) {
          "  --year N            the child's year of life or the calendar year of the cycle\n"
          "                      diary (default: the one today falls in)\n"
          "  -o FILE.pdf         where to write the report (required)\n"
+         "\n"
+         "Options of book:\n"
+         "  --data DIR          the installation's data folder (default: ./data)\n"
+         "  --kind 1..5         the book's design (default: 1)\n"
+         "  --year N            the child's year of life or the calendar year of the cycle\n"
+         "                      diary (default: the one today falls in)\n"
+         "  -o FILE.pdf         where to write the book (required)\n"
          "\n"
          "Options of sync:\n"
          "  --data DIR          the installation's data folder (default: ./data)\n"

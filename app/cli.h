@@ -30,6 +30,15 @@ struct ReportArgs {
   std::filesystem::path resourcesDir;
 };
 
+struct BookArgs {
+  std::filesystem::path dataDir = "data";
+  int kind = 1;  // the book's design, 1 to 5
+  int year = 0;  // 0: the one today falls in
+  std::filesystem::path output;
+  std::filesystem::path imagesDir;
+  std::filesystem::path resourcesDir;
+};
+
 struct SyncArgs {
   std::filesystem::path dataDir = "data";
   std::filesystem::path cloudDir;  // set: sync through this folder from now on
@@ -37,10 +46,11 @@ struct SyncArgs {
 };
 
 struct Command {
-  enum Kind { kHelp, kVersion, kServe, kReport, kSync } kind = kHelp;
+  enum Kind { kHelp, kVersion, kServe, kReport, kBook, kSync } kind = kHelp;
   ServeOptions serve;
   ReportArgs report;
   SyncArgs sync;
+  BookArgs book;
 };
 
 // Parses the arguments after the program name; nullopt with *error filled when they are wrong.

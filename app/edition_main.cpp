@@ -1,6 +1,7 @@
 // main() of one edition; the build fixes LADANEYA_APPID for each executable.
 #include <cstdio>
 
+#include "app/book.h"
 #include "app/cli.h"
 #include "app/report.h"
 #include "app/serve.h"
@@ -36,6 +37,12 @@ int main(int argc, char** argv) {
       args.imagesDir = LADANEYA_IMAGES_DIR;
       args.resourcesDir = LADANEYA_RESOURCES_DIR;
       return lad::app::report(LADANEYA_APPID, args);
+    }
+    case lad::app::Command::kBook: {
+      auto args = command->book;
+      args.imagesDir = LADANEYA_IMAGES_DIR;
+      args.resourcesDir = LADANEYA_RESOURCES_DIR;
+      return lad::app::book(LADANEYA_APPID, args);
     }
     case lad::app::Command::kSync: {
       auto args = command->sync;

@@ -1,9 +1,8 @@
 #include "app/report.h"
 
-#include <unistd.h>
-
 #include <cstdio>
 
+#include "app/terminal.h"
 #include "reports/report_job.h"
 #include "shell/application.h"
 
@@ -17,27 +16,10 @@ report::ReportKind kindOf(const std::string& kind) {
   return report::ReportKind::Diary;
 }
 
-// "days 12 of 294" rewritten in place, when a person watches the terminal.
-std::function<void(std::size_t, std::size_t)> terminalProgress() {
-  if (!isatty(STDERR_FILENO)) return {};
-  return [](std::size_t done, std::size_t total) {
-    std::fprintf(stderr, "\rdays %zu of %zu", done, total);
-    if (done == total) std::fprintf(stderr, "\n");
-  };
-}
-
-int refuse(const std::string& message) {
-  std::fprintf(stderr, "%s\n", message.c_str());
-  return 2;
-}
-
 }  // namespace
 
 int report(int appid, const ReportArgs& args) {
-  const Edition& edition = *editionFor(appid);
-  if (!std::filesystem::exists(args.dataDir / "Documents" / "reserv" / edition.database))
-    return refuse("no diary of " + std::string(edition.program) + " in " + args.dataDir.string() +
-                  " (see --data)");
+  if (const int refused = refuseWithoutDiary(appid, args.dataDir)) return refused;
   shell::Application app(ContextOptions{appid, 1, args.dataDir, "", nullptr, args.resourcesDir});
   Store& store = app.store();
   const Context& context = app.context();
@@ -56,7 +38,7 @@ int report(int appid, const ReportArgs& args) {
   request.year = args.year ? args.year : report::defaultReportYear(store, request.gid);
   request.target = args.output;
   std::string error;
-  if (!report::makeReport(store, request, {args.imagesDir, terminalProgress()}, &error)) {
+  if (!report::makeReport(store, request, {args.imagesDir, terminalProgress("days")}, &error)) {
     std::fprintf(stderr, "%s\n", error.c_str());
     return 1;
   }

@@ -1,24 +1,14 @@
 #include "app/sync.h"
 
-#include <unistd.h>
-
 #include <cstdio>
 
+#include "app/terminal.h"
 #include "cloud/cloud_pass.h"
 #include "shell/application.h"
 
 namespace lad::app {
 
 namespace {
-
-// "files 12 of 300" rewritten in place, when a person watches the terminal.
-ApplyProgress terminalProgress() {
-  if (!isatty(STDERR_FILENO)) return {};
-  return [](std::size_t done, std::size_t total) {
-    std::fprintf(stderr, "\rfiles %zu of %zu", done, total);
-    if (done == total) std::fprintf(stderr, "\n");
-  };
-}
 
 void printOutcome(const PassOutcome& outcome, int percent) {
   std::printf("%zu change files applied; the folder is %d%% complete\n",
@@ -44,7 +34,8 @@ int sync(int appid, const SyncArgs& args) {
     std::fprintf(stderr, "this diary does not sync through a cloud folder: give --cloud DIR\n");
     return 2;
   }
-  const PassOutcome outcome = cloudPass(app.store(), {kSettleTime, nullptr, terminalProgress()});
+  const PassOutcome outcome =
+      cloudPass(app.store(), {kSettleTime, nullptr, terminalProgress("files")});
   printOutcome(outcome, context.values().cloudPercent);
   context.settings().synchronize();
   return 0;

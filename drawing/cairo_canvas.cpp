@@ -134,6 +134,25 @@ void CairoCanvas::drawText(std::string_view text, Rect r, Font f, Color c, Align
   g_object_unref(layout);
 }
 
+void CairoCanvas::drawTurnedText(std::string_view text, Rect r, Font f, Color c, Align a,
+                                 double angle) {
+  const Point middle = r.centre();
+  cairo_save(cr_);
+  cairo_translate(cr_, middle.x, middle.y);
+  cairo_rotate(cr_, angle);
+  cairo_translate(cr_, -middle.x, -middle.y);
+  drawText(text, r, f, c, a);
+  cairo_restore(cr_);
+}
+
+void CairoCanvas::drawClippedImage(const std::string& file, Rect r, const Path& clip) {
+  cairo_save(cr_);
+  setCairoPath(cr_, clip);
+  cairo_clip(cr_);
+  drawImage(file, r);
+  cairo_restore(cr_);
+}
+
 void CairoCanvas::drawImage(const std::string& file, Rect r) {
   if (r.w <= 0 || r.h <= 0) return;
   cairo_surface_t* image = imageSurface(file, r);

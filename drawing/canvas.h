@@ -31,9 +31,15 @@ class Canvas {
   // Lays the text out in the width of the rectangle from its top, breaking lines at "\n" and
   // between words, and draws it with the alignment.
   virtual void drawText(std::string_view text, Rect r, Font f, Color c, Align a) = 0;
+  // Draws the text as drawText does, the whole turned by the angle (radians, clockwise on the
+  // page) about the middle of the rectangle.
+  virtual void drawTurnedText(std::string_view text, Rect r, Font f, Color c, Align a,
+                              double angle) = 0;
   // Draws a PNG file scaled into the rectangle; a file that cannot be read draws nothing. The
   // cairo back end also reads JPEG photos.
   virtual void drawImage(const std::string& file, Rect r) = 0;
+  // Draws the picture as drawImage does, showing only what lies inside the clip.
+  virtual void drawClippedImage(const std::string& file, Rect r, const Path& clip) = 0;
   // Paints the shadow that an opaque picture in the rectangle casts, to be drawn under it.
   virtual void fillShadow(Rect r, Shadow s) = 0;
   // Paints the soft shadow that the path, filled by the rule, casts, to be drawn under it.

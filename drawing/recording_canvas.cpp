@@ -59,6 +59,17 @@ void RecordingCanvas::drawText(std::string_view text, Rect r, Font f, Color c, A
   cmd.align = a;
 }
 
+void RecordingCanvas::drawTurnedText(std::string_view text, Rect r, Font f, Color c, Align a,
+                                     double angle) {
+  drawText(text, r, f, c, a);
+  commands_.back().angle = angle;
+}
+
+void RecordingCanvas::drawClippedImage(const std::string& file, Rect r, const Path& clip) {
+  drawImage(file, r);
+  commands_.back().path = clip;
+}
+
 void RecordingCanvas::drawImage(const std::string& file, Rect r) {
   auto& cmd = add(Kind::Image);
   cmd.rect = r;

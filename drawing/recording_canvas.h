@@ -24,7 +24,7 @@ struct Command {
   };
   Kind kind = Kind::Clear;
   Rect rect;  // clear, fill rect, ellipse, text and image
-  Path path;  // fill, stroke, path shadow, and the clip of a gradient
+  Path path;  // fill, stroke, path shadow, and the clip of a gradient or an image
   Color color;
   double width = 0;
   std::vector<double> dash;
@@ -35,6 +35,7 @@ struct Command {
   std::string text;  // text, and the file of an image
   Font font;
   Align align = Align::Left;
+  double angle = 0;  // of turned text
 };
 
 class RecordingCanvas : public Canvas {
@@ -47,7 +48,10 @@ class RecordingCanvas : public Canvas {
   void fillGradient(const Path& clip, Point from, Point to,
                     const std::vector<GradientStop>& stops) override;
   void drawText(std::string_view text, Rect r, Font f, Color c, Align a) override;
+  void drawTurnedText(std::string_view text, Rect r, Font f, Color c, Align a,
+                      double angle) override;
   void drawImage(const std::string& file, Rect r) override;
+  void drawClippedImage(const std::string& file, Rect r, const Path& clip) override;
   void fillShadow(Rect r, Shadow s) override;
   void fillPathShadow(const Path& p, FillRule rule, Shadow s) override;
 

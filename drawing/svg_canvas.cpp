@@ -4,6 +4,7 @@
 #include <cstdint>
 #include <fstream>
 #include <iterator>
+#include <numbers>
 
 #include "core/base64.h"
 #include "drawing/image_size.h"
@@ -187,6 +188,30 @@ void SvgCanvas::drawText(std::string_view text, Rect r, Font f, Color c, Align a
     body_ += "</tspan>";
   }
   body_ += "</text>";
+}
+
+void SvgCanvas::drawTurnedText(std::string_view text, Rect r, Font f, Color c, Align a,
+                               double angle) {
+  const Point middle = r.centre();
+  body_ += "<g transform=\"rotate(";
+  svg::appendNumber(body_, angle * 180 / std::numbers::pi);
+  body_ += ' ';
+  svg::appendNumber(body_, middle.x);
+  body_ += ' ';
+  svg::appendNumber(body_, middle.y);
+  body_ += ")\">";
+  drawText(text, r, f, c, a);
+  body_ += "</g>";
+}
+
+void SvgCanvas::drawClippedImage(const std::string& file, Rect r, const Path& clip) {
+  const std::string area = nextId('c');
+  defs_ += "<clipPath id=\"" + area + "\">";
+  appendPath(defs_, clip);
+  defs_ += "/></clipPath>";
+  body_ += "<g clip-path=\"url(#" + area + ")\">";
+  drawImage(file, r);
+  body_ += "</g>";
 }
 
 void SvgCanvas::drawImage(const std::string& file, Rect r) {

@@ -21,7 +21,10 @@ class SvgCanvas : public Canvas {
   void fillGradient(const Path& clip, Point from, Point to,
                     const std::vector<GradientStop>& stops) override;
   void drawText(std::string_view text, Rect r, Font f, Color c, Align a) override;
+  void drawTurnedText(std::string_view text, Rect r, Font f, Color c, Align a,
+                      double angle) override;
   void drawImage(const std::string& file, Rect r) override;
+  void drawClippedImage(const std::string& file, Rect r, const Path& clip) override;
   void fillShadow(Rect r, Shadow s) override;
   void fillPathShadow(const Path& p, FillRule rule, Shadow s) override;
 

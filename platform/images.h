@@ -41,6 +41,11 @@ std::optional<Image> decodeImageToFit(std::span<const std::uint8_t> bytes, int m
 // whose `rgb` does not hold width * height pixels.
 std::vector<std::uint8_t> encodeJpeg(const Image& image, int quality);
 
+// The same of pixels held as native 32-bit words 0x00RRGGBB (a painting surface's), rows
+// `stride` bytes apart, read in place. Empty when the rows cannot hold the width.
+std::vector<std::uint8_t> encodeJpegFromWords(const std::uint8_t* words, int width, int height,
+                                              std::size_t stride, int quality);
+
 // Any image that decodeImage reads, as a JPEG of the given quality.
 std::optional<std::vector<std::uint8_t>> toJpeg(std::span<const std::uint8_t> bytes, int quality,
                                                 std::string* error);

@@ -1,4 +1,5 @@
 #include <algorithm>
+#include <bit>
 
 #include "platform/codec_support.h"
 #include "platform/images.h"
@@ -50,9 +51,18 @@ bool holdsItsPixels(const Image& image) {
          image.rgb.size() == std::size_t(image.width) * image.height * 3;
 }
 
+// Rows of pixels as libjpeg reads them.
+struct Rows {
+  const std::uint8_t* data;
+  int width, height;
+  std::size_t stride;
+  int components;
+  J_COLOR_SPACE space;
+};
+
 // libjpeg leaves this frame through longjmp on any error, so only C objects live in it; the
 // output vector belongs to the caller.
-bool writeJpeg(const Image& image, int quality, std::vector<std::uint8_t>* out) {
+bool writeJpeg(const Rows& image, int quality, std::vector<std::uint8_t>* out) {
   jpeg_compress_struct codec;
   JpegErrors errors;
   VectorDestination destination{{}, out};
@@ -68,15 +78,14 @@ bool writeJpeg(const Image& image, int quality, std::vector<std::uint8_t>* out) 
   codec.dest = &destination.manager;
   codec.image_width = static_cast<JDIMENSION>(image.width);
   codec.image_height = static_cast<JDIMENSION>(image.height);
-  codec.input_components = 3;
-  codec.in_color_space = JCS_RGB;
+  codec.input_components = image.components;
+  codec.in_color_space = image.space;
   jpeg_set_defaults(&codec);
   jpeg_set_quality(&codec, std::clamp(quality, 1, 100), TRUE);
   jpeg_start_compress(&codec, TRUE);
-  const std::size_t rowSize = std::size_t(image.width) * 3;
   while (codec.next_scanline < codec.image_height) {
     // libjpeg's row type is not const, though it only reads the rows.
-    JSAMPROW row = const_cast<std::uint8_t*>(image.rgb.data()) + codec.next_scanline * rowSize;
+    JSAMPROW row = const_cast<std::uint8_t*>(image.data) + codec.next_scanline * image.stride;
     jpeg_write_scanlines(&codec, &row, 1);
   }
   jpeg_finish_compress(&codec);
@@ -88,7 +97,22 @@ bool writeJpeg(const Image& image, int quality, std::vector<std::uint8_t>* out) 
 
 std::vector<std::uint8_t> encodeJpeg(const Image& image, int quality) {
   std::vector<std::uint8_t> out;
-  if (!holdsItsPixels(image) || !writeJpeg(image, quality, &out)) return {};
+  if (!holdsItsPixels(image)) return {};
+  const Rows rows{image.rgb.data(), image.width, image.height, std::size_t(image.width) * 3, 3,
+                  JCS_RGB};
+  if (!writeJpeg(rows, quality, &out)) return {};
+  return out;
+}
+
+// A word 0x00RRGGBB lies in memory as blue, green, red, unused on a little-endian machine.
+std::vector<std::uint8_t> encodeJpegFromWords(const std::uint8_t* words, int width, int height,
+                                              std::size_t stride, int quality) {
+  std::vector<std::uint8_t> out;
+  if (!words || width <= 0 || height <= 0 || stride < std::size_t(width) * 4) return {};
+  const Rows rows{words,  width,
+                  height, stride,
+                  4,      std::endian::native == std::endian::little ? JCS_EXT_BGRX : JCS_EXT_XRGB};
+  if (!writeJpeg(rows, quality, &out)) return {};
   return out;
 }
 

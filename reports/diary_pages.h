@@ -1,12 +1,13 @@
-// The days of the diary report laid out over pages: each day under its headings, rows moved to
-// the next page or split across pages when they do not fit, the day's photo at its end.
+// The days of the diary laid out over pages: each day under its headings, rows moved to the
+// next page or split across pages when they do not fit, the day's photo at its end. The report
+// draws what this lays out straight away; the photo book records it (see PageOutput).
 #pragma once
 
-#include <filesystem>
 #include <functional>
+#include <optional>
 #include <vector>
 
-#include "drawing/pdf_document.h"
+#include "reports/page_output.h"
 #include "reports/pdf_rows.h"
 
 namespace lad::report {
@@ -21,11 +22,11 @@ struct ReportDay {
 
 class DiaryPages {
  public:
-  DiaryPages(const Context& context, draw::PdfDocument& pdf, const PdfSettings& settings,
-             const RowPainter& rows, std::filesystem::path imagesDir);
+  // The rows measure with `rows`; everything goes to `output`.
+  DiaryPages(PageOutput& output, const PdfSettings& settings, const RowPainter& rows);
 
-  // pdfDrawPages: starts the first page of days, draws them all and ends the last page. The
-  // progress hears of each day drawn.
+  // pdfDrawPages: starts the first page of days, lays them all out and ends the last page.
+  // The progress hears of each day done.
   void drawPages(const std::vector<ReportDay>& days,
                  const std::function<void(std::size_t)>& progress = {});
 
@@ -36,22 +37,18 @@ class DiaryPages {
     double extra = 0;    // the height the headings still to be drawn take
   };
 
-  void newPage(bool close);
+  void newPage();
   double drawDayCap(double y, const Map& day, Flags& f);
   void drawDay(const ReportDay& day);
   void drawLines(const ReportDay& day, const ReportRow& row, Flags& f);
   void drawPlain(const ReportDay& day, const ReportRow& row, Flags& f);
   void splitRow(const ReportDay& day, const ReportRow& row, Flags& f);
-  void drawPhoto(const ReportDay& day, Flags& f);
+  std::optional<draw::Rect> photoBox(const ReportDay& day, Flags& f);
   bool fits(const Flags& f, double bottom) const;
-  std::string groupHeading(const Map& day) const;
 
-  const Context& context_;
-  draw::PdfDocument& pdf_;
+  PageOutput& output_;
   const PdfSettings& s_;
   const RowPainter& rows_;
-  std::filesystem::path imagesDir_;
-  int pageCount_ = 0;
   std::int64_t lastGroup_ = 0;  // waslastgroup
   double y_ = 0;
 };

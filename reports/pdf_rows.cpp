@@ -9,10 +9,6 @@ namespace lad::report {
 
 namespace {
 
-bool isTimedLines(int tp) {
-  return tp == 4 || tp == 5 || tp == 30 || tp == 31;
-}
-
 bool isSentenceLines(int tp) {
   return tp == 23 || tp == 29;
 }
@@ -23,6 +19,10 @@ bool isFile(const std::filesystem::path& file) {
 }
 
 }  // namespace
+
+bool isTimedLines(int tp) {
+  return tp == 4 || tp == 5 || tp == 30 || tp == 31;
+}
 
 RowShape rowShape(int tp) {
   if (tp == 100) return RowShape::Photo;
@@ -43,7 +43,8 @@ RowPainter::RowPainter(const Context& context, const PdfSettings& settings,
       imagesDir_(std::move(imagesDir)),
       listData_(listData),
       lineHeight_(textHeight("99", {settings.fontsize, false}, settings.rowTextWidth())),
-      timeWidth_(draw::measureText("99:99 ", {settings.fontsize, false}, settings.rowTextWidth()).w) {}
+      timeWidth_(
+          draw::measureText("99:99 ", {settings.fontsize, false}, settings.rowTextWidth()).w) {}
 
 double RowPainter::drawRow(draw::Canvas* canvas, double y, const ReportRow& row,
                            std::optional<Date> date) const {
@@ -51,6 +52,14 @@ double RowPainter::drawRow(draw::Canvas* canvas, double y, const ReportRow& row,
   if (isSentenceLines(row.tp)) return drawMulti2(canvas, y, row, date);
   if (row.tp == 100) return y;
   return drawPart(canvas, y, row.pic, row.text);
+}
+
+// Drawing adds the distance under a row to what measuring gives, for a row with a value.
+double RowPainter::drawnEnd(double y, const ReportRow& row, std::optional<Date> date) const {
+  const double end = drawRow(nullptr, y, row, date);
+  const RowShape shape = rowShape(row.tp);
+  const std::string& value = shape == RowShape::Lines ? row.source : row.text;
+  return shape == RowShape::Photo || value.empty() ? end : end + s_.ot;
 }
 
 void RowPainter::drawIcon(draw::Canvas& canvas, double y, const std::string& pic) const {
@@ -65,8 +74,7 @@ double RowPainter::drawPart(draw::Canvas* canvas, double y, const std::string& p
   const double h = textHeight(text, font, s_.rowTextWidth());
   if (!canvas) return y + h;
   drawIcon(*canvas, y, pic);
-  canvas->drawText(text,
-                   {s_.rowTextX(), y + (s_.iconsize - lineHeight_) / 2, s_.rowTextWidth(), h},
+  canvas->drawText(text, {s_.rowTextX(), y + (s_.iconsize - lineHeight_) / 2, s_.rowTextWidth(), h},
                    font, s_.textcolor, draw::Align::Left);
   return y + h + s_.ot;
 }
@@ -83,8 +91,8 @@ double RowPainter::drawMulti(draw::Canvas* canvas, double y, const ReportRow& ro
       const double top = y + s_.ot / 2;
       canvas->drawText(line["time"].text(), {s_.rowTextX(), top, timeWidth_, h}, font,
                        s_.text2color, draw::Align::Left);
-      canvas->drawText(text, {s_.rowTextX() + timeWidth_, top, textWidth, h}, font,
-                       s_.textcolor, draw::Align::Left);
+      canvas->drawText(text, {s_.rowTextX() + timeWidth_, top, textWidth, h}, font, s_.textcolor,
+                       draw::Align::Left);
     }
     y += h;
   }

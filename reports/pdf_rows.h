@@ -24,6 +24,8 @@ struct ReportRow {
 
 enum class RowShape { Plain, Lines, Photo };
 RowShape rowShape(int tp);
+// The rows of lines with a time column; the other rows of lines read structured values.
+bool isTimedLines(int tp);
 
 // The picture file of a row's icon: its "c-" form when there is one, else the plain one; empty
 // when neither exists.
@@ -31,12 +33,14 @@ std::string rowIconFile(const std::filesystem::path& imagesDir, const std::strin
 
 class RowPainter {
  public:
-  RowPainter(const Context& context, const PdfSettings& settings,
-             std::filesystem::path imagesDir, const List& listData);
+  RowPainter(const Context& context, const PdfSettings& settings, std::filesystem::path imagesDir,
+             const List& listData);
 
   // Any row by its kind; a photo row draws nothing.
   double drawRow(draw::Canvas* canvas, double y, const ReportRow& row,
                  std::optional<Date> date) const;
+  // The y that drawing the row would give, without drawing it.
+  double drawnEnd(double y, const ReportRow& row, std::optional<Date> date) const;
   // drawPDFPart: a plain row whose first line stands centred on the icon.
   double drawPart(draw::Canvas* canvas, double y, const std::string& pic,
                   const std::string& text) const;

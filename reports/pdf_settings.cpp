@@ -29,10 +29,14 @@ std::string keepEnds(std::string_view text, const std::vector<std::size_t>& star
 PdfSettings pdfPrepare(const Context& context, draw::Size page) {
   PdfSettings s;
   s.page = page;
-  const std::string week = fillIn(context.translate("%d неделя"), 1);
-  s.wh = pdfStringHeight(week, page.w, s.weekfontsize, 10);
-  s.dh = pdfStringHeight(week, page.w, s.fontsize, 10);
+  measureHeadings(context, s);
   return s;
+}
+
+void measureHeadings(const Context& context, PdfSettings& s) {
+  const std::string week = fillIn(context.translate("%d неделя"), 1);
+  s.wh = pdfStringHeight(week, s.page.w, s.weekfontsize, 10);
+  s.dh = pdfStringHeight(week, s.page.w, s.fontsize, 10);
 }
 
 double textHeight(std::string_view text, draw::Font f, double width) {

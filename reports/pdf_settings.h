@@ -42,6 +42,9 @@ struct PdfSettings {
 // The settings of a report on pages of that size.
 PdfSettings pdfPrepare(const Context& context, draw::Size page);
 
+// Sets the heights of the week and date headings from the settings' type sizes.
+void measureHeadings(const Context& context, PdfSettings& s);
+
 // The height of the text wrapped in the width, plus 1; 0 for no text.
 double textHeight(std::string_view text, draw::Font f, double width);
 

@@ -1,5 +1,7 @@
 #include <gtest/gtest.h>
 
+#include <cstring>
+
 #include "image_samples.h"
 #include "platform/images.h"
 
@@ -17,6 +19,26 @@ TEST(Jpeg, RoundTripKeepsSizeAndColours) {
     EXPECT_EQ(decoded->height, 30);
     expectQuarters(*decoded, {kRed, kGreen, kBlue, kWhite});
   }
+}
+
+TEST(Jpeg, WordsOfAPaintingSurfaceAreReadInPlace) {
+  // The quadrants as 0x00RRGGBB words in rows padded to 48 words.
+  const Image source = quadrants(40, 30);
+  constexpr std::size_t kStride = 48 * 4;
+  std::vector<std::uint8_t> rows(kStride * 30, 0xEE);
+  for (int y = 0; y < 30; ++y)
+    for (int x = 0; x < 40; ++x) {
+      const std::uint8_t* rgb = &source.rgb[(std::size_t(y) * 40 + x) * 3];
+      const std::uint32_t word = std::uint32_t(rgb[0]) << 16 | std::uint32_t(rgb[1]) << 8 | rgb[2];
+      std::memcpy(&rows[y * kStride + x * 4], &word, 4);
+    }
+  std::string error;
+  const auto decoded = decodeImage(encodeJpegFromWords(rows.data(), 40, 30, kStride, 100), &error);
+  ASSERT_TRUE(decoded) << error;
+  EXPECT_EQ(decoded->width, 40);
+  expectQuarters(*decoded, {kRed, kGreen, kBlue, kWhite});
+  EXPECT_TRUE(encodeJpegFromWords(rows.data(), 40, 30, 40 * 4 - 1, 100).empty());
+  EXPECT_TRUE(encodeJpegFromWords(nullptr, 40, 30, kStride, 100).empty());
 }
 
 TEST(Jpeg, QualityIsClampedAndChangesTheSize) {

@@ -1,6 +1,6 @@
-// The renderer of the week pages' pictures: the frames of a moving picture move and close their
+// The renderer of the pictures made at build time: the frames of a moving picture move and close their
 // loop, and a fault in a source stops it with the file and line instead of a wrong picture.
-//   node --test tests/resources/render_week_test.mjs
+//   node --test tests/resources/render_pictures_test.mjs
 import assert from 'node:assert/strict';
 import { execFile } from 'node:child_process';
 import { mkdtemp, readFile, readdir, rm, writeFile } from 'node:fs/promises';
@@ -9,9 +9,9 @@ import { join } from 'node:path';
 import { after, test } from 'node:test';
 import { promisify } from 'node:util';
 
-const script = new URL('../../resources/images/render-week.mjs', import.meta.url).pathname;
+const script = new URL('../../resources/images/render-pictures.mjs', import.meta.url).pathname;
 const sources = new URL('../../resources/images/src/', import.meta.url).pathname;
-const dir = await mkdtemp(join(tmpdir(), 'render-week-'));
+const dir = await mkdtemp(join(tmpdir(), 'render-pictures-'));
 after(() => rm(dir, { recursive: true, force: true }));
 
 /** Runs the script on the given files, written into a fresh folder: {code, stderr, out}. */

@@ -1,12 +1,19 @@
-// Renders the pictures of the week, body and baby pages at build time, each from its SVG in
-// src/week/, into the folder given first:
-//   node render-week.mjs OUT_DIR SOURCE...
+// Renders the program's pictures at build time, each from its SVG in src/week/ or src/book/,
+// into the folder given first:
+//   node render-pictures.mjs OUT_DIR SOURCE...
 // A source is named by what it makes:
 //   "12w.svg"      the moving picture of the child in those weeks: eight 640×640 JPEG frames
 //                  "12w001.jpg" to "12w008.jpg", looped once a second;
 //   "wom-3.svg"    the mother's body in that month, a transparent 640×800 PNG "wom-3.png";
 //   "org-mozg.svg" an organ of the development ring, a transparent 96×96 PNG "org-mozg.png";
-//   "wom-hints.json" the named points of the body pictures, by month: [{name, x, y}] in pixels.
+//   "wom-hints.json" the named points of the body pictures, by month: [{name, x, y}] in pixels;
+//   "book-t2-3.svg" a ground of the photo book's pages, a 3338×2588 JPEG "book-t2-3.jpg"
+//                  (kind 2: "book-t2-1" to "book-t2-6" and "book-t2-0a" to "book-t2-0e";
+//                  "book-t4", "book-t5");
+//   "ti-preg3.svg" a picture of the book's cover ring, a 800×800 PNG (also "b-ti-preg",
+//                  "ti-child2", "b-ti-child");
+//   "book2.svg"    a kind of the photo book in the list to choose from, a 300×232 PNG;
+//   "imageloc-41.svg" a layout of a picture page in the page's editor, a 120×93 PNG.
 // An element of a moving picture moves with a data-move attribute: one motion that swings as a
 // sine wave through the loop,
 //   float DX DY            shifts by up to DX, DY;
@@ -22,9 +29,19 @@ import { chromium } from 'playwright-core';
 
 const FRAMES = 8;
 const KINDS = [
-  { pattern: /^\d+w$/, width: 640, height: 640, viewBox: '0 0 640 640' },
+  { pattern: /^\d+w$/, width: 640, height: 640, viewBox: '0 0 640 640', moving: true },
   { pattern: /^wom-\d$/, width: 640, height: 800, viewBox: '0 0 640 800' },
   { pattern: /^org-[a-z]+$/, width: 96, height: 96, viewBox: '0 0 48 48' },
+  {
+    pattern: /^book-t(2-[1-6]|2-0[a-e]|[45])$/,
+    width: 3338,
+    height: 2588,
+    viewBox: '0 0 1669 1294',
+    jpeg: true,
+  },
+  { pattern: /^(b-)?ti-(preg|child)\d?$/, width: 800, height: 800, viewBox: '0 0 800 800' },
+  { pattern: /^book[1-5]$/, width: 300, height: 232, viewBox: '0 0 300 232' },
+  { pattern: /^imageloc-\d\d$/, width: 120, height: 93, viewBox: '0 0 120 93' },
 ];
 // The parts named on the body picture of each month.
 const BODY_PARTS = {
@@ -214,7 +231,7 @@ function readHints(file, text, months) {
 
 const [outDir, ...sourcePaths] = process.argv.slice(2);
 if (!outDir || !sourcePaths.length) {
-  console.error('usage: node render-week.mjs OUT_DIR SOURCE...');
+  console.error('usage: node render-pictures.mjs OUT_DIR SOURCE...');
   process.exit(2);
 }
 
@@ -270,8 +287,7 @@ try {
     }
     if (problem.viewBox !== kind.viewBox)
       fail(file, text, text.indexOf('<svg'), `the viewBox must be "${kind.viewBox}"`);
-    const motions =
-      kind.width === kind.height && kind.width === 640 ? readMotions(file, text) : null;
+    const motions = kind.moving ? readMotions(file, text) : null;
     pictures.push({ name, text, kind, motions });
   }
   const months = pictures.filter((p) => p.name.startsWith('wom-')).map((p) => p.name.slice(4));
@@ -297,9 +313,11 @@ try {
       continue;
     }
     await show(text);
-    await page.screenshot({ path: join(outDir, `${name}.png`), omitBackground: true });
+    if (kind.jpeg)
+      await page.screenshot({ path: join(outDir, `${name}.jpg`), type: 'jpeg', quality: 90 });
+    else await page.screenshot({ path: join(outDir, `${name}.png`), omitBackground: true });
     count++;
-    const month = name.slice(4);
+    const month = name.startsWith('wom-') ? name.slice(4) : undefined;
     if (!hints[month]) continue;
     const astray = await page.evaluate(
       (list) => list.filter((h) => document.elementFromPoint(h.x, h.y)?.closest('svg > *') == null),

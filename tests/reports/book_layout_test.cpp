@@ -1,0 +1,140 @@
+// The picture pages of the photo book: which layout a page takes and where its photos stand.
+#include <gmock/gmock.h>
+
+#include <fstream>
+
+#include "drawing/recording_canvas.h"
+#include "platform/images.h"
+#include "reports/book_layouts.h"
+#include "reports/book_picture_page.h"
+#include "reports/book_style.h"
+#include "tests/support/test_files.h"
+
+namespace lad::testing {
+namespace {
+
+using draw::Command;
+using draw::Rect;
+using report::layoutRect;
+using Kind = draw::Command::Kind;
+
+constexpr double kOt = 30;
+const draw::Size kPage = report::kInnerPage;
+
+Rect at(int layout, int pos) {
+  return layoutRect(layout, pos, kPage, kOt).value_or(Rect{-1, -1, -1, -1});
+}
+
+TEST(BookLayouts, TheLayoutOfACountByKindAndWhereEachPhotoStands) {
+  for (int kind = 1; kind <= 5; ++kind) EXPECT_EQ(report::chooseLayout(1, kind), 10);
+  for (int kind : {2, 4, 5}) {
+    EXPECT_EQ(report::chooseLayout(2, kind), 23);
+    EXPECT_EQ(report::chooseLayout(3, kind), 31);
+    EXPECT_EQ(report::chooseLayout(4, kind), 41);
+  }
+  for (int kind : {1, 3}) {
+    EXPECT_EQ(report::chooseLayout(2, kind), 20);
+    EXPECT_EQ(report::chooseLayout(3, kind), 30);
+    EXPECT_EQ(report::chooseLayout(6, kind), 40);
+  }
+  EXPECT_EQ(at(10, 1), (Rect{0, 0, 3338, 2588}));
+  EXPECT_EQ(at(12, 1), (Rect{300, 300, 2738, 1388}));
+  EXPECT_EQ(at(21, 2), (Rect{3338.0 / 3, 300, 3338 - 3338.0 / 3, 1388}));
+  // Layout 40: 1 and 2 in the upper row, 1 and 3 in the left column.
+  EXPECT_EQ(at(40, 1), (Rect{0, 300, 1669, 994}));
+  EXPECT_EQ(at(40, 2), (Rect{1669, 300, 1669, 994}));
+  EXPECT_EQ(at(40, 3), (Rect{0, 1294, 1669, 994}));
+  EXPECT_EQ(at(40, 4), (Rect{1669, 1294, 1669, 994}));
+  // The passe-partout layouts keep 4 ot between photos about the page's middle.
+  const Rect a = at(41, 1), b = at(41, 2), c = at(41, 3), d = at(41, 4);
+  EXPECT_DOUBLE_EQ(a.w, 1669 - 12 * kOt);
+  EXPECT_DOUBLE_EQ(a.h, 3 * a.w / 4);
+  EXPECT_DOUBLE_EQ(b.x - a.right(), 4 * kOt);
+  EXPECT_DOUBLE_EQ(d.y - a.bottom(), 4 * kOt);
+  EXPECT_EQ(c.x, b.x);
+  EXPECT_DOUBLE_EQ(at(23, 1).y, (2588 - at(23, 1).h) / 2);
+  EXPECT_EQ(at(29, 2), at(23, 2));
+  EXPECT_DOUBLE_EQ(at(31, 1).h, 5 * at(31, 1).w / 4);
+  EXPECT_DOUBLE_EQ(at(32, 2).w, at(32, 1).w / 2 - 2 * kOt);
+  EXPECT_DOUBLE_EQ(at(33, 3).x, 2 * 3338.0 / 3);
+  // Places a layout does not have, and the layouts that place nothing.
+  EXPECT_FALSE(layoutRect(20, 3, kPage, kOt));
+  EXPECT_FALSE(layoutRect(40, 5, kPage, kOt));
+  for (int none : {13, 19, 24, 28, 34, 39}) EXPECT_FALSE(layoutRect(none, 1, kPage, kOt));
+  // Frames: the passe-partout layouts in kinds 2, 4 and 5 only.
+  EXPECT_TRUE(report::layoutHasFrame(41, 2));
+  EXPECT_TRUE(report::layoutHasFrame(12, 4));
+  EXPECT_TRUE(report::layoutHasFrame(32, 5));
+  EXPECT_FALSE(report::layoutHasFrame(41, 3));
+  EXPECT_FALSE(report::layoutHasFrame(29, 2));
+  EXPECT_FALSE(report::layoutHasFrame(40, 5));
+}
+
+void writeJpeg(const std::filesystem::path& file, int width, int height) {
+  const auto jpeg = encodeJpeg(
+      {width, height, std::vector<std::uint8_t>(std::size_t(width) * height * 3, 99)}, 80);
+  std::ofstream(file, std::ios::binary)
+      .write(reinterpret_cast<const char*>(jpeg.data()), static_cast<std::streamsize>(jpeg.size()));
+}
+
+TEST(BookPicturePage, PhotosFillTheirPlacesAndAnUnreadableOneGivesUpItsPlace) {
+  TempDir dir;
+  const std::string wide = (dir.path() / "wide.jpg").string();
+  const std::string tall = (dir.path() / "tall.jpg").string();
+  const std::string broken = (dir.path() / "broken.jpg").string();
+  writeJpeg(wide, 400, 300);
+  writeJpeg(tall, 300, 400);
+  std::ofstream(broken) << "no picture";
+  EXPECT_EQ(report::readableImages({{wide}, {broken}, {tall}}),
+            (std::vector<report::BookImage>{{wide}, {tall}}));
+
+  // Kind 2, three in use: layout 31 with frames, and no line under it.
+  report::PicturePage page{{{wide}, {broken}, {tall}, {wide, false}}, 0, "Подпись"};
+  draw::RecordingCanvas framed;
+  EXPECT_EQ(report::buildImagePage(framed, page, kPage, 2, kOt), 31);
+  const std::vector<Command> images = framed.ofKind(Kind::Image);
+  ASSERT_EQ(images.size(), 2u);
+  EXPECT_EQ(images[0].text, wide);
+  EXPECT_EQ(images[1].text, tall);
+  for (int pos : {1, 2}) {
+    const Rect place = at(31, pos);
+    const Command& image = images[pos - 1];
+    EXPECT_EQ(image.path, draw::Path().addRect(place));
+    // Filled: the whole place is covered, the photo's aspect kept, centred.
+    EXPECT_GE(image.rect.w, place.w - 1e-9);
+    EXPECT_GE(image.rect.h, place.h - 1e-9);
+    EXPECT_TRUE(std::abs(image.rect.w - place.w) < 1e-9 || std::abs(image.rect.h - place.h) < 1e-9);
+    EXPECT_NEAR(image.rect.centre().x, place.centre().x, 1e-9);
+    EXPECT_NEAR(image.rect.w / image.rect.h, pos == 1 ? 4.0 / 3 : 3.0 / 4, 1e-9);
+  }
+  const std::vector<Command> frames = framed.ofKind(Kind::FillRect);
+  ASSERT_EQ(frames.size(), 2u);
+  const Rect first = at(31, 1);
+  EXPECT_EQ(frames[0].rect,
+            (Rect{first.x - kOt, first.y - kOt, first.w + 2 * kOt, first.h + 2 * kOt}));
+  EXPECT_EQ(frames[0].color, (draw::Color{1, 1, 1}));
+  EXPECT_EQ(framed.ofKind(Kind::StrokePath).front().color, (draw::Color{0.8, 0.8, 0.8}));
+  EXPECT_EQ(framed.ofKind(Kind::StrokePath).front().width, 3);
+  EXPECT_TRUE(framed.ofKind(Kind::Text).empty());
+
+  // Kind 3, two in use: layout 20 without frames, the line under them in black.
+  page.images = {{wide}, {tall}};
+  draw::RecordingCanvas plain;
+  EXPECT_EQ(report::buildImagePage(plain, page, kPage, 3, kOt), 20);
+  EXPECT_TRUE(plain.ofKind(Kind::FillRect).empty());
+  EXPECT_EQ(plain.ofKind(Kind::Image)[1].path, draw::Path().addRect(at(20, 2)));
+  const std::vector<Command> line = plain.ofKind(Kind::Text);
+  ASSERT_EQ(line.size(), 1u);
+  EXPECT_EQ(line[0].text, "Подпись");
+  EXPECT_EQ(line[0].font, (draw::Font{70, false}));
+  EXPECT_EQ(line[0].color, (draw::Color{0, 0, 0}));
+  EXPECT_GT(line[0].rect.y, at(20, 1).bottom());
+  // A layout given by hand holds only its capacity.
+  page = {{{wide}, {tall}, {wide}}, 10, ""};
+  draw::RecordingCanvas one;
+  EXPECT_EQ(report::buildImagePage(one, page, kPage, 1, kOt), 10);
+  EXPECT_EQ(one.ofKind(Kind::Image).size(), 1u);
+}
+
+}  // namespace
+}  // namespace lad::testing

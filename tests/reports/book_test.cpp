@@ -1,0 +1,214 @@
+// The photo book made from a diary: the recorded pages, the pages drawn, and book.pdf.
+#include <gmock/gmock.h>
+
+#include <fstream>
+
+#include "core/atomic_file.h"
+#include "platform/images.h"
+#include "reports/book_job.h"
+#include "reports/book_pdf.h"
+#include "reports/diary_pages.h"
+#include "reports/report_days.h"
+#include "store/day_photo.h"
+#include "tests/reports/pdf_reader.h"
+#include "tests/store/day_fixture.h"
+
+namespace lad::testing {
+namespace {
+
+using ::testing::ElementsAre;
+using ::testing::HasSubstr;
+
+class BookTest : public DayTest {
+ protected:
+  void pregnancy() {
+    openEdition(1);
+    addPregnancy(*store, kGid, day(5, 1, 2026), "60");
+  }
+  void photo(Date on, int width = 600, int height = 400) {
+    const Image image{width, height,
+                      std::vector<std::uint8_t>(std::size_t(width) * height * 3, 150)};
+    ASSERT_TRUE(saveDayPhoto(*context, on, kGid, encodeJpeg(image, 80), nullptr));
+  }
+  void breakPhoto(Date on) {
+    std::ofstream(dayPhotoFiles(*context, on, kGid).full) << "no picture";
+  }
+  // The first pass alone, for a book of the kind.
+  std::vector<report::BookCommand> record(int kind = 1) {
+    settings = report::bookSettings(*context, report::kInnerPage, kind);
+    const auto days = report::loadReportDays(*store, kGid, 8, 0, day(5, 1, 2026), listData);
+    const report::RowPainter rows(*context, settings, LADANEYA_IMAGES_DIR, listData);
+    report::BookRecorder recorder(settings, rows);
+    report::DiaryPages(recorder, settings, rows).drawPages(days);
+    return recorder.commands();
+  }
+  std::vector<report::BookPage> prepare(int kind = 1, int year = 0) {
+    std::string error;
+    const auto pages = report::prepareBook(*store, {kGid, kind, year, report::bookFile(*context)},
+                                           {LADANEYA_IMAGES_DIR, {}}, &error);
+    EXPECT_TRUE(pages) << error;
+    return pages.value_or(std::vector<report::BookPage>{});
+  }
+  report::PdfSettings settings;
+};
+
+std::string funcs(const std::vector<report::BookCommand>& commands) {
+  std::string out;
+  for (const auto& c : commands)
+    out += (out.empty() ? "" : " ") + c.func + "@" + std::to_string(c.page);
+  return out;
+}
+
+std::vector<int> numbers(const std::vector<report::BookPage>& pages) {
+  std::vector<int> out;
+  for (const auto& p : pages) out.push_back(p.page);
+  return out;
+}
+
+std::optional<ImageSize> jpegSize(const std::filesystem::path& file) {
+  const auto bytes = readWholeFile(file);
+  if (!bytes) return std::nullopt;
+  return imageSize(std::span(reinterpret_cast<const std::uint8_t*>(bytes->data()), bytes->size()));
+}
+
+TEST_F(BookTest, FivePhotosWithoutTextMakeAPageOfFourThenAPageOfOne) {
+  pregnancy();
+  for (int d = 6; d <= 10; ++d) photo(day(d, 1, 2026));
+  const auto commands = record();
+  EXPECT_EQ(funcs(commands), "bookSaveImagePage@3 bookSaveImagePage@4");
+  EXPECT_EQ(commands[0].images.size(), 4u);
+  EXPECT_EQ(commands[1].images.size(), 1u);
+
+  const auto pages = prepare();
+  // The jacket, the cover, the two picture pages and the pregnancy's weight chart.
+  ASSERT_THAT(numbers(pages), ElementsAre(1, 2, 3, 4, 5));
+  EXPECT_EQ(pages[2].picture.tp, 40);
+  EXPECT_EQ(pages[2].picture.images.size(), 4u);
+  EXPECT_EQ(pages[3].picture.tp, 10);
+  EXPECT_EQ(pages[4].picture.tp, 12);
+  EXPECT_EQ(pages[4].picture.pagelabelbottom,
+            "График прибавки веса за весь период беременности (килограммы)");
+  EXPECT_EQ(jpegSize(pages[0].file), (ImageSize{9838, 2671}));
+  EXPECT_EQ(jpegSize(pages[1].file), (ImageSize{7125, 2888}));
+  EXPECT_EQ(jpegSize(pages[3].file), (ImageSize{3338, 2588}));
+  EXPECT_EQ(pages[3].file.filename(), "book4.jpg");
+}
+
+TEST_F(BookTest, PicturePagesFollowTheTextTheirPhotosStoodIn) {
+  pregnancy();
+  put("note", "Первый день", day(6, 1, 2026));
+  for (int d = 6; d <= 9; ++d) photo(day(d, 1, 2026));
+  put("note", "После фотографий", day(10, 1, 2026));
+  const auto commands = record();
+  EXPECT_EQ(funcs(commands),
+            "pdfDrawDayCap@3 drawPDFPart@3 bookSavePage@3 bookSaveImagePage@4 pdfDrawDayCap@5 "
+            "drawPDFPart@5 bookSavePage@5");
+  EXPECT_TRUE(commands[0].needBig);
+  EXPECT_EQ(commands[0].day["day"].text(), "06 января 2026");
+  EXPECT_EQ(commands[0].top, 10 * 30);
+  // Behind the picture page the text goes on at the top of a page, in the same week.
+  EXPECT_FALSE(commands[4].needBig);
+  EXPECT_TRUE(commands[4].needSmall);
+  EXPECT_EQ(commands[4].top, 10 * 30 + 3 * 30);
+  EXPECT_EQ(commands[5].row.text, "После фотографий");
+}
+
+TEST_F(BookTest, ALongNoteBreaksAsTheReportsLayoutWithTheBooksSizes) {
+  pregnancy();
+  std::string note;
+  for (int i = 1; i <= 700; ++i) note += (i > 1 ? " " : "") + ("слово" + std::to_string(i));
+  put("note", note, day(6, 1, 2026));
+  const auto commands = record();
+  EXPECT_EQ(settings.ot, 30);
+  EXPECT_EQ(settings.fontsize, 70);
+  EXPECT_EQ(settings.iconsize, 80);
+  EXPECT_EQ(settings.rowTextWidth(), 3338 - 20 * 30 - 80 - 30);
+  std::vector<const report::BookCommand*> pieces;
+  for (const auto& c : commands)
+    if (c.func == "drawPDFPart") pieces.push_back(&c);
+  ASSERT_GE(pieces.size(), 3u);
+  // The first piece under the headings is what fits from there to the bottom margin.
+  const double under = 10 * 30 + settings.wh + 3 * 30 + settings.dh + 30;
+  EXPECT_DOUBLE_EQ(pieces[0]->top, under);
+  const SplitText first =
+      splitString(note, settings.rowTextWidth(), 2588 - 20 * 30, report::RowTextMeasurer(70));
+  EXPECT_EQ(pieces[0]->row.text, first.line);
+  std::string joined;
+  for (std::size_t i = 0; i < pieces.size(); ++i) {
+    EXPECT_EQ(pieces[i]->page, 3 + static_cast<int>(i));
+    if (i > 0) {
+      EXPECT_EQ(pieces[i]->top, 10 * 30);
+    }
+    joined += (i ? " " : "") + pieces[i]->row.text;
+  }
+  EXPECT_EQ(joined, note);
+}
+
+TEST_F(BookTest, ADiaryWithoutPhotosHasTheJacketTheCoverAndTextPages) {
+  openEdition(2);
+  addChild(*store, kGid, day(10, 1, 2026), "3.2", "50");
+  put("note", "Первая улыбка", day(20, 2, 2026));
+  put("note", "Первый зуб", day(20, 3, 2026));
+  const auto pages = prepare(2, 1);
+  ASSERT_THAT(numbers(pages), ElementsAre(1, 2, 3));
+  for (const auto& page : pages) {
+    EXPECT_FALSE(page.isimages);
+    EXPECT_TRUE(std::filesystem::exists(page.file));
+  }
+}
+
+TEST_F(BookTest, AnUnreadablePhotoIsLeftOutAndAPageWithNoneLeftIsDropped) {
+  pregnancy();
+  for (int d = 6; d <= 10; ++d) photo(day(d, 1, 2026));
+  breakPhoto(day(7, 1, 2026));
+  breakPhoto(day(10, 1, 2026));
+  const auto pages = prepare(4);
+  // Page 4 held only the broken photo; its number stays unused.
+  ASSERT_THAT(numbers(pages), ElementsAre(1, 2, 3, 5));
+  EXPECT_EQ(pages[2].picture.images.size(), 3u);
+  EXPECT_EQ(pages[2].picture.tp, 31);
+  EXPECT_FALSE(std::filesystem::exists(pages[2].file.parent_path() / "book4.jpg"));
+}
+
+TEST_F(BookTest, BookPdfHasThePagesAtTheirSizesAndTheCreator) {
+  pregnancy();
+  put("note", "Первая запись дневника", day(6, 1, 2026));
+  photo(day(6, 1, 2026), 400, 600);
+  photo(day(8, 1, 2026));
+  const auto file = report::bookFile(*context);
+  EXPECT_EQ(file, context->documentsDir() / "book.pdf");
+  std::string error;
+  ASSERT_TRUE(report::makeBook(*store, {kGid, 2, 0, file}, {LADANEYA_IMAGES_DIR, {}}, &error))
+      << error;
+  renderPages(file, "book");
+  const auto pdf = readPdf(file);
+  ASSERT_TRUE(pdf);
+  EXPECT_EQ(pdf->creator, "Ладанея (1.0)");
+  // Jacket, cover, the text page, the picture page of two and the weight chart.
+  ASSERT_EQ(pdf->pages.size(), 5u);
+  const auto size = [&](std::size_t page) {
+    return std::make_pair(pdf->pages[page].width, pdf->pages[page].height);
+  };
+  EXPECT_NEAR(size(0).first, 9838 / 4.1667, 0.01);
+  EXPECT_NEAR(size(0).second, 2671 / 4.1667, 0.01);
+  EXPECT_NEAR(size(1).first, 7125 / 4.1667, 0.01);
+  EXPECT_NEAR(size(1).second, 2888 / 4.1667, 0.01);
+  for (std::size_t page = 2; page < 5; ++page) {
+    EXPECT_NEAR(size(page).first, 3338 / 4.1667, 0.01);
+    EXPECT_NEAR(size(page).second, 2588 / 4.1667, 0.01);
+  }
+
+  // A kind outside 1 to 5 is refused, and a failure half way leaves the book that was there,
+  // and no temporary file.
+  const auto before = readWholeFile(file);
+  EXPECT_FALSE(report::makeBook(*store, {kGid, 6, 0, file}, {LADANEYA_IMAGES_DIR, {}}, &error));
+  EXPECT_EQ(error, "a book's kind is a number from 1 to 5, not 6");
+  const auto folder = report::bookFolder(*context);
+  EXPECT_FALSE(report::saveBook({folder / "book1.jpg", folder / "book99.jpg"}, file, "x", &error));
+  EXPECT_THAT(error, HasSubstr("book99.jpg"));
+  EXPECT_EQ(readWholeFile(file), before);
+  EXPECT_FALSE(std::filesystem::exists(atomicTempPath(file)));
+}
+
+}  // namespace
+}  // namespace lad::testing
