@@ -25,7 +25,7 @@
 // a hint that is not one of its month's parts or points at nothing drawn.
 import { readFile, mkdir } from 'node:fs/promises';
 import { basename, join } from 'node:path';
-import { chromium } from 'playwright-core';
+import { launchChromium } from '../../web/tools/chromium.mjs';
 
 const FRAMES = 8;
 const KINDS = [
@@ -236,18 +236,7 @@ if (!outDir || !sourcePaths.length) {
 }
 
 const started = Date.now();
-const browser = await chromium.launch({
-  executablePath: '/usr/bin/chromium',
-  args: [
-    '--headless',
-    '--no-sandbox',
-    '--disable-gpu',
-    '--disable-background-networking',
-    '--disable-component-update',
-    '--disable-sync',
-    '--no-first-run',
-  ],
-});
+const browser = await launchChromium();
 try {
   const page = await browser.newPage({ deviceScaleFactor: 1 });
   await page.setContent(

@@ -7,7 +7,7 @@
 import { readdir, readFile } from 'node:fs/promises';
 import { dirname, join, basename } from 'node:path';
 import { fileURLToPath } from 'node:url';
-import { chromium } from 'playwright-core';
+import { launchChromium } from '../../web/tools/chromium.mjs';
 
 const SIZE = 96;
 const LARGE = { 'start-icon': 256, 'clear-photo2': 240, 'pdf-pressure': 320, 'pdf-zhid': 320 };
@@ -21,11 +21,7 @@ const WIDE = { 'child-g': [540, 224] };
 const here = dirname(fileURLToPath(import.meta.url));
 const srcDir = join(here, 'src');
 
-const browser = await chromium.launch({
-  executablePath: '/usr/bin/chromium',
-  args: ['--headless', '--no-sandbox', '--disable-gpu', '--disable-background-networking',
-         '--disable-component-update', '--disable-sync', '--no-first-run'],
-});
+const browser = await launchChromium();
 
 try {
   const files = (await readdir(srcDir)).filter((f) => f.endsWith('.svg')).sort();

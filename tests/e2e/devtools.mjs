@@ -3,7 +3,8 @@ import { spawn } from 'node:child_process';
 import fs from 'node:fs';
 import os from 'node:os';
 import path from 'node:path';
-import { CHROMIUM_ARGS, sleep, START_TIMEOUT_MS, STOP_TIMEOUT_MS } from './harness.mjs';
+import { CHROMIUM_ARGS } from '../../web/tools/chromium.mjs';
+import { sleep, START_TIMEOUT_MS, STOP_TIMEOUT_MS } from './harness.mjs';
 
 /**
  * Runs `use(port)` with Chromium listening for the DevTools protocol on `port`, in a fresh

@@ -6,18 +6,8 @@ import net from 'node:net';
 import os from 'node:os';
 import path from 'node:path';
 import { parseArgs } from 'node:util';
-import { chromium } from 'playwright-core';
+import { launchChromium } from '../../web/tools/chromium.mjs';
 
-export const CHROMIUM_ARGS = [
-  '--headless',
-  '--no-sandbox',
-  '--disable-gpu',
-  '--disable-background-networking',
-  '--disable-component-update',
-  '--disable-sync',
-  '--no-first-run',
-  '--disable-quic',
-];
 export const START_TIMEOUT_MS = 20000;
 export const STOP_TIMEOUT_MS = 10000;
 // Generous: full-page screenshots drawn without a GPU take seconds on a busy machine.
@@ -308,7 +298,7 @@ export async function runBrowserTest(
   const executable = path.resolve(values.server);
   let browser = null;
   try {
-    browser = await chromium.launch({ executablePath: '/usr/bin/chromium', args: CHROMIUM_ARGS });
+    browser = await launchChromium();
     await onNewInstallation(
       executable,
       ({ base, server, dataDir }) =>
