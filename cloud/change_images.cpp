@@ -5,6 +5,7 @@
 
 #include "core/atomic_file.h"
 #include "core/context.h"
+#include "core/edition.h"
 #include "core/json_text.h"
 #include "store/day_photo.h"
 
@@ -49,7 +50,7 @@ bool isPlainFileName(std::string_view name) {
 List profileImages(const Context& context, const Map& setup, const std::string& gid) {
   List images;
   addFile(images, "photo", context.documentsDir() / "picture" / ("child-" + gid + ".jpg"));
-  if (context.values().appid == 2)
+  if (isChildEdition(context.values().appid))
     addListedFiles(images, "documents", setup["documents"].text(),
                    context.documentsDir() / "documents");
   return images;
