@@ -21,8 +21,11 @@ int book(int appid, const BookArgs& args) {
   request.kind = args.kind;
   request.year = args.year ? args.year : report::defaultReportYear(store, request.gid);
   request.target = args.output;
+  report::BookOptions options;
+  options.imagesDir = args.imagesDir;
+  options.progress = terminalProgress("pages");
   std::string error;
-  if (!report::makeBook(store, request, {args.imagesDir, terminalProgress("pages")}, &error)) {
+  if (!report::makeBook(store, request, options, &error)) {
     std::fprintf(stderr, "%s\n", error.c_str());
     return 1;
   }

@@ -14,8 +14,9 @@ void BM_PhotoBook(benchmark::State& state) {
   static lad::bench::PregnancyWithPhotos diary;
   const auto target = lad::report::bookFile(*diary.context);
   std::size_t pages = 0;
-  const lad::report::BookOptions options{LADANEYA_IMAGES_DIR,
-                                         [&](std::size_t, std::size_t total) { pages = total; }};
+  lad::report::BookOptions options;
+  options.imagesDir = LADANEYA_IMAGES_DIR;
+  options.progress = [&](std::size_t, std::size_t total) { pages = total; };
   for (auto _ : state) {
     std::string error;
     if (!lad::report::makeBook(*diary.store, {kGid, static_cast<int>(state.range(0)), 0, target},

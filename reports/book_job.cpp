@@ -32,6 +32,12 @@ int bookRegim(DayEdition edition) {
   return edition == DayEdition::Woman ? 3 : 8;
 }
 
+// A finished page joins the book, and whoever follows it hears of it.
+void keep(BookPage page, std::vector<BookPage>& pages, const BookOptions& options) {
+  if (options.onPage) options.onPage(page);
+  pages.push_back(std::move(page));
+}
+
 // The jacket (page 1) or the cover (page 2).
 std::optional<BookPage> coverPage(const Context& context, const Map& dic, int number,
                                   const std::filesystem::path& folder, std::string* error) {
@@ -61,7 +67,7 @@ bool drawRecorded(const std::vector<BookCommand>& commands, const BookPageMaker&
       *error = failure;
       return false;
     }
-    if (page) pages.push_back(std::move(*page));
+    if (page) keep(std::move(*page), pages, options);
     if (options.progress) options.progress(commands[from].page, total);
     from = to;
   }
@@ -83,7 +89,7 @@ bool addGraphPage(Store& store, const std::string& gid, int number, const BookPa
                 {{{graph.string(), true}}, 12, store.context().translate(kGraphLabel)},
                 bookPageFile(folder, number)};
   if (!maker.drawPicturePage(page, error)) return false;
-  pages.push_back(std::move(page));
+  keep(std::move(page), pages, options);
   return true;
 }
 
@@ -120,7 +126,7 @@ std::optional<std::vector<BookPage>> prepareBook(Store& store, const BookRequest
   for (const int number : {1, 2}) {
     auto page = coverPage(context, dic, number, folder, error);
     if (!page) return std::nullopt;
-    pages.push_back(std::move(*page));
+    keep(std::move(*page), pages, options);
   }
   const List listData = loadConstList(store, 0, std::nullopt);
   const Date from = dic["dat1"].asDate().value_or(context.clock().now());
@@ -139,6 +145,17 @@ std::optional<std::vector<BookPage>> prepareBook(Store& store, const BookRequest
       !addGraphPage(store, r.gid, next, maker, settings, options, folder, pages, error))
     return std::nullopt;
   return pages;
+}
+
+bool redrawPicturePage(Store& store, int kind, const BookOptions& options, BookPage& page,
+                       std::string* error) {
+  const Context& context = store.context();
+  const PdfSettings settings = bookSettings(context, kInnerPage, kind);
+  const RowPainter rows(context, settings, options.imagesDir,
+                        loadConstList(store, 0, std::nullopt));
+  const BookPageMaker maker(context, settings, rows, kind, bookPictures(context),
+                            bookFolder(context));
+  return maker.drawPicturePage(page, error);
 }
 
 bool makeBook(Store& store, const BookRequest& request, const BookOptions& options,

@@ -1,5 +1,7 @@
 #include "reports/book_layouts.h"
 
+#include <algorithm>
+
 namespace lad::report {
 
 namespace {
@@ -102,6 +104,20 @@ int chooseLayout(int count, int kind) {
 
 int layoutCapacity(int layout) {
   return layout / 10;
+}
+
+std::vector<int> layoutChoices(int count) {
+  static constexpr int kLast[] = {0, 12, 23, 33, 41};
+  const int n = std::min(count, 4);
+  std::vector<int> choices;
+  for (int layout = n * 10; n > 0 && layout <= kLast[n]; ++layout) choices.push_back(layout);
+  return choices;
+}
+
+int snapLayout(int layout, int count) {
+  const std::vector<int> choices = layoutChoices(count);
+  if (choices.empty() || std::ranges::find(choices, layout) != choices.end()) return layout;
+  return choices.front();
 }
 
 std::optional<Rect> layoutRect(int layout, int pos, draw::Size page, double ot) {

@@ -4,6 +4,7 @@
 #pragma once
 
 #include <optional>
+#include <vector>
 
 #include "drawing/geometry.h"
 
@@ -14,6 +15,14 @@ int chooseLayout(int count, int kind);
 
 // How many photos the layout holds.
 int layoutCapacity(int layout);
+
+// The layouts offered for a page of that many photos in use (more than four count as four):
+// 10 to 12, 20 to 23, 30 to 33, or 40 and 41; none for no photo.
+std::vector<int> layoutChoices(int count);
+
+// imageLocation: the layout kept when the count of photos in use changes; one that does not
+// hold that count snaps to the first offered for it.
+int snapLayout(int layout, int count);
 
 // The rectangle of the position (from 1) in the layout on a page of the size; nullopt for a
 // position the layout does not have, and for every position of a layout that places nothing.

@@ -9,6 +9,7 @@
 #include "server/compression.h"
 #include "server/connection_loop.h"
 #include "server/static_files.h"
+#include "shell/book/book_screen.h"
 #include "shell/diary/day_cells.h"
 #include "shell/profile_cards.h"
 #include "shell/reminder_feed.h"
@@ -117,6 +118,9 @@ struct HttpServer::Impl {
           session, req.path.substr(std::string_view(shell::kPictureAddress).size())));
     if (get && req.path.starts_with(shell::kFeedAddress))
       return calendarFeed(req.path.substr(shell::kFeedAddress.size()));
+    if (get && req.path.starts_with(shell::kBookAddress))
+      return picture(installation.bookPicture(
+          session, req.path.substr(std::string_view(shell::kBookAddress).size())));
     if (get && req.path.starts_with(shell::kReportAddress))
       return document(installation.report(
           session, req.path.substr(std::string_view(shell::kReportAddress).size())));

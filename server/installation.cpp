@@ -158,6 +158,15 @@ FileReply Installation::report(const std::string& session, const std::string& na
   });
 }
 
+FileReply Installation::bookPicture(const std::string& session, const std::string& name) {
+  return privateFile(session, [&]() -> FileReply {
+    const auto book = app_->book();
+    const auto file = book ? book->shownFile(name) : std::nullopt;
+    if (!file) return {404, {}, "the book on screen has no picture of that name"};
+    return {200, *file, {}};
+  });
+}
+
 void Installation::followCloudFolder(const std::filesystem::path& folder) {
   loop_.call([&] {
     Context& context = app_->context();

@@ -56,6 +56,9 @@ class Installation {
   std::optional<std::string> calendarFeed(std::string_view name);
   // The report the session asked for, once it is made; 404 before and for any other name.
   FileReply report(const std::string& session, const std::string& name);
+  // A picture of the photo book on screen (a page's small copies, a photo of a picture page),
+  // under the same rule; 404 for a name the book does not have.
+  FileReply bookPicture(const std::string& session, const std::string& name);
   // Syncs through the folder from now on, as if it had been chosen on the cloud screen.
   void followCloudFolder(const std::filesystem::path& folder);
   // Where the reports find their pictures.

@@ -19,10 +19,15 @@ constexpr std::chrono::seconds kLockGrace{5};
 Application::Application(ContextOptions options)
     : context_(std::make_unique<Context>(std::move(options))),
       store_(std::make_unique<Store>(*context_)),
-      reports_(std::make_unique<ReportMaker>(*store_)) {
+      reports_(std::make_unique<ReportMaker>(*store_, documents_)) {
   launch(*context_);
   fromOldVersion(*store_);
   correctBackground(context_->values(), context_->values().backgroundId);
+}
+
+void Application::startBook(report::BookRequest request) {
+  book_ = std::make_shared<BookProject>(*store_, documents_, imagesDir_, std::move(request));
+  book_->start();
 }
 
 std::optional<Greeting> Application::takeVersionRecord() {

@@ -14,6 +14,8 @@
 #include "core/context.h"
 #include "health/breast_timer.h"
 #include "health/contraction_timer.h"
+#include "shell/book/book_project.h"
+#include "shell/job_queue.h"
 #include "shell/lock/lock_throttle.h"
 #include "shell/message_box.h"
 #include "shell/reminder_schedule.h"
@@ -72,6 +74,11 @@ class Application {
 
   // The PDF reports, made one after another away from the main thread.
   ReportMaker& reports() { return *reports_; }
+  // The photo book being composed, else null. There is one at a time: its pages share a folder.
+  std::shared_ptr<BookProject> book() const { return book_; }
+  // A new book replaces the one composed before; its pages are drawn on the worker.
+  void startBook(report::BookRequest request);
+  void endBook() { book_.reset(); }
   // The copy of the whole diary into the cloud folder while it runs, else null. It belongs to
   // the installation, so that it goes on when its screen is closed.
   BulkCopy* cloudCopy() { return cloudCopy_.get(); }
@@ -102,8 +109,10 @@ class Application {
   std::uint64_t dataVersion_ = 0;
   ReminderSchedule reminders_;
   std::unique_ptr<BulkCopy> cloudCopy_;
-  std::unique_ptr<ReportMaker> reports_;  // goes first: its worker uses the store
+  std::unique_ptr<ReportMaker> reports_;
+  std::shared_ptr<BookProject> book_;
   std::filesystem::path imagesDir_;
+  JobQueue documents_;  // goes first: its jobs use the store, the reports and the book
 };
 
 }  // namespace lad::shell

@@ -1,5 +1,7 @@
 #include "shell/report_maker.h"
 
+#include <algorithm>
+
 namespace lad::shell {
 
 namespace {
@@ -11,43 +13,19 @@ bool sameRequest(const report::ReportRequest& a, const report::ReportRequest& b)
 
 }  // namespace
 
-ReportMaker::~ReportMaker() {
-  {
-    std::lock_guard lock(mutex_);
-    stopping_ = true;
-  }
-  wake_.notify_all();
-  if (worker_.joinable()) worker_.join();
-}
-
 std::shared_ptr<const ReportJob> ReportMaker::start(const report::ReportRequest& request) {
   std::lock_guard lock(mutex_);
-  if (running_ && sameRequest(running_->request, request)) return running_;
-  for (const auto& job : waiting_)
+  std::erase_if(unfinished_, [](const auto& job) { return job->finished(); });
+  for (const auto& job : unfinished_)
     if (sameRequest(job->request, request)) return job;
   auto job = std::make_shared<ReportJob>();
   job->request = request;
-  waiting_.push_back(job);
-  if (!worker_.joinable()) worker_ = std::thread([this] { work(); });
-  wake_.notify_one();
+  unfinished_.push_back(job);
+  worker_.post([this, job] { make(*job); });
   return job;
 }
 
-void ReportMaker::work() {
-  std::unique_lock lock(mutex_);
-  for (;;) {
-    wake_.wait(lock, [this] { return stopping_ || !waiting_.empty(); });
-    if (stopping_) return;
-    running_ = std::move(waiting_.front());
-    waiting_.pop_front();
-    lock.unlock();
-    make(*running_);
-    lock.lock();
-    running_.reset();
-  }
-}
-
-void ReportMaker::make(ReportJob& job) {
+void ReportMaker::make(ReportJob& job) const {
   job.state = ReportJob::State::Running;
   report::ReportOptions options{imagesDir_, [&job](std::size_t done, std::size_t total) {
                                   job.total = total;

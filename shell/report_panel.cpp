@@ -32,14 +32,25 @@ const char* stateName(ReportJob::State state) {
   return "running";
 }
 
-// Every browser redraws while the report is made, and once more when it is ready. The timer
-// holds the job, not the panel, which may go with its session meanwhile.
-EventResult follow(std::shared_ptr<const ReportJob> job) {
-  EventResult result;
-  if (job->finished()) return result;
-  result.timerDelay = kFollowEvery;
-  result.timer = [job] { return follow(job); };
-  return result;
+// The panel's texts of a document being made, made, or failed.
+struct PanelTexts {
+  const char* caption;
+  const char* running;
+  const char* done;
+  const char* failed;
+};
+
+constexpr PanelTexts kReportTexts{"Сформировать PDF отчет", "Отчет формируется, подождите немного.",
+                                  "Отчет готов. Его можно открыть, сохранить или отправить врачу.",
+                                  "Отчет не удалось сохранить. Попробуйте еще раз немного позже."};
+
+PanelTexts bookTexts(int appid) {
+  return {"Фотокнига", "Фотокнига сохраняется, подождите немного.",
+          isChildEdition(appid) ? "Ваша фотокнига сформирована. Вы можете забрать файл book.pdf "
+                                  "через ITunes в папке документов программы 'Крохомир'."
+                                : "Ваша фотокнига сформирована. Вы можете забрать файл book.pdf "
+                                  "через ITunes в папке документов программы 'Ладанея'.",
+          "Фотокнигу не удалось сохранить. Попробуйте еще раз немного позже."};
 }
 
 }  // namespace
@@ -96,8 +107,14 @@ EventResult ReportPanel::start(ReportKind kind, const std::string& gid, Date day
   request.date = day;
   request.year = report::defaultReportYear(app_.store(), gid);
   request.target = report::defaultReportFile(app_.context(), kind);
-  job_ = app_.reports().start(request);
-  return follow(job_);
+  return follow(app_.reports().start(request));
+}
+
+// Every browser redraws while the document is made, and once more when it is ready. The timer
+// holds the job, not the panel, which may go with its session meanwhile.
+EventResult ReportPanel::follow(std::shared_ptr<const ReportJob> job) {
+  job_ = std::move(job);
+  return redrawUntil([job = job_] { return job->finished(); }, kFollowEvery);
 }
 
 EventResult ReportPanel::close() {
@@ -117,18 +134,19 @@ Value ReportPanel::view() const {
   v.download = context.translate("Скачать");
   v.share = context.translate("Отправить");
   v.close = context.translate("Закрыть");
+  const bool book = job_->document == ReportJob::Document::Book;
+  const PanelTexts texts = book ? bookTexts(context.values().appid) : kReportTexts;
+  v.caption = context.translate(texts.caption);
   if (job_->state == ReportJob::State::Done) {
-    v.caption = context.translate("Просмотр");
-    v.text = context.translate("Отчет готов. Его можно открыть, сохранить или отправить врачу.");
+    if (!book) v.caption = context.translate("Просмотр");
+    v.text = context.translate(texts.done);
     v.file = std::string(kReportAddress) + v.fileName;
   } else if (job_->state == ReportJob::State::Failed) {
-    v.caption = context.translate("Сформировать PDF отчет");
-    v.text = context.translate("Отчет не удалось сохранить. Попробуйте еще раз немного позже.");
+    v.text = context.translate(texts.failed);
   } else {
-    v.caption = context.translate("Сформировать PDF отчет");
-    v.text = v.total > 0 ? fillIn(context.translate("Готово дней: %@ из %@"),
-                                  {std::to_string(v.done), std::to_string(v.total)})
-                         : context.translate("Отчет формируется, подождите немного.");
+    v.text = v.total > 0 && !book ? fillIn(context.translate("Готово дней: %@ из %@"),
+                                           {std::to_string(v.done), std::to_string(v.total)})
+                                  : context.translate(texts.running);
   }
   return v.toValue();
 }

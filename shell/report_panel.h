@@ -41,6 +41,8 @@ class ReportPanel {
   // The panel while a report is followed; null otherwise.
   Value view() const;
   EventResult close();
+  // Follows a document started elsewhere (the photo book being saved).
+  EventResult follow(std::shared_ptr<const ReportJob> job);
   bool shown() const { return job_ != nullptr; }
   // The finished report of this browser under that name, if there is one.
   std::optional<std::filesystem::path> finishedFile(std::string_view name) const;

@@ -25,6 +25,16 @@ struct EventResult {
   static EventResult refused(std::string why) { return {std::move(why)}; }
 };
 
+// Every browser redraws every `every` while the work goes on, and once more when `over` says it
+// is over. The timer holds only what `over` captures, so it may outlive the screen that asked.
+inline EventResult redrawUntil(std::function<bool()> over, std::chrono::milliseconds every) {
+  EventResult result;
+  if (over()) return result;
+  result.timerDelay = every;
+  result.timer = [over = std::move(over), every] { return redrawUntil(over, every); };
+  return result;
+}
+
 class Screen {
  public:
   virtual ~Screen() = default;

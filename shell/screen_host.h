@@ -7,6 +7,7 @@
 
 #include "shell/message_box.h"
 #include "shell/popup.h"
+#include "shell/report_maker.h"
 #include "shell/screen.h"
 
 namespace lad::shell {
@@ -22,6 +23,9 @@ class ScreenHost {
   virtual void push(std::shared_ptr<Screen> screen) = 0;
   virtual void openPopup(std::unique_ptr<Popup> popup, PopupAction action) = 0;
   virtual void showMessage(MessageBox message) = 0;
+  // Follows a document being written on the worker in the report's panel, which offers it for
+  // download once it is there. A host without the panel lets it be written unseen.
+  virtual EventResult followDocument(std::shared_ptr<const ReportJob>) { return {}; }
 };
 
 }  // namespace lad::shell

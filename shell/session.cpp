@@ -4,6 +4,7 @@
 #include <functional>
 
 #include "core/ids.h"
+#include "shell/book/book_kinds.h"
 #include "shell/checks/check_screen.h"
 #include "shell/child/child_dialog.h"
 #include "shell/cloud_screen.h"
@@ -29,6 +30,7 @@ constexpr int kBackgroundRow = 42;
 constexpr int kPasswordSwitch = 52;
 constexpr int kReminderFeedRow = 57;
 constexpr int kReportRow = 21;
+constexpr int kBookRow = 23;
 constexpr int kCloudRow = 38;
 constexpr int kHospitalListsRow = 33;
 
@@ -81,6 +83,9 @@ void Session::addMenuCommands() {
   menu_.onCommand(kReminderFeedRow,
                   showing([this] { push(std::make_shared<ReminderFeedScreen>(app_, *this)); }));
   menu_.onCommand(kReportRow, [this] { return reports_.ask(profileId()); });
+  if (!isCycleEdition(appid))
+    menu_.onCommand(
+        kBookRow, showing([this] { push(std::make_shared<BookKinds>(app_, *this, profileId())); }));
   menu_.onCommand(kHospitalListsRow,
                   showing([this] { push(checks::hospitalListsPage(app_, *this)); }));
   menu_.onCommand(kCloudRow, showing([this] { push(std::make_shared<CloudScreen>(app_, *this)); }));
@@ -143,6 +148,7 @@ Value Session::view() {
     if (auto greeting = app_.takeVersionRecord()) showGreeting(*greeting);
   }
   if (page_ && pagesVersion_ != app_.dataVersion()) reopenPages();
+  popClosed();  // a screen may close by itself, as the book when another browser ends it
   Value screen = lock_             ? lock_->view()
                  : !stack_.empty() ? stack_.back()->view()
                  : page_           ? ringView()

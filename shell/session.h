@@ -69,6 +69,9 @@ class Session : public ScreenHost {
   // A tap may carry the popup's input in "value".
   void openPopup(std::unique_ptr<Popup> popup, PopupAction action) override;
   void showMessage(MessageBox message) override;
+  EventResult followDocument(std::shared_ptr<const ReportJob> job) override {
+    return reports_.follow(std::move(job));
+  }
   // A reminder whose minute came: the box "Напоминание", which gathers those that come
   // together.
   void showReminder(const std::string& text);

@@ -45,7 +45,7 @@ class BookTest : public DayTest {
   std::vector<report::BookPage> prepare(int kind = 1, int year = 0) {
     std::string error;
     const auto pages = report::prepareBook(*store, {kGid, kind, year, report::bookFile(*context)},
-                                           {LADANEYA_IMAGES_DIR, {}}, &error);
+                                           {LADANEYA_IMAGES_DIR, {}, {}}, &error);
     EXPECT_TRUE(pages) << error;
     return pages.value_or(std::vector<report::BookPage>{});
   }
@@ -178,7 +178,7 @@ TEST_F(BookTest, BookPdfHasThePagesAtTheirSizesAndTheCreator) {
   const auto file = report::bookFile(*context);
   EXPECT_EQ(file, context->documentsDir() / "book.pdf");
   std::string error;
-  ASSERT_TRUE(report::makeBook(*store, {kGid, 2, 0, file}, {LADANEYA_IMAGES_DIR, {}}, &error))
+  ASSERT_TRUE(report::makeBook(*store, {kGid, 2, 0, file}, {LADANEYA_IMAGES_DIR, {}, {}}, &error))
       << error;
   renderPages(file, "book");
   const auto pdf = readPdf(file);
@@ -201,7 +201,7 @@ TEST_F(BookTest, BookPdfHasThePagesAtTheirSizesAndTheCreator) {
   // A kind outside 1 to 5 is refused, and a failure half way leaves the book that was there,
   // and no temporary file.
   const auto before = readWholeFile(file);
-  EXPECT_FALSE(report::makeBook(*store, {kGid, 6, 0, file}, {LADANEYA_IMAGES_DIR, {}}, &error));
+  EXPECT_FALSE(report::makeBook(*store, {kGid, 6, 0, file}, {LADANEYA_IMAGES_DIR, {}, {}}, &error));
   EXPECT_EQ(error, "a book's kind is a number from 1 to 5, not 6");
   const auto folder = report::bookFolder(*context);
   EXPECT_FALSE(report::saveBook({folder / "book1.jpg", folder / "book99.jpg"}, file, "x", &error));

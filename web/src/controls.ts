@@ -1,6 +1,7 @@
 // Controls shared by the screens: buttons that send a tap, a year between two buttons, rows
 // that a swipe offers to delete.
 import { element } from './dom.js';
+import { bindInput, photoDataUrl } from './editor.js';
 import type { ButtonNode, YearNode } from './view.js';
 
 /** A button that sends a tap with its id; a disabled one sends nothing. */
@@ -42,4 +43,19 @@ export function addSwipeToDelete(row: HTMLElement, target: string, caption: stri
     startX = null;
     if (Math.abs(dx) >= SWIPE_DISTANCE_PX) row.classList.toggle('swiped', dx < 0);
   });
+}
+
+/** A button that takes a picture from the camera or the album and sends it. */
+export function renderPictureInput(caption: string, target: string, camera: boolean): HTMLElement {
+  const label = element('label', 'action day-photo-input', caption);
+  const input = element('input', 'editor-photo-input');
+  input.type = 'file';
+  input.accept = 'image/*';
+  if (camera) input.setAttribute('capture', 'environment');
+  bindInput(input, target, () => {
+    const file = input.files?.[0];
+    return file ? photoDataUrl(file) : null;
+  });
+  label.append(input);
+  return label;
 }

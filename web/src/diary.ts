@@ -1,9 +1,9 @@
 // The diary on screen: the list of days with its search, year and sections, and the editor of
 // one day. The list comes a window at a time: when an end of it comes near, it asks for more.
-import { addSwipeToDelete, renderButton, renderYear } from './controls.js';
+import { addSwipeToDelete, renderButton, renderPictureInput, renderYear } from './controls.js';
 import { renderCycleMark } from './cycle.js';
 import { element } from './dom.js';
-import { bindInput, bindTyped, photoDataUrl } from './editor.js';
+import { bindTyped } from './editor.js';
 import { renderIcon, renderPicture } from './pictures.js';
 import type {
   DayCellNode,
@@ -191,25 +191,10 @@ function renderPhoto(photo: DayEditorNode['photo']): HTMLElement {
   else box.append(renderIcon('clear-photo2.png', 'day-photo-picture'));
   const buttons = element('div', 'buttons day-photo-buttons');
   buttons.append(
-    pictureInput(photo.camera.caption, photo.change, true),
-    pictureInput(photo.album.caption, photo.change, false),
+    renderPictureInput(photo.camera.caption, photo.change, true),
+    renderPictureInput(photo.album.caption, photo.change, false),
     renderButton(photo.clear),
   );
   box.append(buttons);
   return box;
-}
-
-/** A button that takes a picture from the camera or the album and sends it. */
-function pictureInput(caption: string, target: string, camera: boolean): HTMLElement {
-  const label = element('label', 'action day-photo-input', caption);
-  const input = element('input', 'editor-photo-input');
-  input.type = 'file';
-  input.accept = 'image/*';
-  if (camera) input.setAttribute('capture', 'environment');
-  bindInput(input, target, () => {
-    const file = input.files?.[0];
-    return file ? photoDataUrl(file) : null;
-  });
-  label.append(input);
-  return label;
 }

@@ -1,4 +1,5 @@
 // Turns a view description into DOM. All text shown comes from the description itself.
+import { renderBook } from './book.js';
 import { addSwipeToDelete, renderButton } from './controls.js';
 import { renderCycleCalendar } from './cycle.js';
 import { renderDayEditor, renderDiary } from './diary.js';
@@ -82,6 +83,8 @@ export function render(node: ViewNode): HTMLElement | null {
       return renderContent(node);
     case 'schedule':
       return renderSchedule(node);
+    case 'book':
+      return renderBook(node);
     default:
       return null; // kinds this build does not know are skipped
   }

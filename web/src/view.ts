@@ -519,6 +519,43 @@ export interface ContentNode {
   highlight: number;
 }
 
+/** A page of the photo book as a thumbnail; a picture page can be deleted and edited. */
+export interface BookPage {
+  id: string;
+  label: string;
+  picture: string;
+  deleteId?: string;
+  editId?: string;
+}
+
+/** The editor of a picture page: which photos, in which order, their line and layout. */
+export interface BookEdit {
+  caption: string;
+  photos: Array<{ id: string; picture: string; use: boolean; earlier?: string }>;
+  labelId: string;
+  label: string;
+  placeholder: string;
+  layoutsCaption: string;
+  layouts: Array<{ id: string; icon: string; chosen: boolean }>;
+  ok: ButtonNode;
+  cancel: ButtonNode;
+}
+
+/** The photo book: its pages as they are drawn, one opened large, a picture page edited. */
+export interface BookNode {
+  kind: 'book';
+  caption: string;
+  status: string;
+  busy: boolean;
+  pages: BookPage[];
+  large?: { label: string; picture: string; close: ButtonNode };
+  edit?: BookEdit;
+  addId: string;
+  addCaption: string;
+  save: ButtonNode;
+  close: ButtonNode;
+}
+
 /** What a page of the ring can be. */
 export type RingPageNode = PageNode | DiaryNode | CycleCalendarNode;
 
@@ -550,7 +587,8 @@ export type ViewNode =
   | MovieNode
   | HintPictureNode
   | ContentNode
-  | ScheduleNode;
+  | ScheduleNode
+  | BookNode;
 
 /**
  * What the server sends: the screen on top, with a popup and a message over it while open,
