@@ -67,10 +67,11 @@ TEST_F(ChildDialogTest, ANewChildIsSavedWithEveryKeyOfItsDialog) {
   EXPECT_EQ(saved["blood"].text(), kBlood);
   EXPECT_EQ(saved["allerg"].text(), kEgg + "<tr>" + kFish);
 
-  // Each child has a card, in the order of birth (the card's lines are the menu's own).
+  // Each child has a card with its birth date and age, in the order of birth.
   const Value menu = MainMenu(app->context(), app->store()).view();
   const List& children = *menu["children"].asList();
   EXPECT_EQ(children[0]["name"].text(), "Лев");
+  EXPECT_EQ(children[0]["lines"], Value(List{Value("02.11.2026"), Value("21 день")}));
   EXPECT_EQ(children[1]["name"].text(), "Без имени");
 }
 
