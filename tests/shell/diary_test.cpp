@@ -209,9 +209,9 @@ TEST_F(DiaryTest, TheCyclesDayTypeIsOneOfSixAndAnOrdinaryDayKeepsNoRecord) {
   EXPECT_EQ(dayType(), "");
 }
 
-// The medicine form: a course needs its medicine, one the list lacks is added in the chooser,
-// and an hour set by hand stands while hours the course does not have are refused. Where the
-// course lands is the store's; its journey over seven days is the browser test's.
+// The medicine form: its defaults, a course needs its medicine, one the list lacks is added in
+// the chooser, and an hour set by hand stands while hours the course does not have are refused.
+// Where the course lands is the store's; its journey over seven days is the browser test's.
 TEST_F(DiaryTest, TheMedicineFormNeedsItsMedicineAndKeepsAnHourSetByHand) {
   const auto pick = [&](Session& s, List positions) {
     Map m;
@@ -222,6 +222,9 @@ TEST_F(DiaryTest, TheMedicineFormNeedsItsMedicineAndKeepsAnHourSetByHand) {
   };
   auto s = todayEditor();
   ASSERT_TRUE(tap(*s, rowTarget(*s, "ne-pills128.png")).ok());
+  // A new course is daily and regardless of meals until told otherwise.
+  EXPECT_EQ(rowWith(*s, "field", "pillperiod")["shown"].text(), "Ежедневно");
+  EXPECT_EQ(rowWith(*s, "field", "pilleat")["shown"].text(), "Независимо от еды");
   ASSERT_TRUE(tap(*s, "editor:ok").ok());
   EXPECT_EQ(s->view()["message"]["text"].text(), "Поле 'Выбор лекарства' не заполнено!");
   ASSERT_TRUE(tap(*s, "message:ok").ok());
