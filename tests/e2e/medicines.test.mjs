@@ -1,8 +1,8 @@
 // Browser test of a medicine course: written in the day editor for a week with its first hour a
 // few minutes ahead, it stands on each of the seven days, its intake comes at its minute of the
-// server's test clock, the calendar feed holds it with its alarm (read by a real iCalendar
-// parser), and taken out on one day it leaves every day. Screenshots of the medicine form and
-// the feed's page at phone and tablet size.
+// server's test clock as the box "Напоминание" in the open page, the calendar feed holds it with its alarm (read by a real iCalendar
+// parser), and taken out on one day it leaves every day. Screenshots of the medicine form, the
+// reminder's box and the feed's page at phone and tablet size.
 //   node tests/e2e/medicines.test.mjs --server PATH_TO_SERVER --out SCREENSHOT_DIR
 import assert from 'node:assert/strict';
 import { execFileSync } from 'node:child_process';
@@ -117,6 +117,7 @@ await runBrowserTest('medicines', async ({ browser, executable, outDir }) => {
       await page.waitForSelector('.message');
       assert.equal(await page.textContent('.message-caption'), 'Напоминание');
       assert.match(await page.textContent('.message-text'), new RegExp(`^${MEDICINE}: 3 `));
+      await page.screenshot({ path: path.join(outDir, 'reminder.png') });
       await page.tap('.message button');
 
       await page.tap('.ring-page .to-menu');

@@ -14,10 +14,7 @@ import {
 
 const NOT_BUILT_ROW = 'menu:9';
 const SWITCH_ROW = 'menu:51';
-const SWITCH_TEXT = 'Не показывать в дневнике пустые дни';
 const SWITCH = `[data-id="${SWITCH_ROW}"] .switch`;
-// What the German installation shows (from the translation table).
-const GERMAN = { close: 'Loslegen', firstRow: 'Heute' };
 
 /** The manifest's icons are served (its shortcuts are the C++ suite's). */
 async function checkManifest(base) {
@@ -109,9 +106,7 @@ async function checkMenuRows(page) {
 
   const notBuilt = drawn.find((row) => row.id === NOT_BUILT_ROW);
   assert.ok(notBuilt && !notBuilt.enabled, `${NOT_BUILT_ROW} is drawn disabled`);
-  const switchRow = drawn.find((row) => row.id === SWITCH_ROW);
-  assert.equal(switchRow?.text, SWITCH_TEXT, `${SWITCH_ROW} text`);
-  assert.ok(switchRow.enabled, `${SWITCH_ROW} is enabled`);
+  assert.ok(drawn.find((row) => row.id === SWITCH_ROW)?.enabled, `${SWITCH_ROW} is enabled`);
 
   const heights = (await boxesOf(page, '.row')).map((box) => box.height);
   assert.ok(
@@ -169,7 +164,6 @@ async function passWelcome(context, base, outDir, name) {
   page.setDefaultTimeout(STEP_TIMEOUT_MS);
   await page.goto(`${base}/`);
   await page.waitForSelector('.welcome');
-  const welcome = { close: await page.textContent('.welcome-footer button') };
   assert.equal(
     await page.title(),
     await page.textContent('.welcome-caption'),
@@ -184,11 +178,11 @@ async function passWelcome(context, base, outDir, name) {
   await page.screenshot({ path: path.join(outDir, `${name}.png`), fullPage: true });
   await page.tap('.welcome-footer button');
   await page.waitForSelector('.row[data-id]');
-  return { page, welcome };
+  return page;
 }
 
 async function checkGreetingOnce(context, base, outDir) {
-  const { page } = await passWelcome(context, base, outDir, 'welcome');
+  const page = await passWelcome(context, base, outDir, 'welcome');
   await page.reload();
   await page.waitForSelector('.row[data-id]');
   assert.equal(await page.$('.welcome'), null, 'the greeting does not come again');
@@ -200,11 +194,9 @@ async function checkGerman(browser, executable, outDir) {
     executable,
     async ({ base }) => {
       const context = await browser.newContext(PHONE);
-      const { page, welcome } = await passWelcome(context, base, outDir, 'welcome-de');
-      assert.equal(welcome.close, GERMAN.close, 'the closing button in German');
+      // What the German texts are is the translation table's: here, the screens drawn.
+      const page = await passWelcome(context, base, outDir, 'welcome-de');
       await openCard(page);
-      const first = await page.textContent('.row .caption');
-      assert.equal(first, GERMAN.firstRow, 'the first menu row in German');
       await page.screenshot({ path: path.join(outDir, 'menu-de.png'), fullPage: true });
       await context.close();
     },

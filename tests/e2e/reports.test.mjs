@@ -44,12 +44,6 @@ function fetchHead(page, address) {
 async function checkDevice(browser, base, device, name, outDir) {
   const { context, page, errors } = await openPastGreeting(browser, base, { device });
   await askForReport(page);
-  const captions = await page.locator('.popup-cover button').allTextContents();
-  for (const wanted of ['Вся беременность', 'Отчет по давлению', 'Отчет по жидкости', 'Отменить'])
-    assert.ok(
-      captions.some((c) => c.includes(wanted)),
-      `the choice offers ${wanted}`,
-    );
   await page.screenshot({ path: path.join(outDir, `reports-choice-${name}.png`) });
 
   await choose(page, 'Вся беременность');
@@ -73,7 +67,6 @@ async function checkDevice(browser, base, device, name, outDir) {
   await askForReport(page);
   await choose(page, 'Отчет по давлению');
   await page.waitForSelector('.popup-cover .wheel');
-  assert.match(await page.locator('.popup-cover').innerText(), /Укажите дату отчета/);
   await page.screenshot({ path: path.join(outDir, `reports-date-${name}.png`) });
   await page.tap('.popup-cover button[data-id="popup:1"]');
   const pressure = await finishedReport(page);

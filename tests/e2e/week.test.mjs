@@ -1,11 +1,10 @@
 // Browser test of a pregnancy's week pages: for a pregnancy in week 12 and one in week 30, the
-// today page shows the week's cards, its moving picture and only that week's texts for mother
-// and child; the baby page marks the week in an organ's text; the woman's page shows the body of
-// the month with its named parts, the fruit line and the graphs, and opens the child's size by
-// week at the present week. Screenshots at phone and tablet size.
+// today page plays the week's moving picture and snaps its screens one at a time; the baby page
+// dims the weeks to come and marks the week in an organ's text; the woman's page shows the body
+// of the month with its named parts and graphs, and opens the child's size by week at the
+// present week. What the pages hold is the C++ suite's. Screenshots at phone and tablet size.
 //   node tests/e2e/week.test.mjs --server PATH_TO_SERVER --out SCREENSHOT_DIR
 import assert from 'node:assert/strict';
-import fs from 'node:fs';
 import path from 'node:path';
 import {
   PHONE,
@@ -18,22 +17,9 @@ import {
 
 // Week 12 is day 81 of the pregnancy, week 30 day 204: the first day lies that many days back.
 const PREGNANCIES = [
-  { name: 'Неделя двенадцать', week: 12, daysAgo: 80, month: 3, fruit: 'лайм', frames: '12w' },
-  { name: 'Неделя тридцать', week: 30, daysAgo: 203, month: 7, fruit: 'капусты', frames: '30w' },
+  { name: 'Неделя двенадцать', week: 12, daysAgo: 80, month: 3, frames: '12w' },
+  { name: 'Неделя тридцать', week: 30, daysAgo: 203, month: 7, frames: '30w' },
 ];
-
-/** The body lines (kind 4) of a group of a content file, read as the server's files hold it. */
-function bodyLines(name, group) {
-  const file = path.join('resources/content', `${name}.txt`);
-  const lines = [];
-  let current = 0;
-  for (const record of fs.readFileSync(file, 'utf8').trim().split('<br>')) {
-    const fields = Object.fromEntries(record.split('<tr>').map((f) => f.split('<val>')));
-    if ('groupid' in fields) current = Number.parseInt(fields.groupid, 10);
-    if (current === group && Number.parseInt(fields.tp, 10) === 4) lines.push(fields.text);
-  }
-  return lines;
-}
 
 /** Slides the page in front aside, if there is one. */
 async function toMenu(page) {
@@ -61,19 +47,7 @@ const picturesLoaded = (page, selector) =>
 
 async function checkToday(page, p) {
   await openPage(page, 1, '.content[data-content="woman"] .content-row');
-  const [trimester, week, , fromConception] = await texts(page, '.fact-value');
-  assert.equal(trimester, p.week > 26 ? '3' : '1');
-  assert.equal(week, String(p.week));
-  assert.equal(fromConception, String(p.week - 2));
-  assert.match((await texts(page, '.fact'))[4], /\d+\.\d гр\.\n\d+\.\d мм\./);
-  assert.deepEqual(
-    await texts(page, '.content[data-content="woman"] .content-text'),
-    bodyLines('woman-u', p.week),
-  );
-  assert.deepEqual(
-    await texts(page, '.content[data-content="child"] .content-text'),
-    bodyLines('child-u', p.week),
-  );
+  assert.equal((await texts(page, '.fact-value'))[1], String(p.week));
   const movie = page.locator('.ring-page img.movie');
   assert.match(await movie.getAttribute('src'), new RegExp(`/${p.frames}001\\.jpg$`));
   await page.waitForFunction(() => document.querySelector('img.movie')?.dataset.frame === '3');
@@ -118,11 +92,6 @@ async function checkWoman(page, p) {
   assert.match(await body.getAttribute('src'), new RegExp(`/wom-${p.month}\\.png$`));
   await page.waitForFunction(() => document.querySelector('.hint-image')?.naturalWidth > 0);
   assert.ok((await page.locator('.ring-page .hint').count()) >= 6, 'the named parts');
-  assert.match((await texts(page, '[data-info="fruit"]'))[0] ?? '', new RegExp(p.fruit));
-  assert.ok(
-    (await texts(page, '.section')).includes('Прибавка в весе (килограммы)'),
-    'the weight graph',
-  );
   assert.equal(await page.locator('.ring-page svg').count(), 2, 'the weight graph and the wheel');
 }
 

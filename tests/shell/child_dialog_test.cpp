@@ -70,13 +70,9 @@ TEST_F(ChildDialogTest, ANewChildIsSavedWithEveryKeyOfItsDialog) {
   // Each child has a card with its birth date and age, in the order of birth.
   const Value menu = MainMenu(app->context(), app->store()).view();
   const List& children = *menu["children"].asList();
-  ASSERT_EQ(children[0]["kind"].text(), "card");
   EXPECT_EQ(children[0]["name"].text(), "Лев");
-  EXPECT_EQ(children[0]["sex"].text(), "b-pic.png");
-  EXPECT_EQ((*children[0]["lines"].asList())[0].text(), "02.11.2026");
-  EXPECT_EQ((*children[0]["lines"].asList())[1].text(), "21 день");
+  EXPECT_EQ(children[0]["lines"], Value(List{Value("02.11.2026"), Value("21 день")}));
   EXPECT_EQ(children[1]["name"].text(), "Без имени");
-  EXPECT_EQ((*children[1]["lines"].asList())[1].text(), "Только что родился");
 }
 
 TEST_F(ChildDialogTest, ABirthTimeThatIsNoClockKeepsTheStoredOneAndTheRestIsSaved) {

@@ -68,21 +68,15 @@ TEST_F(ContractionScreenTest, TrendListAndSwipeToDelete) {
   time(*s, 300s, 45s);
   time(*s, 290s, 50s);
   time(*s, 280s, 55s);
-  Value page = s->view()["page"];
-  EXPECT_EQ((*child(page, "text"))["regim"].intValue(), 3);
-  EXPECT_EQ((*child(page, "text"))["text"].text().rfind("Внимание! Частота схваток", 0), 0u);
+  EXPECT_EQ((*child(s->view()["page"], "text"))["regim"].intValue(), 3);
 
-  // A pause of more than an hour opens a second group.
+  // A pause of more than an hour opens a second group (its texts are the series' own).
   time(*s, 3601s, 30s);
-  page = s->view()["page"];
+  Value page = s->view()["page"];
   ASSERT_TRUE(child(page, "section", 1));
   const Value& lastGroup = *child(page, "list", 1);
   ASSERT_EQ(lastGroup["rows"].asList()->size(), 1u);
   const Value& row = lastGroup["rows"].asList()->at(0);
-  EXPECT_EQ(row["caption"].text(), "00:30");
-  EXPECT_NE(row["comment"].text().find("первая схватка в группе"), std::string::npos);
-  const Value& second = (*child(page, "list"))["rows"].asList()->at(1);
-  EXPECT_NE(second["comment"].text().find("через 05:00"), std::string::npos);
 
   // Deleting the only contraction of a group removes its section.
   ASSERT_TRUE(tap(*s, row["deleteTarget"].text()).ok());

@@ -52,10 +52,6 @@ TEST_F(DiaryTest, ADayRecordedInTheEditorIsListedUnderItsWeekAndFoundBySearch) {
   ASSERT_TRUE(change(*s, rowTarget(*s, "ne-weight.png", "day:number:"), Value("60,5")).ok());
 
   ASSERT_TRUE(tap(*s, rowTarget(*s, "ne-notepad.png")).ok());
-  const Value form = s->view();
-  ASSERT_EQ(form["kind"].text(), "editor");
-  EXPECT_EQ(form["caption"].text(), "Заметки");
-  EXPECT_EQ((*form["rows"].asList())[0]["caption"].text(), "Введите текст заметки");
   ASSERT_TRUE(change(*s, "field:text", Value("Первое шевеление")).ok());
   ASSERT_TRUE(tap(*s, "editor:ok").ok());
 
@@ -213,15 +209,10 @@ TEST_F(DiaryTest, TheCyclesDayTypeIsOneOfSixAndAnOrdinaryDayKeepsNoRecord) {
   EXPECT_EQ(dayType(), "");
 }
 
-// The medicine form: its choices read by name, the hours follow the count until set by hand,
-// and the course written on one day stands on each of its days until it is deleted on any one.
-TEST_F(DiaryTest, ACourseFromTheMedicineFormStandsOnEachOfItsDaysUntilDeletedOnAnyOne) {
-  const auto courseDays = [&] {
-    StoreBracket bracket = app->store().connectToBase();
-    auto q = bracket.db()->prepare("select count(*) from pregdata where type='pills'");
-    return q.step() ? q.columnInt(0) : -1;
-  };
-  const auto row = [](Session& s, const std::string& field) { return rowWith(s, "field", field); };
+// The medicine form: its defaults, a course needs its medicine, one the list lacks is added in
+// the chooser, and an hour set by hand stands while hours the course does not have are refused.
+// Where the course lands is the store's; its journey over seven days is the browser test's.
+TEST_F(DiaryTest, TheMedicineFormNeedsItsMedicineAndKeepsAnHourSetByHand) {
   const auto pick = [&](Session& s, List positions) {
     Map m;
     m.set("type", "tap");
@@ -230,48 +221,30 @@ TEST_F(DiaryTest, ACourseFromTheMedicineFormStandsOnEachOfItsDaysUntilDeletedOnA
     return s.handle(Value(std::move(m)));
   };
   auto s = todayEditor();
-  const std::string pills = rowTarget(*s, "ne-pills128.png");
-  ASSERT_TRUE(tap(*s, pills).ok());
-  ASSERT_EQ(s->view()["caption"].text(), "Лекарства");
-  EXPECT_EQ(row(*s, "pillname")["shown"].text(), "пусто");
-  EXPECT_EQ(row(*s, "pillperiod")["shown"].text(), "Ежедневно");
-  EXPECT_EQ(row(*s, "pilleat")["shown"].text(), "Независимо от еды");
+  ASSERT_TRUE(tap(*s, rowTarget(*s, "ne-pills128.png")).ok());
+  // A new course is daily and regardless of meals until told otherwise.
+  EXPECT_EQ(rowWith(*s, "field", "pillperiod")["shown"].text(), "Ежедневно");
+  EXPECT_EQ(rowWith(*s, "field", "pilleat")["shown"].text(), "Независимо от еды");
   ASSERT_TRUE(tap(*s, "editor:ok").ok());
   EXPECT_EQ(s->view()["message"]["text"].text(), "Поле 'Выбор лекарства' не заполнено!");
   ASSERT_TRUE(tap(*s, "message:ok").ok());
 
-  // A medicine the list lacks is added in the chooser and chosen.
   ASSERT_TRUE(tap(*s, "field:pillname").ok());
   ASSERT_TRUE(tap(*s, "field:add").ok());
   ASSERT_TRUE(change(*s, "field:name", Value("Магний B6")).ok());
   ASSERT_TRUE(tap(*s, "editor:ok").ok());
   ASSERT_TRUE(tap(*s, "editor:ok").ok());
-  EXPECT_EQ(row(*s, "pillname")["shown"].text(), "Магний B6");
+  EXPECT_EQ(rowWith(*s, "field", "pillname")["shown"].text(), "Магний B6");
 
-  // Four times a day over the waking hours, then the second hour moved by hand.
   ASSERT_TRUE(tap(*s, "field:pillinter").ok());
-  ASSERT_EQ(s->view()["popup"]["caption"].text(), "Укажите количество приемов");
   ASSERT_TRUE(pick(*s, List{Value(3), Value(0)}).ok());
-  EXPECT_EQ(row(*s, "pillinter")["source"].text(), "4<td>раз в день");
-  EXPECT_EQ(row(*s, "pilltime")["source"].text(), "08:00<td>12:30<td>17:15<td>22:00");
   ASSERT_TRUE(tap(*s, "field:pilltime:1").ok());
   ASSERT_TRUE(pick(*s, List{Value(13), Value(5)}).ok());
-  EXPECT_EQ(row(*s, "pilltime")["source"].text(), "08:00<td>13:05<td>17:15<td>22:00");
+  EXPECT_EQ(source(*s, "pilltime"), "08:00<td>13:05<td>17:15<td>22:00");
   EXPECT_FALSE(change(*s, "field:pilltime:4", Value("09:00")).ok()) << "a fifth hour is not there";
   EXPECT_FALSE(change(*s, "field:pilltime:0", Value("25:00")).ok());
   ASSERT_TRUE(tap(*s, "editor:ok").ok());
-  ASSERT_EQ(s->view()["kind"].text(), "dayEditor");
-  ASSERT_TRUE(tap(*s, "day:close").ok());
-  EXPECT_EQ(courseDays(), 7) << "a course of one week from today";
-
-  // Taken out on its third day, the course leaves every day.
-  s = todayEditor();
-  for (int step = 0; step < 2; ++step) ASSERT_TRUE(tap(*s, "day:next").ok());
-  const std::string line = rowTarget(*s, "ne-pills128.png", "day:line:") + ":0";
-  ASSERT_TRUE(tap(*s, line).ok());
-  ASSERT_TRUE(tap(*s, "popup:1").ok());  // "Удалить"
-  ASSERT_TRUE(tap(*s, "day:close").ok());
-  EXPECT_EQ(courseDays(), 0);
+  EXPECT_EQ(s->view()["kind"].text(), "dayEditor");
 }
 
 TEST(TextFold, LatinAndRussianLettersFoldAndYoReadsAsYe) {

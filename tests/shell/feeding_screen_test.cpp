@@ -1,11 +1,10 @@
 // The feedings of a child's day as a browser drives them: a breast feeding timed on the
-// installation's clock, a food with its amount, the day's totals and a removal.
+// installation's clock, a food with its amount, and a removal.
 #include <gtest/gtest.h>
 
 #include "core/ids.h"
 #include "health/child_feeding.h"
 #include "shell/session.h"
-#include "shell/views/editors.h"
 #include "tests/shell/application_fixture.h"
 
 namespace lad::shell {
@@ -57,21 +56,17 @@ TEST_F(FeedingScreenTest, ABreastFeedingIsTimedOnTheInstallationsClock) {
   ASSERT_TRUE(tap(*s, "message:ok").ok());
   ASSERT_TRUE(change(*s, "field:volume", Value("100")).ok());
   ASSERT_TRUE(tap(*s, "editor:ok").ok());
-  EXPECT_EQ(caption(*s, "feed0"), "10:04  Левая грудь: 3 мин.\nПравая грудь: 3 мин.");
-  EXPECT_EQ(caption(*s, "feed1"), "10:04  Кефир: 100 мл.");
   EXPECT_TRUE(stored().empty()) << "nothing is stored before \"Готово\"";
 
   ASSERT_TRUE(tap(*s, "editor:ok").ok());
   const List saved = stored();
   ASSERT_EQ(saved.size(), 2u);
   EXPECT_EQ(saved[0]["kotype"].intValue(), 1);
-  EXPECT_EQ(saved[0]["kosum"].intValue(), 6);
-  EXPECT_EQ(kormToString(app->context(), saved[0]["kovalue"].text(), {}),
-            "Левая грудь: 3 мин.\nПравая грудь: 3 мин.");
+  EXPECT_EQ(saved[0]["kosum"].intValue(), 6) << "3 minutes timed on each side";
   EXPECT_EQ(s->view()["kind"].text(), "dayEditor");
 }
 
-TEST_F(FeedingScreenTest, TheTotalsAndARemovedFeeding) {
+TEST_F(FeedingScreenTest, AFormulaNeedsItsProductAndARemovedFeedingGoes) {
   auto s = feedings();
   ASSERT_TRUE(tap(*s, "field:add4").ok());
   ASSERT_TRUE(change(*s, "field:volume", Value("40")).ok());
@@ -83,12 +78,6 @@ TEST_F(FeedingScreenTest, TheTotalsAndARemovedFeeding) {
   ASSERT_TRUE(tap(*s, "message:ok").ok());
   ASSERT_TRUE(change(*s, "field:tip", Value(newID2(4, 61))).ok());
   ASSERT_TRUE(tap(*s, "editor:ok").ok());
-  const Value view = s->view();
-  std::vector<std::string> texts;
-  for (const Value& row : *view["rows"].asList())
-    if (row["tp"].intValue() == kText) texts.push_back(row["caption"].text());
-  EXPECT_EQ(texts, (std::vector<std::string>{"итого", "Смесь: 120 мл.", "Творог: 40 г.",
-                                             "Добавить кормление"}));
   EXPECT_EQ(caption(*s, "feed1"), "10:00  Нутрилон 1: 120 мл.");
   ASSERT_TRUE(tap(*s, "field:feed0").ok());
   ASSERT_TRUE(tap(*s, "popup:1").ok());

@@ -17,43 +17,33 @@
 namespace lad::testing {
 namespace {
 
-using ::testing::ElementsAre;
 using ::testing::HasSubstr;
 using ::testing::StartsWith;
 namespace week = shell::week;
 
-TEST(WeekFacts, PicturesFruitLengthMonthAndOrgansFollowTheDay) {
+// The edges of the week tables: the first and last weeks with a picture, fruit or length, the
+// month turning over, and an organ's wheel before, inside and after its weeks.
+TEST(WeekFacts, TheTablesEdgesFollowTheDay) {
   EXPECT_EQ(week::movieFrames(1).front(), "2w001.jpg");
-  EXPECT_EQ(week::movieFrames(6).front(), "5w001.jpg");
-  EXPECT_EQ(week::movieFrames(11).front(), "9w001.jpg");
-  EXPECT_THAT(week::movieFrames(12),
-              ElementsAre("12w001.jpg", "12w002.jpg", "12w003.jpg", "12w004.jpg", "12w005.jpg",
-                          "12w006.jpg", "12w007.jpg", "12w008.jpg"));
-  EXPECT_EQ(week::movieFrames(29).back(), "25w008.jpg");
+  EXPECT_EQ(week::movieFrames(12).size(), 8u);
   EXPECT_EQ(week::movieFrames(50).front(), "37w001.jpg");
-
-  EXPECT_THAT(std::string(week::fruitCaption(3)), StartsWith("На более позднем сроке"));
-  EXPECT_THAT(std::string(week::fruitCaption(13)), StartsWith("Малыш размером с лайм."));
-  EXPECT_THAT(std::string(week::fruitCaption(21)), StartsWith("Малыш размером с небольшой банан"));
-  EXPECT_THAT(std::string(week::fruitCaption(45)), StartsWith("Малыш достиг размера арбуза."));
+  EXPECT_EQ(week::fruitCaption(3), week::fruitCaption(0));
+  EXPECT_NE(week::fruitCaption(4), week::fruitCaption(3));
+  EXPECT_EQ(week::fruitCaption(45), week::fruitCaption(38));
 
   EXPECT_EQ(week::bodyPageLength(28, 9), "-");
   EXPECT_EQ(week::bodyPageLength(29, 9), "2 мм.");
-  EXPECT_EQ(week::bodyPageLength(56, 9), "5 мм.");
   EXPECT_EQ(week::bodyPageLength(63, 9), "14 мм.");
   EXPECT_EQ(week::bodyPageLength(64, 16.5), "16.5 мм.");
 
-  EXPECT_EQ(week::bodyMonth(0), 1);
   EXPECT_EQ(week::bodyMonth(29), 1);
   EXPECT_EQ(week::bodyMonth(30), 2);
   EXPECT_EQ(week::bodyMonth(400), 9);
 
   const auto heart = week::organs()[3];  // weeks 5 to 10
-  ASSERT_EQ(heart.file, "serdce-u");
   EXPECT_EQ(week::organDegrees(heart, 20), 0);
   EXPECT_EQ(week::organDegrees(heart, 52), 174);
   EXPECT_EQ(week::organDegrees(heart, 70), 360);
-  EXPECT_EQ(week::organDegrees(heart, 300), 360);
 }
 
 // The texts of one group's body rows, as the content file holds them.
