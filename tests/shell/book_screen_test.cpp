@@ -1,0 +1,146 @@
+// The photo book on screen, through a browser's session: the kinds, the pages as they come, a
+// picture page edited, one deleted, one added from a photo, and the book saved.
+#include <gmock/gmock.h>
+
+#include <thread>
+
+#include "core/atomic_file.h"
+#include "store/day_photo.h"
+#include "tests/fixtures/diary_generator.h"
+#include "tests/shell/application_fixture.h"
+
+namespace lad::testing {
+namespace {
+
+using ::testing::ElementsAre;
+using ::testing::HasSubstr;
+
+constexpr const char* kGid = "BOOK-PROFILE";
+
+class BookScreenTest : public ApplicationTest {
+ protected:
+  void SetUp() override {
+    launchApp(1);
+    const DateCodec& dates = app->context().dates();
+    const Date first = dates.encodeDate(5, 1, 2026);
+    addPregnancy(app->store(), kGid, first, "60");
+    // Five days of photos and nothing else: a picture page of four, then one of one.
+    for (int d = 1; d <= 5; ++d) {
+      const Image image{320, 240, std::vector<std::uint8_t>(320 * 240 * 3, 40 * d)};
+      ASSERT_TRUE(saveDayPhoto(app->context(), dates.addDays(first, d), kGid, encodeJpeg(image, 80),
+                               nullptr));
+    }
+    session = greetedSession();
+    ASSERT_TRUE(tap(*session, "card:" + std::string(kGid)).ok());
+  }
+  // Runs the redraws the screen asks for until the pages are drawn.
+  static void follow(shell::EventResult result) {
+    while (result.timer) {
+      std::this_thread::sleep_for(result.timerDelay);
+      result = result.timer();
+    }
+  }
+  void open(int kind) {
+    ASSERT_TRUE(tap(*session, "menu:23").ok());
+    ASSERT_EQ(session->view()["kind"].text(), "page");
+    follow(tap(*session, "book:kind:" + std::to_string(kind)));
+    ASSERT_EQ(session->view()["kind"].text(), "book");
+  }
+  std::vector<std::string> labels() {
+    std::vector<std::string> out;
+    const Value view = session->view();
+    for (const Value& p : *view["pages"].asList()) out.push_back(p["label"].text());
+    return out;
+  }
+  const shell::ShownPage& shown(int number) {
+    pages = app->book()->state().pages;
+    for (const auto& p : pages)
+      if (p.page.page == number) return p;
+    throw std::runtime_error("no page " + std::to_string(number));
+  }
+  std::unique_ptr<shell::Session> session;
+  std::vector<shell::ShownPage> pages;
+};
+
+TEST_F(BookScreenTest, PagesComeWithSmallCopiesAndPicturePagesAreEditedDeletedAndAdded) {
+  open(2);
+  // The photos' two pages, then the weight chart of the pregnancy.
+  EXPECT_THAT(labels(),
+              ElementsAre("Суперобложка", "Обложка", "Страница 1", "Страница 2", "Страница 3"));
+  const Value view = session->view();
+  EXPECT_EQ(nth(view["pages"], 2)["picture"].text(), "/doc/book/book3-s.jpg?r=0");
+  EXPECT_FALSE(nth(view["pages"], 0).asMap()->contains("deleteId"));  // only picture pages go
+  EXPECT_TRUE(view["save"]["enabled"].boolValue());
+  for (const char* name : {"book3-s.jpg", "book3-m.jpg", "photo3-3.jpg"})
+    EXPECT_TRUE(app->book()->shownFile(name)) << name;
+  for (const char* name : {"book7-s.jpg", "photo3-4.jpg", "photo3-x.jpg", "../book3-s.jpg"})
+    EXPECT_FALSE(app->book()->shownFile(name)) << name;
+  EXPECT_FALSE(tap(*session, "book:delete:1").ok());
+
+  // Four photos of kind 2 stand in layout 41; two unticked leave the layouts of two, snapped to
+  // the first; the last photo moved up and layout 22 chosen.
+  ASSERT_TRUE(tap(*session, "book:edit:3").ok());
+  auto layouts = [&] {
+    std::vector<std::string> out;
+    const Value view = session->view();
+    for (const Value& l : *view["edit"]["layouts"].asList())
+      out.push_back(l["id"].text() + (l["chosen"].boolValue() ? "*" : ""));
+    return out;
+  };
+  EXPECT_THAT(layouts(), ElementsAre("book:layout:40", "book:layout:41*"));
+  tap(*session, "book:use:0");
+  tap(*session, "book:use:1");
+  EXPECT_THAT(layouts(),
+              ElementsAre("book:layout:20*", "book:layout:21", "book:layout:22", "book:layout:23"));
+  EXPECT_FALSE(tap(*session, "book:layout:41").ok());
+  const std::string last = shown(3).page.picture.images[3].image;
+  ASSERT_TRUE(tap(*session, "book:earlier:3").ok());
+  ASSERT_TRUE(tap(*session, "book:layout:22").ok());
+  ASSERT_TRUE(change(*session, "book:label", Value("Первые дни")).ok());
+  follow(tap(*session, "book:edit-ok"));
+  const shell::ShownPage& edited = shown(3);
+  EXPECT_EQ(edited.revision, 1);
+  EXPECT_EQ(edited.page.picture.tp, 22);
+  EXPECT_EQ(edited.page.picture.images[2].image, last);
+  EXPECT_EQ(edited.page.picture.pagelabelbottom, "Первые дни");
+
+  // The page of one photo goes; the others keep their files. A photo makes a new page 6.
+  const auto fourth = shown(4).page.file;
+  ASSERT_TRUE(tap(*session, "book:delete:4").ok());
+  EXPECT_TRUE(std::filesystem::exists(fourth));
+  EXPECT_THAT(labels(), ElementsAre("Суперобложка", "Обложка", "Страница 1", "Страница 2"));
+  EXPECT_TRUE(change(*session, "book:add", Value("not a picture")).ok());
+  EXPECT_THAT(session->view()["message"]["text"].text(), HasSubstr("фотографию"));
+  tap(*session, "message:ok");
+  follow(change(*session, "book:add", Value(jpegDataUrl(640, 480))));
+  EXPECT_EQ(shown(6).page.picture.tp, 10);
+  EXPECT_EQ(labels().back(), "Страница 3");
+}
+
+TEST_F(BookScreenTest, SavingWritesBookPdfAndTheReportPanelOffersIt) {
+  open(1);
+  // Another browser opens the same book; closing it there ends it here too.
+  auto other = greetedSession();
+  tap(*other, "card:" + std::string(kGid));
+  follow(tap(*session, "book:save"));
+  EXPECT_FALSE(app->book());
+  const Value panel = session->view()["report"];
+  EXPECT_EQ(panel["state"].text(), "done");
+  EXPECT_EQ(panel["caption"].text(), "Фотокнига");
+  EXPECT_THAT(panel["text"].text(), HasSubstr("Ваша фотокнига сформирована"));
+  EXPECT_EQ(panel["file"].text(), "/doc/report/book.pdf");
+  const auto pdf = readWholeFile(app->context().documentsDir() / "book.pdf");
+  ASSERT_TRUE(pdf);
+  EXPECT_TRUE(pdf->starts_with("%PDF-"));
+
+  tap(*session, "report:close");
+  open(3);
+  ASSERT_TRUE(tap(*other, "menu:23").ok());
+  follow(tap(*other, "book:kind:4"));
+  EXPECT_EQ(app->book()->request().kind, 4);  // the newer book replaces the one on screen
+  ASSERT_TRUE(tap(*other, "book:close").ok());
+  EXPECT_NE(session->view()["kind"].text(), "book");
+}
+
+}  // namespace
+}  // namespace lad::testing
