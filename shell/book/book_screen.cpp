@@ -47,6 +47,16 @@ std::string pictureAddress(int page, std::string_view size, int revision) {
          ".jpg?r=" + std::to_string(revision);
 }
 
+// A photo of the page being edited, by its place among the page's photos as they were saved:
+// the draft may have moved it.
+std::string photoAddress(int page, const std::vector<report::BookImage>& saved,
+                         const std::string& image) {
+  const auto found = std::ranges::find_if(
+      saved, [&image](const report::BookImage& b) { return b.image == image; });
+  return std::string(kBookAddress) + "photo" + std::to_string(page) + "-" +
+         std::to_string(found - saved.begin()) + ".jpg";
+}
+
 // The label under a thumbnail: the jacket, the cover, then the inner pages counted from 1.
 std::string pageLabel(const Context& context, std::size_t position) {
   if (position == 0) return context.translate("Суперобложка");
@@ -95,7 +105,7 @@ Value BookScreen::view() {
                               {std::string(kLargeClose), context.translate("Закрыть"), {}}};
     v.pages.push_back(std::move(page));
   }
-  if (draft_) v.edit = editView(*draft_);
+  if (draft_) v.edit = editView(*draft_, state);
   v.addId = kAdd;
   v.addCaption = context.translate("Добавить страницу с фотографией");
   v.save = {std::string(kSave), context.translate("Сохранить"), !v.busy && !state.pages.empty()};
@@ -103,16 +113,18 @@ Value BookScreen::view() {
   return v.toValue();
 }
 
-BookEditView BookScreen::editView(const Draft& draft) const {
+BookEditView BookScreen::editView(const Draft& draft, const BookState& state) const {
   const Context& context = app_.context();
+  const auto page = std::ranges::find_if(
+      state.pages, [&draft](const ShownPage& p) { return p.page.page == draft.page; });
+  const std::vector<report::BookImage> saved =
+      page == state.pages.end() ? std::vector<report::BookImage>{} : page->page.picture.images;
   BookEditView v;
   v.caption = context.translate("Фотографии для этой страницы");
   const auto& images = draft.picture.images;
   for (std::size_t i = 0; i < images.size(); ++i) {
     const int index = static_cast<int>(i);
-    v.photos.push_back({target("use", index),
-                        std::string(kBookAddress) + "photo" + std::to_string(draft.page) + "-" +
-                            std::to_string(index) + ".jpg",
+    v.photos.push_back({target("use", index), photoAddress(draft.page, saved, images[i].image),
                         images[i].use, i == 0 ? std::string() : target("earlier", index)});
   }
   v.labelId = kLabel;

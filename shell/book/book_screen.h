@@ -41,7 +41,7 @@ class BookScreen : public Screen {
   EventResult finishEdit();
   EventResult save();
   EventResult followBook() const;
-  BookEditView editView(const Draft& draft) const;
+  BookEditView editView(const Draft& draft, const BookState& state) const;
 
   Application& app_;
   ScreenHost& host_;

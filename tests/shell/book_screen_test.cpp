@@ -95,6 +95,8 @@ TEST_F(BookScreenTest, PagesComeWithSmallCopiesAndPicturePagesAreEditedDeletedAn
   EXPECT_FALSE(tap(*session, "book:layout:41").ok());
   const std::string last = shown(3).page.picture.images[3].image;
   ASSERT_TRUE(tap(*session, "book:earlier:3").ok());
+  // The moved photo keeps its own picture: it is named by its place on the saved page.
+  EXPECT_EQ(nth(session->view()["edit"]["photos"], 2)["picture"].text(), "/doc/book/photo3-3.jpg");
   ASSERT_TRUE(tap(*session, "book:layout:22").ok());
   ASSERT_TRUE(change(*session, "book:label", Value("Первые дни")).ok());
   follow(tap(*session, "book:edit-ok"));

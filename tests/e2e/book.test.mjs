@@ -1,0 +1,172 @@
+// Browser test of the photo book, at phone and tablet size: a diary of two days with photos, the
+// book of kind 2 chosen from the menu's covers, its pages arriving as thumbnails, one opened
+// large, the picture page's photos rearranged in another layout, a page added from a photo and
+// deleted again, then the book saved and its PDF downloaded. Screenshots of each step.
+//   node tests/e2e/book.test.mjs --server PATH_TO_SERVER --out SCREENSHOT_DIR
+import assert from 'node:assert/strict';
+import fs from 'node:fs';
+import path from 'node:path';
+import {
+  TABLET,
+  createPregnancy,
+  dayField,
+  openCard,
+  openPastGreeting,
+  runBrowserTest,
+  settled,
+} from './harness.mjs';
+
+const NAME = 'Фотокнига Анны';
+
+/** Today with a weight and a photo, and yesterday with a photo alone. */
+async function recordPhotoDays(page, dataDir) {
+  await page.tap('[data-id="menu:8"]');
+  await page.tap('.ring-page .diary-add');
+  await page.waitForSelector('.day-editor');
+  const weight = page.locator(`${dayField('ne-weight.png')} input`);
+  await weight.fill('61,2');
+  await weight.blur();
+  await settled(page);
+  for (const day of ['today', 'yesterday']) {
+    const photo = path.join(dataDir, `${day}.png`);
+    fs.writeFileSync(photo, await page.screenshot());
+    await page.setInputFiles('.day-photo-input:not(:first-child) input', photo);
+    await page.waitForSelector('.day-photo-picture[src^="data:image/jpeg"]');
+    if (day === 'today') {
+      await page.tap('.day-editor-header button:nth-child(1)');
+      await page.waitForSelector('.day-photo-picture:not([src^="data:"])');
+    }
+  }
+  await page.tap('.day-editor .editor-ok');
+  await page.waitForSelector('.diary .day-cell');
+  await page.tap('.ring-page .to-menu');
+  await page.waitForSelector('.ring', { state: 'detached' });
+}
+
+/** The menu's covers, then the book of kind 2 until all its pages are drawn. */
+async function openBook(page, outDir, device) {
+  await page.tap('[data-id="menu:23"]');
+  await page.waitForSelector('[data-id="book:kind:5"]');
+  await page.screenshot({ path: path.join(outDir, `book-kinds-${device}.png`) });
+  await page.tap('[data-id="book:kind:2"]');
+  await page.waitForSelector('.book button[data-id="book:save"]:not([disabled])');
+}
+
+const thumbnails = (page) =>
+  page.$$eval('.book-page', (pages) =>
+    pages.map((p) => ({
+      label: p.querySelector('.book-page-label')?.textContent,
+      picture: p.querySelector('img')?.getAttribute('src'),
+      loaded: (p.querySelector('img')?.naturalWidth ?? 0) > 0,
+    })),
+  );
+
+/** Waits until every thumbnail on the page has its picture. */
+async function thumbnailsLoaded(page) {
+  await page.waitForFunction(() =>
+    [...document.querySelectorAll('.book-thumb-picture')].every(
+      (img) => img.complete && img.naturalWidth > 0,
+    ),
+  );
+}
+
+/** The first picture page: its two photos swapped and laid out as layout 21. */
+async function rearrange(page, outDir, device) {
+  const before = await page.getAttribute('.book-page:has(.book-edit) img', 'src');
+  await page.tap('.book-edit >> nth=0');
+  await page.waitForSelector('.book-editor .book-photo-tick[aria-checked="true"]');
+  assert.equal(await page.locator('.book-photo').count(), 2);
+  const first = await page.getAttribute('.book-photo-picture >> nth=0', 'src');
+  await page.tap('.book-photo button[data-id="book:earlier:1"]');
+  await page.waitForFunction(
+    (f) => document.querySelectorAll('.book-photo-picture')[1]?.getAttribute('src') === f,
+    first,
+  );
+  await page.tap('.book-layout[data-id="book:layout:21"]');
+  await page.waitForSelector('.book-layout[data-id="book:layout:21"][aria-checked="true"]');
+  await page.fill('.book-label', 'Первые снимки');
+  await page.locator('.book-label').blur();
+  await settled(page);
+  await page.screenshot({ path: path.join(outDir, `book-edit-${device}.png`) });
+  await page.tap('.book-editor button[data-id="book:edit-ok"]');
+  await page.waitForFunction((b) => {
+    const img = document.querySelector('.book-page:has(.book-edit) img');
+    return img && img.getAttribute('src') !== b && document.querySelector('.book-save, .book');
+  }, before);
+  await page.waitForSelector('.book button[data-id="book:save"]:not([disabled])');
+}
+
+async function checkPhone(browser, base, outDir, dataDir) {
+  const { context, page, errors } = await openPastGreeting(browser, base);
+  await createPregnancy(page, { name: NAME, daysAgo: 90 });
+  await recordPhotoDays(page, dataDir);
+  await openBook(page, outDir, 'phone');
+  await thumbnailsLoaded(page);
+  const pages = await thumbnails(page);
+  assert.deepEqual(
+    pages.slice(0, 3).map((p) => p.label),
+    ['Суперобложка', 'Обложка', 'Страница 1'],
+  );
+  await page.screenshot({ path: path.join(outDir, 'book-pages-phone.png'), fullPage: true });
+
+  await page.tap('.book-thumb >> nth=1');
+  await page.waitForFunction(() => {
+    const img = document.querySelector('.book-large-picture');
+    return img?.complete && img.naturalWidth > 0;
+  });
+  await page.screenshot({ path: path.join(outDir, 'book-large-phone.png') });
+  await page.tap('.book-large button[data-id="book:large-close"]');
+  await page.waitForSelector('.book-large', { state: 'detached' });
+
+  await rearrange(page, outDir, 'phone');
+  await thumbnailsLoaded(page);
+
+  // A page added from a photo comes last; deleted, it goes again.
+  const photo = path.join(dataDir, 'added.png');
+  fs.writeFileSync(photo, await page.screenshot());
+  await page.setInputFiles('.book-body .day-photo-input input', photo);
+  await page.waitForFunction(
+    (n) => document.querySelectorAll('.book-page').length === n + 1,
+    pages.length,
+  );
+  await page.waitForSelector('.book button[data-id="book:save"]:not([disabled])');
+  await page.tap('.book-page:last-child .book-delete');
+  await page.waitForFunction(
+    (n) => document.querySelectorAll('.book-page').length === n,
+    pages.length,
+  );
+
+  await page.tap('.book button[data-id="book:save"]');
+  await page.waitForSelector('.report[data-state="done"]');
+  assert.match(await page.textContent('.report'), /Ваша фотокнига сформирована/);
+  await page.screenshot({ path: path.join(outDir, 'book-saved-phone.png') });
+  const [download] = await Promise.all([
+    page.waitForEvent('download'),
+    page.tap('.report a[download]'),
+  ]);
+  const pdf = path.join(outDir, 'book-phone.pdf');
+  await download.saveAs(pdf);
+  const text = fs.readFileSync(pdf, 'latin1');
+  assert.ok(text.startsWith('%PDF-'));
+  assert.equal(text.match(/\/Type\s*\/Page\b/g)?.length, pages.length, 'a PDF page a book page');
+  assert.deepEqual(errors, [], 'page errors');
+  await context.close();
+}
+
+async function checkTablet(browser, base, outDir) {
+  const { context, page, errors } = await openPastGreeting(browser, base, { device: TABLET });
+  await openCard(page, NAME);
+  await openBook(page, outDir, 'tablet');
+  await thumbnailsLoaded(page);
+  await page.screenshot({ path: path.join(outDir, 'book-pages-tablet.png') });
+  await rearrange(page, outDir, 'tablet');
+  await page.tap('.book button[data-id="book:close"]');
+  await page.waitForSelector('.book', { state: 'detached' });
+  assert.deepEqual(errors, [], 'page errors');
+  await context.close();
+}
+
+await runBrowserTest('book', async ({ browser, base, outDir, dataDir }) => {
+  await checkPhone(browser, base, outDir, dataDir);
+  await checkTablet(browser, base, outDir);
+});
