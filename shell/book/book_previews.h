@@ -1,5 +1,5 @@
-// Small copies of a page of the photo book for the screen: a page is 3338 pixels wide, far more
-// than a thumbnail or a phone's screen needs.
+// The thumbnail of a page of the photo book for the screen: a page is 3338 pixels wide, far
+// more than a thumbnail needs. A page opened large is shown from its own file.
 #pragma once
 
 #include <filesystem>
@@ -7,13 +7,11 @@
 
 namespace lad::shell {
 
-enum class PreviewSize { Thumbnail, Large };
+// The thumbnail of the page's picture beside it ("book5.jpg" → "book5-s.jpg").
+std::filesystem::path pageThumbnail(const std::filesystem::path& page);
 
-// The copy of the page's picture ("book5.jpg" → "book5-s.jpg" or "book5-m.jpg") beside it.
-std::filesystem::path pagePreview(const std::filesystem::path& page, PreviewSize size);
-
-// Writes both copies of the page; false with *error filled when the page cannot be read or a
-// copy cannot be written.
-bool writePagePreviews(const std::filesystem::path& page, std::string* error);
+// Writes the page's thumbnail; false with *error filled when the page cannot be read or the
+// thumbnail cannot be written.
+bool writePageThumbnail(const std::filesystem::path& page, std::string* error);
 
 }  // namespace lad::shell

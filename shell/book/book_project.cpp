@@ -66,7 +66,7 @@ void BookProject::make() {
   };
   options.onPage = [this](const report::BookPage& page) {
     std::string failure;
-    writePagePreviews(page.file, &failure);  // without them the page shows no thumbnail
+    writePageThumbnail(page.file, &failure);  // without it the page shows no thumbnail
     std::lock_guard lock(mutex_);
     state_.pages.push_back({page, 0});
     nextNumber_ = std::max(nextNumber_, page.page + 1);
@@ -139,7 +139,7 @@ std::optional<std::string> BookProject::addPicturePage(const Bytes& photo) {
 void BookProject::redraw(report::BookPage page, bool added) {
   std::string error;
   const bool drawn = report::redrawPicturePage(store_, request_.kind, options_, page, &error) &&
-                     writePagePreviews(page.file, &error);
+                     writePageThumbnail(page.file, &error);
   std::lock_guard lock(mutex_);
   state_.drawing = false;
   if (!drawn) {
@@ -175,10 +175,10 @@ std::shared_ptr<const ReportJob> BookProject::save() {
 
 std::optional<std::filesystem::path> BookProject::shownFile(std::string_view name) const {
   std::lock_guard lock(mutex_);
-  for (const auto& [suffix, size] :
-       {std::pair{"-s.jpg", PreviewSize::Thumbnail}, std::pair{"-m.jpg", PreviewSize::Large}})
-    if (auto number = numberBetween(name, "book", suffix))
-      if (const ShownPage* page = find(*number)) return pagePreview(page->page.file, size);
+  if (auto number = numberBetween(name, "book", "-s.jpg"))
+    if (const ShownPage* page = find(*number)) return pageThumbnail(page->page.file);
+  if (auto number = numberBetween(name, "book", ".jpg"))
+    if (const ShownPage* page = find(*number)) return page->page.file;
   const std::size_t dash = name.find('-');
   if (dash == std::string_view::npos) return std::nullopt;
   const auto number = numberBetween(name.substr(0, dash), "photo", "");

@@ -55,7 +55,7 @@ class BookProject : public std::enable_shared_from_this<BookProject> {
   // saveBook on the worker, after whatever it is doing; the job tells when book.pdf is there.
   std::shared_ptr<const ReportJob> save();
 
-  // A file the screen shows: "book5-s.jpg" and "book5-m.jpg" (a page's small copies) or
+  // A file the screen shows: "book5.jpg" (page 5), "book5-s.jpg" (its thumbnail) or
   // "photo5-2.jpg" (the third photo of page 5); nullopt for any other name.
   std::optional<std::filesystem::path> shownFile(std::string_view name) const;
 

@@ -101,7 +101,7 @@ Value BookScreen::view() {
     }
     if (large_ == number)
       v.large = BookLargeView{page.label,
-                              pictureAddress(number, "-m", shown.revision),
+                              pictureAddress(number, "", shown.revision),
                               {std::string(kLargeClose), context.translate("Закрыть"), {}}};
     v.pages.push_back(std::move(page));
   }
