@@ -1,7 +1,7 @@
 // The photo book on screen: the pages as thumbnails while they are drawn, a page opened large,
 // a picture page's editor, and the buttons to add a page from a photo, save and close.
 import { renderButton, renderPictureInput } from './controls.js';
-import { element } from './dom.js';
+import { element, modalBox } from './dom.js';
 import { bindTyped } from './editor.js';
 import { renderIcon, renderPicture } from './pictures.js';
 import type { BookEdit, BookNode, BookPage } from './view.js';
@@ -27,16 +27,31 @@ export function renderBook(node: BookNode): HTMLElement {
   return page;
 }
 
+/** A picture that sends a tap; one of a choice tells whether it is chosen. */
+function pictureButton(
+  id: string,
+  className: string,
+  picture: HTMLElement,
+  choice?: { role: 'checkbox' | 'radio'; checked: boolean },
+): HTMLElement {
+  const button = element('button', className);
+  button.type = 'button';
+  button.dataset.id = id;
+  if (choice) {
+    button.setAttribute('role', choice.role);
+    button.setAttribute('aria-checked', String(choice.checked));
+  }
+  button.append(picture);
+  return button;
+}
+
 function renderBookPage(p: BookPage): HTMLElement {
   const figure = element('figure', 'book-page');
   figure.setAttribute('role', 'listitem');
-  const open = element('button', 'book-thumb');
-  open.type = 'button';
-  open.dataset.id = p.id;
-  open.setAttribute('aria-label', p.label);
   const thumb = renderPicture(p.picture, 'book-thumb-picture');
   thumb.setAttribute('loading', 'lazy');
-  open.append(thumb);
+  const open = pictureButton(p.id, 'book-thumb', thumb);
+  open.setAttribute('aria-label', p.label);
   figure.append(open, element('figcaption', 'book-page-label', p.label));
   if (p.deleteId) figure.append(iconButton(p.deleteId, 'ne-delete.png', 'book-delete'));
   if (p.editId) figure.append(iconButton(p.editId, 'ne-edit.png', 'book-edit'));
@@ -44,42 +59,30 @@ function renderBookPage(p: BookPage): HTMLElement {
 }
 
 function iconButton(id: string, icon: string, className: string): HTMLElement {
-  const button = element('button', `book-icon ${className}`);
-  button.type = 'button';
-  button.dataset.id = id;
-  button.append(renderIcon(icon, 'book-icon-picture'));
-  return button;
+  return pictureButton(id, `book-icon ${className}`, renderIcon(icon, 'book-icon-picture'));
 }
 
 function renderLarge(large: NonNullable<BookNode['large']>): HTMLElement {
-  const cover = element('div', 'modal book-large');
-  const box = element('figure', 'book-large-box');
-  box.setAttribute('role', 'dialog');
+  const { cover, box } = modalBox('book-large-box', 'dialog');
+  cover.classList.add('book-large');
   box.setAttribute('aria-label', large.label);
   box.append(
     renderPicture(large.picture, 'book-large-picture'),
-    element('figcaption', 'book-page-label', large.label),
+    element('p', 'book-page-label', large.label),
     renderButton(large.close),
   );
-  cover.append(box);
   return cover;
 }
 
 function renderEdit(edit: BookEdit): HTMLElement {
-  const cover = element('div', 'modal');
-  const box = element('div', 'message book-editor');
-  box.setAttribute('role', 'dialog');
-  box.setAttribute('aria-modal', 'true');
+  const { cover, box } = modalBox('message book-editor', 'dialog');
   const photos = element('div', 'book-photos');
   for (const photo of edit.photos) {
     const row = element('div', 'book-photo');
-    const tick = element('button', 'book-photo-tick');
-    tick.type = 'button';
-    tick.dataset.id = photo.id;
-    tick.setAttribute('role', 'checkbox');
-    tick.setAttribute('aria-checked', String(photo.use));
-    tick.append(renderPicture(photo.picture, 'book-photo-picture'));
-    row.append(tick);
+    const picture = renderPicture(photo.picture, 'book-photo-picture');
+    row.append(
+      pictureButton(photo.id, 'book-photo-tick', picture, { role: 'checkbox', checked: photo.use }),
+    );
     if (photo.earlier) row.append(renderButton({ id: photo.earlier, caption: '↑' }));
     photos.append(row);
   }
@@ -90,15 +93,14 @@ function renderEdit(edit: BookEdit): HTMLElement {
   bindTyped(label, edit.labelId, () => label.value);
   const layouts = element('div', 'book-layouts');
   layouts.setAttribute('role', 'radiogroup');
-  for (const layout of edit.layouts) {
-    const choice = element('button', 'book-layout');
-    choice.type = 'button';
-    choice.dataset.id = layout.id;
-    choice.setAttribute('role', 'radio');
-    choice.setAttribute('aria-checked', String(layout.chosen));
-    choice.append(renderIcon(layout.icon, 'book-layout-picture'));
-    layouts.append(choice);
-  }
+  layouts.append(
+    ...edit.layouts.map((layout) =>
+      pictureButton(layout.id, 'book-layout', renderIcon(layout.icon, 'book-layout-picture'), {
+        role: 'radio',
+        checked: layout.chosen,
+      }),
+    ),
+  );
   const buttons = element('div', 'buttons');
   buttons.append(renderButton(edit.cancel), renderButton(edit.ok));
   box.append(
@@ -109,6 +111,5 @@ function renderEdit(edit: BookEdit): HTMLElement {
     layouts,
     buttons,
   );
-  cover.append(box);
   return cover;
 }

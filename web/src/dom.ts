@@ -10,3 +10,16 @@ export function element<K extends keyof HTMLElementTagNameMap>(
   if (text !== undefined) node.textContent = text;
   return node;
 }
+
+/** A box over the whole screen, which takes the page's touches until it goes. */
+export function modalBox(
+  className: string,
+  role: 'dialog' | 'alertdialog',
+): { cover: HTMLElement; box: HTMLElement } {
+  const cover = element('div', 'modal');
+  const box = element('div', className);
+  box.setAttribute('role', role);
+  box.setAttribute('aria-modal', 'true');
+  cover.append(box);
+  return { cover, box };
+}

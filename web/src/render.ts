@@ -3,7 +3,7 @@ import { renderBook } from './book.js';
 import { addSwipeToDelete, renderButton } from './controls.js';
 import { renderCycleCalendar } from './cycle.js';
 import { renderDayEditor, renderDiary } from './diary.js';
-import { element } from './dom.js';
+import { element, modalBox } from './dom.js';
 import { renderIcon, renderPicture } from './pictures.js';
 import { renderEditor } from './editor.js';
 import { renderRing } from './ring.js';
@@ -213,16 +213,12 @@ function renderButtons(node: ButtonsNode): HTMLElement {
 }
 
 function renderMessage(node: MessageNode): HTMLElement {
-  const cover = element('div', 'modal');
-  const box = element('div', 'message');
-  box.setAttribute('role', 'alertdialog');
-  box.setAttribute('aria-modal', 'true');
+  const { cover, box } = modalBox('message', 'alertdialog');
   const caption = element('h2', 'message-caption', node.caption);
   caption.id = 'message-caption';
   box.setAttribute('aria-labelledby', caption.id);
   box.append(caption, element('p', 'message-text', node.text));
   box.append(renderButton({ id: node.id, caption: node.button }));
-  cover.append(box);
   return cover;
 }
 

@@ -1,16 +1,13 @@
 // The panel of a report being made: its progress, then the PDF opened in the browser's own
 // viewer, saved, or handed to another app through the share sheet where the browser has one.
 import { renderButton } from './controls.js';
-import { element } from './dom.js';
+import { element, modalBox } from './dom.js';
 import type { ReportNode } from './view.js';
 
 const REPORT_CLOSE = 'report:close';
 
 export function renderReport(node: ReportNode): HTMLElement {
-  const cover = element('div', 'modal');
-  const box = element('div', 'message report');
-  box.setAttribute('role', 'dialog');
-  box.setAttribute('aria-modal', 'true');
+  const { cover, box } = modalBox('message report', 'dialog');
   box.dataset.state = node.state;
   const caption = element('h2', 'message-caption', node.caption);
   caption.id = 'report-caption';
@@ -28,7 +25,6 @@ export function renderReport(node: ReportNode): HTMLElement {
   }
   if (node.file) box.append(fileActions(node, node.file));
   box.append(renderButton({ id: REPORT_CLOSE, caption: node.close }));
-  cover.append(box);
   return cover;
 }
 
