@@ -1,6 +1,8 @@
 // A folder's files as they were at one moment, for the targets that run an installation: what
 // changed since is found by the files' stats, and put back file by file, which costs far less
-// than launching the installation again.
+// than launching the installation again. The clock of the files' times ticks coarsely, so a
+// file written in the tick of the snapshot's newest write can keep its stat: such files are
+// compared by their bytes.
 #pragma once
 
 #include <sys/stat.h>
@@ -22,14 +24,13 @@ namespace lad::fuzz {
 
 class FolderSnapshot {
  public:
-  explicit FolderSnapshot(std::filesystem::path root)
-      : root_(std::move(root)), was_(treeOf(root_, true)) {}
+  explicit FolderSnapshot(std::filesystem::path root) : root_(std::move(root)) {
+    keep(treeOf(root_, true));
+  }
 
-  // The paths that are new, gone or changed since the snapshot. A file made, removed or renamed
-  // anywhere changes the stat of its folder, so an untouched folder needs no walk.
+  // The paths that are new, gone or changed since the snapshot.
   std::vector<std::string> changes() const {
     std::vector<std::string> paths;
-    if (untouched()) return paths;
     const Tree now = treeOf(root_, false);
     for (const auto& [path, entry] : now)
       if (const auto found = was_.find(path);
@@ -65,7 +66,7 @@ class FolderSnapshot {
       const auto found = was_.find(path);
       check(found != was_.end() && found->second.bytes == entry.bytes);
     }
-    was_ = std::move(now);
+    keep(std::move(now));
   }
 
  private:
@@ -103,21 +104,23 @@ class FolderSnapshot {
     return tree;
   }
 
-  // Whether the file at path holds what it held: the same stat, or else the same bytes.
-  static bool sameFile(const std::string& path, const Entry& now, const Entry& was) {
-    if (now.sameStat(was)) return true;
+  void keep(Tree tree) {
+    was_ = std::move(tree);
+    newestNs_ = 0;
+    for (const auto& [path, entry] : was_) newestNs_ = std::max(newestNs_, entry.changedNs);
+  }
+
+  // Whether the file at path holds what it held: the same stat from before the newest write,
+  // or else the same bytes. A folder holds nothing of its own.
+  bool sameFile(const std::string& path, const Entry& now, const Entry& was) const {
+    if (now.sameStat(was) && was.changedNs < newestNs_) return true;
     if (now.size != was.size) return false;
     return now.size < 0 || lad::testing::readFile(path) == *was.bytes;
   }
 
-  bool untouched() const {
-    for (const auto& [path, entry] : was_)
-      if (!entryOf(path).sameStat(entry)) return false;
-    return true;
-  }
-
   std::filesystem::path root_;
   Tree was_;
+  std::int64_t newestNs_ = 0;
 };
 
 }  // namespace lad::fuzz
