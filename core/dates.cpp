@@ -72,10 +72,36 @@ struct ThreadObjects {
       formats;
 };
 
+using ThreadCache = std::unordered_map<std::uint64_t, ThreadObjects>;
+
+// Whether this thread's cache is made, and whether it is gone with the thread: a codec that ends
+// at the program's end, after the cache, has nothing left to take out of it.
+enum class CacheState { None, Live, Gone };
+thread_local CacheState cacheState = CacheState::None;
+
+struct ThreadCacheHolder {
+  ThreadCache objects;
+  ThreadCacheHolder() { cacheState = CacheState::Live; }
+  ~ThreadCacheHolder() { cacheState = CacheState::Gone; }
+};
+
+// This thread's objects of each codec it used, by the codec's serial.
+ThreadCache& threadCache() {
+  thread_local ThreadCacheHolder cache;
+  return cache.objects;
+}
+
 }  // namespace
 
 struct DateCodec::Impl {
   Impl(const std::string& zoneName, int langid);
+  // The objects of the thread that ends the codec go with it, so that a program that makes
+  // codec after codec on one thread (a launch of the installation each) does not keep them.
+  ~Impl() {
+    if (cacheState == CacheState::Live) threadCache().erase(serial);
+  }
+  Impl(const Impl&) = delete;
+  Impl& operator=(const Impl&) = delete;
 
   std::unique_ptr<icu::Calendar> makeCalendar() const;
   ThreadObjects& threadObjects() const;
@@ -117,7 +143,7 @@ std::unique_ptr<icu::Calendar> DateCodec::Impl::makeCalendar() const {
 }
 
 ThreadObjects& DateCodec::Impl::threadObjects() const {
-  thread_local std::unordered_map<std::uint64_t, ThreadObjects> cache;
+  auto& cache = threadCache();
   auto found = cache.find(serial);
   if (found != cache.end()) return found->second;
   if (cache.size() >= kCodecsPerThread) cache.clear();

@@ -1,7 +1,7 @@
 #include "drawing/svg_canvas.h"
 
-#include <atomic>
 #include <cstdint>
+#include <cstdio>
 #include <fstream>
 #include <iterator>
 #include <numbers>
@@ -72,14 +72,36 @@ std::optional<Bytes> readFile(const std::string& file) {
   return bytes;
 }
 
+// Stands before each id while the drawing is made; a control character, which no text of the
+// document keeps.
+constexpr char kIdMark = '\x01';
+
+// The ids of a drawing start with a hash of the whole drawing: several drawings stand in one
+// page without their ids meeting, and the same drawing made again is the same text, so a view
+// that did not change reads the same. Two equal drawings share ids of equal definitions.
+std::string withDrawingIds(const std::string& marked) {
+  std::uint64_t hash = 14695981039346656037ULL;  // FNV-1a
+  for (const char ch : marked) hash = (hash ^ static_cast<unsigned char>(ch)) * 1099511628211ULL;
+  char prefix[24];
+  std::snprintf(prefix, sizeof prefix, "lad-%016llx-", static_cast<unsigned long long>(hash));
+  std::string out;
+  out.reserve(marked.size());
+  for (const char ch : marked) {
+    if (ch == kIdMark)
+      out += prefix;
+    else
+      out += ch;
+  }
+  return out;
+}
+
 }  // namespace
 
 SvgCanvas::SvgCanvas(Size size) : size_(size) {}
 
-// Ids are unique in the whole process, so that several drawings can stand in one page.
+// An id is numbered within the drawing and marked; the document names it after the drawing.
 std::string SvgCanvas::nextId(char kind) {
-  static std::atomic<std::uint64_t> next{0};
-  return std::string("lad-") + kind + std::to_string(next++);
+  return kIdMark + (kind + std::to_string(ids_++));
 }
 
 // SVG paints over what is there and cannot erase, so what was painted before goes under a mask
@@ -270,7 +292,7 @@ std::string SvgCanvas::document() const {
   if (!defs_.empty()) out += "<defs>" + defs_ + "</defs>";
   out += body_;
   out += "</svg>";
-  return out;
+  return withDrawingIds(out);
 }
 
 }  // namespace lad::draw

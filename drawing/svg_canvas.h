@@ -2,6 +2,7 @@
 // that the browser is served, broken into lines where the cairo back end breaks it.
 #pragma once
 
+#include <cstdint>
 #include <string>
 
 #include "drawing/canvas.h"
@@ -38,6 +39,7 @@ class SvgCanvas : public Canvas {
   Size size_;
   std::string defs_;
   std::string body_;
+  std::uint64_t ids_ = 0;
 };
 
 }  // namespace lad::draw

@@ -1,4 +1,4 @@
-// Fuzz target of what browsers send to a running installation: a real Application on a new
+// Fuzz target of what browsers send to a running installation: a real Application on a
 // temporary folder, and the events of up to three browser sessions in any order. The input is
 // a script of lines:
 //   {...}              one event as the browser sends it (JSON text, read as the server reads it)
@@ -9,9 +9,17 @@
 //   relaunch           the program starts again on the same folder, with new sessions
 // The first byte chooses the edition. Every view is a JSON object with a kind, and an event that
 // is refused says why and leaves the view as it was.
+//
+// Each edition is installed once per process: every input starts from its folder as the first
+// launch left it, put back file by file, and launches the program on it. A view is built when a
+// line needs it (the controls of a tap, the view that a refusal must leave as it was) and at the
+// end of the input. Only the first 24 lines count: the seeds and the inputs that the campaigns
+// kept have at most 24 but one, and longer scripts cost more without reaching further.
 #include <chrono>
 #include <cstddef>
 #include <cstdint>
+#include <filesystem>
+#include <iterator>
 #include <map>
 #include <memory>
 #include <optional>
@@ -20,6 +28,7 @@
 
 #include "core/clock.h"
 #include "core/text_parts.h"
+#include "fuzz/folder_snapshot.h"
 #include "fuzz/fuzz_input.h"
 #include "shell/application.h"
 #include "shell/session.h"
@@ -32,7 +41,7 @@ using lad::shell::EventResult;
 
 constexpr int kEditions[] = {1, 2, 3, 14};
 constexpr std::size_t kSessions = 3;
-constexpr int kMostLines = 64;
+constexpr int kMostLines = 24;
 // A script runs in a few minutes of the installation's time at most, so timers stay few.
 constexpr std::int64_t kLongestWait = 3600;
 
@@ -59,9 +68,54 @@ std::size_t numberAfter(std::string_view line, std::string_view word) {
   return n;
 }
 
+// The start time of every input.
+std::shared_ptr<lad::ManualClock> startClock() {
+  return std::make_shared<lad::ManualClock>(*lad::dateFromIso("2026-11-23T09:00:00Z"),
+                                            "Europe/Berlin");
+}
+
+lad::ContextOptions optionsOf(int appid, const std::filesystem::path& dir,
+                              std::shared_ptr<lad::Clock> clock) {
+  return {appid, 1, dir, "1.0", std::move(clock), LADANEYA_RESOURCES_DIR};
+}
+
+// An edition's folder as its first launch left it, which every input starts from.
+class Installation {
+ public:
+  explicit Installation(int appid) : appid_(appid) {
+    { const lad::shell::Application first(optionsOf(appid, dir_.path(), startClock())); }
+    launched_.emplace(dir_.path());
+  }
+
+  // The folder put back as launched.
+  const std::filesystem::path& fresh() {
+    launched_->restore(launched_->changes());
+    return dir_.path();
+  }
+
+  int appid() const { return appid_; }
+
+ private:
+  int appid_;
+  lad::testing::TempDir dir_;
+  std::optional<lad::fuzz::FolderSnapshot> launched_;
+};
+
+Installation& installation(std::uint8_t choice) {
+  static std::optional<Installation> editions[std::size(kEditions)];
+  auto& edition = editions[choice % std::size(kEditions)];
+  if (!edition) edition.emplace(kEditions[choice % std::size(kEditions)]);
+  return *edition;
+}
+
 class Run {
  public:
-  explicit Run(int appid) : appid_(appid) { launch(); }
+  explicit Run(Installation& at) : appid_(at.appid()), dir_(at.fresh()) { launch(); }
+
+  // The view of the session that spoke last, as the browser gets it at the end.
+  void finish() {
+    if (sessions_[current_]) shown();
+  }
 
   void line(std::string_view line) {
     if (line == "relaunch") return launch();
@@ -71,18 +125,13 @@ class Run {
     }
     if (line.starts_with("wait "))
       return wait(static_cast<std::int64_t>(numberAfter(line, "wait ")));
-    const lad::Value before = shown();
-    std::optional<lad::Value> event;
-    if (line.starts_with("tap ") || line.starts_with("change ")) {
-      event = controlEvent(line, before);
-      if (!event) return;
-    } else {
-      event = lad::Value::fromJson(line);
-      if (!event) return;  // the server refuses it before any session sees it
-    }
-    forget();
-    const EventResult result = session().handle(*event);
-    after(result, before);
+    const bool control = line.starts_with("tap ") || line.starts_with("change ");
+    const std::optional<lad::Value> event =
+        control ? controlEvent(line, shown()) : lad::Value::fromJson(line);
+    // No control to aim at; or text that the server refuses before any session sees it.
+    if (!event) return;
+    const lad::Value before = beforeEvent();
+    after(session().handle(*event), before);
   }
 
  private:
@@ -100,25 +149,31 @@ class Run {
     timers_.clear();
     for (auto& s : sessions_) s.reset();
     app_.reset();
-    app_ = std::make_unique<lad::shell::Application>(
-        lad::ContextOptions{appid_, 1, dir_.path(), "1.0", clock_, LADANEYA_RESOURCES_DIR});
+    app_ = std::make_unique<lad::shell::Application>(optionsOf(appid_, dir_, clock_));
   }
 
   // The session's view, checked: a JSON object with a kind. Writing it out cannot fail (texts
   // that are not UTF-8 and numbers that are not finite are replaced on the way), so it is not
   // written out here: that costs more than the event.
-  lad::Value view() {
+  const lad::Value& view() {
     lad::Value v = session().view();
     check(v.asMap() && v["kind"].asText() && !v["kind"].asText()->empty());
-    shown_[current_] = v;
-    return v;
+    return shown_[current_].emplace(std::move(v));
   }
 
   // The session's view as it was last shown, while nothing has happened since: an event, a
   // timer, time passing, a new session or a relaunch forgets every session's view.
-  lad::Value shown() {
+  const lad::Value& shown() {
     const auto& last = shown_[current_];
     return last ? *last : view();
+  }
+
+  // The view before an event, taken from the views shown: the event makes them all stale.
+  lad::Value beforeEvent() {
+    shown();
+    lad::Value before = std::move(*shown_[current_]);
+    forget();
+    return before;
   }
 
   void forget() {
@@ -151,7 +206,6 @@ class Run {
       return;
     }
     if (result.timer) timers_.emplace(clock_->now() + result.timerDelay, result.timer);
-    view();
   }
 
   void wait(std::int64_t seconds) {
@@ -162,8 +216,7 @@ class Run {
       clock_->set(due->first);
       const auto timer = std::move(due->second);
       timers_.erase(due);
-      const lad::Value before = view();
-      forget();
+      const lad::Value before = beforeEvent();
       after(timer(), before);
     }
     forget();
@@ -171,9 +224,8 @@ class Run {
   }
 
   int appid_;
-  lad::testing::TempDir dir_;
-  std::shared_ptr<lad::ManualClock> clock_ = std::make_shared<lad::ManualClock>(
-      *lad::dateFromIso("2026-11-23T09:00:00Z"), "Europe/Berlin");
+  std::filesystem::path dir_;
+  std::shared_ptr<lad::ManualClock> clock_ = startClock();
   std::unique_ptr<lad::shell::Application> app_;
   std::unique_ptr<lad::shell::Session> sessions_[kSessions];
   std::optional<lad::Value> shown_[kSessions];
@@ -185,12 +237,13 @@ class Run {
 
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
   if (size == 0) return 0;
-  Run run(kEditions[data[0] % 4]);
+  Run run(installation(data[0]));
   const std::string_view script(reinterpret_cast<const char*>(data + 1), size - 1);
   int lines = 0;
   for (std::string_view line : lad::splitOn(script, "\n")) {
     if (++lines > kMostLines) break;
     run.line(line);
   }
+  run.finish();
   return 0;
 }

@@ -1,22 +1,24 @@
 #include "shell/views/pages.h"
 
+#include <utility>
+
 #include "shell/views/node.h"
 
 namespace lad::shell {
 
-Value PageView::toValue() const {
+Value PageView::toValue() && {
   Map m = node(kKind);
-  m.set("title", title);
-  m.set("children", children);
+  m.set("title", std::move(title));
+  m.set("children", std::move(children));
   return m;
 }
 
-Value RingView::toValue() const {
+Value RingView::toValue() && {
   Map m = node(kKind);
-  m.set("page", page);
-  if (!next.isNull()) m.set("next", next);
-  m.set("menu", menu);
-  m.set("toMenu", toMenu);
+  m.set("page", std::move(page));
+  if (!next.isNull()) m.set("next", std::move(next));
+  m.set("menu", std::move(menu));
+  m.set("toMenu", std::move(toMenu));
   return m;
 }
 

@@ -17,7 +17,8 @@ struct PageView {
   std::string title;
   List children;
 
-  Value toValue() const;
+  // Made once from a temporary: the children move into the node.
+  Value toValue() &&;
 };
 
 // A page of the ring in front of the menu, the page waiting behind it, and the menu.
@@ -28,7 +29,8 @@ struct RingView {
   Value menu;
   std::string toMenu;  // the tap that slides the page aside
 
-  Value toValue() const;
+  // Made once from a temporary: the three screens move into the node.
+  Value toValue() &&;
 };
 
 // A button of a row of buttons or of the greeting; not a node of its own.

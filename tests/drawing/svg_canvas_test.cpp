@@ -2,6 +2,7 @@
 
 #include <gtest/gtest.h>
 
+#include <algorithm>
 #include <map>
 #include <numbers>
 #include <stdexcept>
@@ -199,6 +200,30 @@ TEST(SvgCanvas, ArcsImagesAndClearing) {
   const auto bytes = base64Decode(images[0].at("href").substr(prefix.size()));
   ASSERT_TRUE(bytes);
   EXPECT_EQ(std::string(bytes->begin(), bytes->end()), *png);
+}
+
+// The ids of a drawing's definitions depend only on the drawing: made again, it is the same
+// text, and another drawing in the same page has ids of its own.
+TEST(SvgCanvas, IdsAreTheDrawingsOwn) {
+  const auto draw = [](double width) {
+    SvgCanvas c({50, 50});
+    c.fillRect({0, 0, width, 10}, {0, 0, 0, 1});
+    c.clear({0, 0, 5, 5});
+    c.fillShadow({5, 5, 20, 20}, {{0, 0, 0, 0.4}, {2, 2}, 4});
+    return c.document();
+  };
+  const std::string first = draw(10);
+  EXPECT_EQ(draw(10), first);
+  const auto ids = [](const std::string& doc) {
+    std::vector<std::string> found;
+    for (const Element& e : parseElements(doc))
+      if (!e.at("id").empty()) found.push_back(e.at("id"));
+    return found;
+  };
+  const auto mine = ids(first), others = ids(draw(20));
+  ASSERT_EQ(mine.size(), 2u);
+  EXPECT_NE(mine[0], mine[1]);
+  for (const std::string& id : others) EXPECT_EQ(std::count(mine.begin(), mine.end(), id), 0);
 }
 
 TEST(SvgCanvas, PathShadowIsTheMovedPathUnderABlur) {
