@@ -1,6 +1,7 @@
 #include "shell/diary/diary_list.h"
 
 #include <algorithm>
+#include <utility>
 
 #include "cloud/cloud_writers.h"
 #include "core/context.h"
@@ -209,11 +210,19 @@ Value DiaryList::view() {
   if (state_.first + state_.count < matches_.size()) v.more = kMore;
   if (place < matches_.size())
     v.scrollTo = dayTarget(context, kDayPrefix, *days_[matches_[place]]["dat"].asDate());
-  state_.lastEdited.reset();
   return v.toValue();
 }
 
+// The day edited last stays in view until the list takes an event; a refused one keeps it, so
+// that it leaves the view as it was.
 EventResult DiaryList::tap(std::string_view target) {
+  const std::optional<Date> edited = std::exchange(state_.lastEdited, std::nullopt);
+  EventResult result = tapControl(target);
+  if (!result.ok()) state_.lastEdited = edited;
+  return result;
+}
+
+EventResult DiaryList::tapControl(std::string_view target) {
   const Context& context = app_.context();
   if (target == kAdd) return openDay(context.clock().now());
   if (target == kMore) {
@@ -240,6 +249,7 @@ EventResult DiaryList::tap(std::string_view target) {
 EventResult DiaryList::change(std::string_view target, const Value& value) {
   const std::string* text = value.asText();
   if (target != kSearch || !text) return EventResult::refused("the diary takes a search text only");
+  state_.lastEdited.reset();
   state_.search = *text;
   state_.count = 0;
   updateSearch();

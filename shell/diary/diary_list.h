@@ -27,6 +27,7 @@ class DiaryList : public Screen {
   EventResult change(std::string_view target, const Value& value) override;
 
  private:
+  EventResult tapControl(std::string_view target);
   void load();
   void updateSearch();
   const List& rowsOf(std::size_t day);
