@@ -2,15 +2,13 @@
 
 #include <algorithm>
 
-#include "content/display.h"
 #include "content/resource.h"
 #include "core/context.h"
 #include "core/edition.h"
 #include "core/ids.h"
-#include "core/json_text.h"
 #include "core/text_fill.h"
-#include "core/text_parts.h"
 #include "core/word_forms.h"
+#include "health/doctor_plan.h"
 #include "store/selections.h"
 #include "store/setup_data.h"
 #include "store/store.h"
@@ -24,8 +22,6 @@ constexpr int kPlanChecks = 1;
 // Main menu groups 4 and 5 keep the dismissed weeks in the check-list of the group + 1000.
 constexpr int kDismissedWeeks = 1000;
 constexpr int kPlanGroup = 7;
-// A `checkid` of up to four characters is an old number.
-constexpr std::size_t kLongestOldCheckid = 4;
 
 // The running week of the pregnancy on the day, 1 at the least.
 int weekOnDay(Store& store, Date day, const std::string& gid) {
@@ -34,13 +30,9 @@ int weekOnDay(Store& store, Date day, const std::string& gid) {
   return (days + 6) / 7;
 }
 
-bool isDue(const Value& item, int week, const std::vector<std::string>& ticked) {
-  const std::int64_t start = item["planestart"].intValue();
-  if (start < 1 || start > week || !item.asMap() || !item.asMap()->contains("checkid") ||
-      item["indaycomment"].text().empty())
-    return false;
-  const std::string guid = content::tickGuid(item["checkid"].text(), kLongestOldCheckid);
-  return std::find(ticked.begin(), ticked.end(), guid) == ticked.end();
+bool isDue(const PlanItem& item, int week, const std::vector<std::string>& ticked) {
+  return item.start >= 1 && item.start <= week &&
+         std::find(ticked.begin(), ticked.end(), item.tick) == ticked.end();
 }
 
 bool weekDismissed(Store& store, int group, int week, const std::string& gid) {
@@ -50,16 +42,10 @@ bool weekDismissed(Store& store, int group, int week, const std::string& gid) {
   });
 }
 
-// The texts of the notice file for the group and week: rows "group<td>week<td>text" by "<tr>".
+// The texts of the notice file for the group and week.
 void addNotices(const Context& context, std::vector<std::string>& out, int group, int week) {
-  const std::string text = content::fileToString(content::contentFolder(context), "warning");
-  for (std::string_view row : splitOn(text, "<tr>")) {
-    const auto fields = splitOn(row, "<td>");
-    if (fields.size() < 3) continue;
-    if (leadingInteger(content::trimText(fields[0])) == group &&
-        leadingInteger(content::trimText(fields[1])) == week)
-      out.emplace_back(content::trimText(fields[2]));
-  }
+  for (const WeekNotice& notice : *weekNoticeRows(content::contentFolder(context)))
+    if (notice.group == group && notice.week == week) out.push_back(notice.text);
 }
 
 std::string planNotice(const Context& context, std::size_t count) {
@@ -76,19 +62,12 @@ std::string planNotice(const Context& context, std::size_t count) {
 
 void loadIndayFromFile(Store& store, std::string_view file, std::vector<std::string>& data,
                        int seltypeid, const std::string& gid, Date todate) {
-  const content::Resource plan =
-      content::loadResource(content::contentFolder(store.context()), file);
-  if (!plan.json) return;
-  const Value tree = jsonToArray(plan.text);
-  if (!tree.asList()) return;
+  const auto items = planItems(content::contentFolder(store.context()), file);
+  if (items->empty()) return;
   const int week = weekOnDay(store, todate, gid);
   const auto ticked = loadCheckData(store, seltypeid, gid);
-  for (const Value& group : *tree.asList()) {
-    const List* items = group["Content"].asList();
-    if (!items) continue;
-    for (const Value& item : *items)
-      if (isDue(item, week, ticked)) data.push_back(item["indaycomment"].text());
-  }
+  for (const PlanItem& item : *items)
+    if (isDue(item, week, ticked)) data.push_back(item.dayText);
 }
 
 std::vector<std::string> dueDoctorItems(Store& store, Date day, const std::string& gid) {
