@@ -35,6 +35,14 @@ std::filesystem::path smallestCopy(const std::filesystem::path& photo) {
   return std::filesystem::is_regular_file(small, failure) ? small : photo;
 }
 
+// The page of that number in `pages`, const or not as the list is; nullptr when none.
+template <typename Pages>
+auto* pageIn(Pages& pages, int number) {
+  auto page =
+      std::ranges::find_if(pages, [number](const ShownPage& p) { return p.page.page == number; });
+  return page == pages.end() ? nullptr : &*page;
+}
+
 }  // namespace
 
 BookProject::BookProject(Store& store, JobQueue& worker, std::filesystem::path imagesDir,
@@ -84,13 +92,11 @@ std::optional<std::string> BookProject::refuseWhileBusy() const {
 }
 
 ShownPage* BookProject::find(int number) {
-  auto page = std::ranges::find_if(state_.pages,
-                                   [number](const ShownPage& p) { return p.page.page == number; });
-  return page == state_.pages.end() ? nullptr : &*page;
+  return pageIn(state_.pages, number);
 }
 
 const ShownPage* BookProject::find(int number) const {
-  return const_cast<BookProject*>(this)->find(number);
+  return pageIn(state_.pages, number);
 }
 
 std::optional<std::string> BookProject::deletePage(int number) {
