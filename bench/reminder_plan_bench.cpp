@@ -12,8 +12,8 @@
 #include "store/first_launch.h"
 #include "store/pill_courses.h"
 #include "store/records.h"
-#include "store/regimen.h"
 #include "store/store.h"
+#include "store/values/regimen.h"
 
 namespace {
 

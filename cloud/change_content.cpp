@@ -8,7 +8,7 @@
 #include "store/dictionary.h"
 #include "store/setup_data.h"
 #include "store/store.h"
-#include "store/today_note.h"
+#include "store/values/today_note.h"
 
 namespace lad {
 

@@ -20,10 +20,10 @@
 #include "health/child_feeding.h"
 #include "health/child_intervals.h"
 #include "health/child_teeth.h"
-#include "store/list_codecs.h"
-#include "store/pill_reading.h"
-#include "store/reading_forms.h"
-#include "store/today_note.h"
+#include "store/values/list_codecs.h"
+#include "store/values/pill_reading.h"
+#include "store/values/reading_forms.h"
+#include "store/values/today_note.h"
 #include "tests/support/test_files.h"
 
 namespace {

@@ -16,7 +16,7 @@
 #include "core/value.h"
 #include "fuzz/fuzz_input.h"
 #include "store/file_names.h"
-#include "store/value_conversion.h"
+#include "store/values/value_conversion.h"
 
 namespace {
 

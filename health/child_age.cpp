@@ -2,7 +2,7 @@
 
 #include "core/context.h"
 #include "health/calendar_text.h"
-#include "store/calendar_span.h"
+#include "store/values/calendar_span.h"
 
 namespace lad {
 

@@ -4,9 +4,9 @@
 #include "core/json_text.h"
 #include "health/meal_rows.h"
 #include "health/pill_times.h"
-#include "store/pill_reading.h"
-#include "store/reading_forms.h"
-#include "store/regimen.h"
+#include "store/values/pill_reading.h"
+#include "store/values/reading_forms.h"
+#include "store/values/regimen.h"
 
 namespace lad::health {
 

@@ -7,8 +7,8 @@
 #include "core/context.h"
 #include "core/json_text.h"
 #include "core/text_parts.h"
-#include "store/pill_reading.h"
-#include "store/reading_forms.h"
+#include "store/values/pill_reading.h"
+#include "store/values/reading_forms.h"
 
 namespace lad::health {
 

@@ -10,7 +10,7 @@
 #include <vector>
 
 #include "core/value.h"
-#include "store/regimen.h"
+#include "store/values/regimen.h"
 
 namespace lad {
 class Context;

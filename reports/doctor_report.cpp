@@ -10,7 +10,7 @@
 #include "store/day_loader.h"
 #include "store/day_regims.h"
 #include "store/store.h"
-#include "store/value_conversion.h"
+#include "store/values/value_conversion.h"
 
 namespace lad::report {
 
@@ -60,8 +60,8 @@ List entriesOf(Store& store, DoctorReport kind, Date date, const std::string& gi
   const List days = loadNoteData(store, kOneDayRegim, 0, date, gid);
   if (days.empty()) return {};
   const std::string value = days.front()[kindOf(kind).field].text();
-  const Value entries =
-      jsonToArray(jsonIs(value) ? value : oldValueToJson(appid, kindOf(kind).field, value, nullptr));
+  const Value entries = jsonToArray(
+      jsonIs(value) ? value : oldValueToJson(appid, kindOf(kind).field, value, nullptr));
   return entries.asList() ? *entries.asList() : List{};
 }
 
@@ -73,15 +73,16 @@ class DoctorPage {
   void draw(const std::filesystem::path& imagesDir, Date date, const List& entries) {
     const double w = kReportPage.w;
     c_.drawImage((imagesDir / k_.icon).string(), {(w - kIconSide) / 2, 70, kIconSide, kIconSide});
-    const std::string heading = fillIn(context_.translate(k_.heading),
-                                       {context_.dates().dateToString(date, "dd.MM.yyyy")});
+    const std::string heading =
+        fillIn(context_.translate(k_.heading), {context_.dates().dateToString(date, "dd.MM.yyyy")});
     const double top = 230 + 3 * kOt;
     const draw::Font headingFont{kHeadingSize, false};
     const double headingHeight = textHeight(heading, headingFont, w);
     c_.drawText(heading, {0, top, w, headingHeight}, headingFont, kHeadingColor,
                 draw::Align::Center);
     double y = top + headingHeight + 4 * kOt;
-    for (const Column& column : k_.columns) text(context_.translate(column.title), column.x, y, column.w);
+    for (const Column& column : k_.columns)
+      text(context_.translate(column.title), column.x, y, column.w);
     y = rule(y);
     double drunk = 0, passed = 0;
     for (const Value& entry : entries) {

@@ -3,7 +3,7 @@
 #include <system_error>
 
 #include "drawing/text_measure.h"
-#include "store/list_codecs.h"
+#include "store/values/list_codecs.h"
 
 namespace lad::report {
 

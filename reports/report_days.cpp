@@ -4,7 +4,7 @@
 #include "store/day_loader.h"
 #include "store/day_rows.h"
 #include "store/store.h"
-#include "store/today_note.h"
+#include "store/values/today_note.h"
 
 namespace lad::report {
 

@@ -4,7 +4,7 @@
 
 #include "core/text_parts.h"
 #include "shell/views/popups.h"
-#include "store/picker_lists.h"
+#include "store/values/picker_lists.h"
 
 namespace lad::shell {
 

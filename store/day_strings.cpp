@@ -3,10 +3,10 @@
 #include "core/context.h"
 #include "core/date_names.h"
 #include "core/text_fill.h"
-#include "store/calendar_span.h"
 #include "store/day_regims.h"
-#include "store/reading_forms.h"
 #include "store/store.h"
+#include "store/values/calendar_span.h"
+#include "store/values/reading_forms.h"
 
 namespace lad {
 

@@ -9,11 +9,11 @@
 #include "core/db_cells.h"
 #include "core/ids.h"
 #include "core/json_text.h"
-#include "store/reading_forms.h"
 #include "store/records.h"
-#include "store/regimen.h"
 #include "store/store.h"
 #include "store/tables.h"
+#include "store/values/reading_forms.h"
+#include "store/values/regimen.h"
 
 namespace lad {
 

@@ -11,7 +11,7 @@
 #include "shell/pages.h"
 #include "shell/views/pages.h"
 #include "shell/views/rows.h"
-#include "store/reading_forms.h"
+#include "store/values/reading_forms.h"
 
 namespace lad::shell {
 

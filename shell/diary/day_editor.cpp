@@ -17,9 +17,9 @@
 #include "store/day_photo.h"
 #include "store/dictionary.h"
 #include "store/keywords.h"
-#include "store/reading_forms.h"
 #include "store/records.h"
-#include "store/today_note.h"
+#include "store/values/reading_forms.h"
+#include "store/values/today_note.h"
 
 namespace lad::shell {
 

@@ -12,10 +12,10 @@
 #include "shell/editor/row_picker.h"
 #include "shell/views/editors.h"
 #include "store/dictionary.h"
-#include "store/editor_value.h"
 #include "store/keywords.h"
 #include "store/profiles.h"
-#include "store/reading_forms.h"
+#include "store/values/editor_value.h"
+#include "store/values/reading_forms.h"
 
 namespace lad::shell {
 

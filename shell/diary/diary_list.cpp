@@ -17,7 +17,6 @@
 #include "shell/pages.h"
 #include "shell/question.h"
 #include "shell/views/diary.h"
-#include "store/calendar_span.h"
 #include "store/day_loader.h"
 #include "store/day_photo.h"
 #include "store/day_sections.h"
@@ -25,7 +24,8 @@
 #include "store/dictionary.h"
 #include "store/records.h"
 #include "store/setup_data.h"
-#include "store/today_note.h"
+#include "store/values/calendar_span.h"
+#include "store/values/today_note.h"
 
 namespace lad::shell {
 

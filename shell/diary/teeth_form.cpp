@@ -3,7 +3,7 @@
 #include "health/child_teeth.h"
 #include "shell/editor/detail_rows.h"
 #include "shell/editor/field_check.h"
-#include "store/reading_forms.h"
+#include "store/values/reading_forms.h"
 
 namespace lad::shell {
 

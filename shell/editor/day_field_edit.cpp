@@ -1,8 +1,8 @@
 #include "shell/editor/day_field_edit.h"
 
-#include "store/editor_value.h"
 #include "store/records.h"
 #include "store/store.h"
+#include "store/values/editor_value.h"
 
 namespace lad::shell {
 

@@ -4,7 +4,7 @@
 #include "shell/editor/detail_rows.h"
 #include "shell/editor/editor_view.h"
 #include "shell/editor/field_check.h"
-#include "store/editor_value.h"
+#include "store/values/editor_value.h"
 
 namespace lad::shell {
 

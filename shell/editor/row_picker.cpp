@@ -6,7 +6,7 @@
 #include "core/text_parts.h"
 #include "shell/editor/editor_view.h"
 #include "shell/views/editors.h"
-#include "store/picker_lists.h"
+#include "store/values/picker_lists.h"
 
 namespace lad::shell {
 

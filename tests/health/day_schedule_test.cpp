@@ -4,8 +4,8 @@
 
 #include "core/ids.h"
 #include "store/profiles.h"
-#include "store/regimen.h"
 #include "store/selections.h"
+#include "store/values/regimen.h"
 #include "tests/health/schedule_fixture.h"
 
 namespace lad::health {

@@ -6,7 +6,7 @@
 #include "store/first_launch.h"
 #include "store/pill_courses.h"
 #include "store/records.h"
-#include "store/regimen.h"
+#include "store/values/regimen.h"
 #include "tests/fixtures/diary_generator.h"
 #include "tests/store/store_fixture.h"
 

@@ -6,7 +6,7 @@
 #include "shell/editor/editor_view.h"
 #include "store/profiles.h"
 #include "store/records.h"
-#include "store/regimen.h"
+#include "store/values/regimen.h"
 #include "tests/fixtures/diary_generator.h"
 #include "tests/shell/application_fixture.h"
 

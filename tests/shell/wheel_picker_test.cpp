@@ -2,7 +2,7 @@
 
 #include <gtest/gtest.h>
 
-#include "store/picker_lists.h"
+#include "store/values/picker_lists.h"
 #include "tests/shell/application_fixture.h"
 
 namespace lad::shell {

@@ -5,10 +5,10 @@
 
 #include "core/ids.h"
 #include "core/json_text.h"
-#include "store/picker_lists.h"
-#include "store/pill_reading.h"
-#include "store/reading_forms.h"
-#include "store/value_conversion.h"
+#include "store/values/picker_lists.h"
+#include "store/values/pill_reading.h"
+#include "store/values/reading_forms.h"
+#include "store/values/value_conversion.h"
 #include "tests/support/test_files.h"
 
 namespace lad {

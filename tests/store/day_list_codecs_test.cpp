@@ -2,7 +2,7 @@
 
 #include "core/context.h"
 #include "core/json_text.h"
-#include "store/list_codecs.h"
+#include "store/values/list_codecs.h"
 #include "tests/support/test_files.h"
 
 namespace lad {

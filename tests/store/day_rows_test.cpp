@@ -2,7 +2,7 @@
 
 #include <gtest/gtest.h>
 
-#include "store/today_note.h"
+#include "store/values/today_note.h"
 #include "tests/store/day_fixture.h"
 
 namespace lad {

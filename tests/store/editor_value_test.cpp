@@ -1,4 +1,4 @@
-#include "store/editor_value.h"
+#include "store/values/editor_value.h"
 
 #include <gtest/gtest.h>
 

@@ -1,4 +1,4 @@
-#include "store/picker_lists.h"
+#include "store/values/picker_lists.h"
 
 #include <gtest/gtest.h>
 

@@ -9,7 +9,7 @@
 #include "store/dictionary.h"
 #include "store/first_launch.h"
 #include "store/records.h"
-#include "store/regimen.h"
+#include "store/values/regimen.h"
 #include "tests/store/store_fixture.h"
 
 namespace lad {

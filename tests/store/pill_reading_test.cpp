@@ -1,4 +1,4 @@
-#include "store/pill_reading.h"
+#include "store/values/pill_reading.h"
 
 #include <gtest/gtest.h>
 

@@ -1,4 +1,4 @@
-#include "store/value_conversion.h"
+#include "store/values/value_conversion.h"
 
 #include <gtest/gtest.h>
 

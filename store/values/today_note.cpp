@@ -1,13 +1,13 @@
-#include "store/today_note.h"
+#include "store/values/today_note.h"
 
 #include "core/context.h"
 #include "core/json_text.h"
 #include "core/text_fill.h"
 #include "store/day_rows.h"
 #include "store/keywords.h"
-#include "store/list_codecs.h"
-#include "store/pill_reading.h"
-#include "store/reading_forms.h"
+#include "store/values/list_codecs.h"
+#include "store/values/pill_reading.h"
+#include "store/values/reading_forms.h"
 
 namespace lad {
 

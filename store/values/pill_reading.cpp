@@ -1,4 +1,4 @@
-#include "store/pill_reading.h"
+#include "store/values/pill_reading.h"
 
 #include <algorithm>
 #include <array>
@@ -6,8 +6,8 @@
 
 #include "core/context.h"
 #include "core/word_forms.h"
-#include "store/reading_forms.h"
-#include "store/regimen.h"
+#include "store/values/reading_forms.h"
+#include "store/values/regimen.h"
 
 namespace lad {
 

@@ -1,4 +1,4 @@
-#include "store/regimen.h"
+#include "store/values/regimen.h"
 
 namespace lad {
 

@@ -1,10 +1,10 @@
-#include "store/list_codecs.h"
+#include "store/values/list_codecs.h"
 
 #include "core/json_text.h"
 #include "core/text_parts.h"
 #include "store/keywords.h"
-#include "store/pill_reading.h"
-#include "store/reading_forms.h"
+#include "store/values/pill_reading.h"
+#include "store/values/reading_forms.h"
 
 namespace lad {
 

@@ -1,4 +1,4 @@
-#include "store/calendar_span.h"
+#include "store/values/calendar_span.h"
 
 #include <chrono>
 

@@ -1,4 +1,4 @@
-#include "store/value_conversion.h"
+#include "store/values/value_conversion.h"
 
 #include <algorithm>
 #include <vector>
@@ -9,7 +9,7 @@
 #include "core/text_parts.h"
 #include "store/dictionary.h"
 #include "store/file_names.h"
-#include "store/picker_lists.h"
+#include "store/values/picker_lists.h"
 
 namespace lad {
 

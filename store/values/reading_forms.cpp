@@ -1,4 +1,4 @@
-#include "store/reading_forms.h"
+#include "store/values/reading_forms.h"
 
 #include <array>
 #include <utility>
