@@ -18,35 +18,20 @@ export function startServer(
   executable,
   dataDir,
   port,
-  lang = 'ru',
-  extraArgs = [],
-  env = process.env,
-  host = '127.0.0.1',
+  { lang = 'ru', extraArgs = [], env = process.env, host = '127.0.0.1' } = {},
 ) {
-  const args = [
-    'serve',
-    '--data',
-    dataDir,
-    '--listen',
-    `${host}:${port}`,
-    '--lang',
-    lang,
-    ...extraArgs,
-  ];
-  const child = spawn(executable, args, { stdio: ['ignore', 'pipe', 'pipe'], env });
+  const args = ['serve', '--data', dataDir, '--listen', `${host}:${port}`, '--lang', lang];
+  const child = spawn(executable, [...args, ...extraArgs], {
+    stdio: ['ignore', 'pipe', 'pipe'],
+    env,
+  });
   const server = { child, log: '', exit: null };
   const keep = (chunk) => (server.log = (server.log + chunk).slice(-8000));
   child.stdout.on('data', keep);
   child.stderr.on('data', keep);
   server.exited = new Promise((resolve) => {
-    child.on('error', (error) => {
-      server.exit = { error };
-      resolve(server.exit);
-    });
-    child.on('exit', (code, signal) => {
-      server.exit = { code, signal };
-      resolve(server.exit);
-    });
+    child.on('error', (error) => resolve((server.exit = { error })));
+    child.on('exit', (code, signal) => resolve((server.exit = { code, signal })));
   });
   return server;
 }
@@ -64,17 +49,13 @@ export function freePort() {
 
 export const sleep = (ms) => new Promise((resolve) => setTimeout(resolve, ms));
 
-export function describeExit(exit) {
-  return exit.error
-    ? `failed to start: ${exit.error.message}`
-    : `exited (code ${exit.code}, signal ${exit.signal})`;
-}
-
 // Probes with the manifest: the first view of a launch belongs to the browser, which is greeted.
 export async function waitUntilServing(server, base) {
   const deadline = Date.now() + START_TIMEOUT_MS;
   while (Date.now() < deadline) {
-    if (server.exit) throw new Error(`server ${describeExit(server.exit)} before answering`);
+    const { error, code, signal } = server.exit ?? {};
+    if (error) throw new Error(`server failed to start: ${error.message}`);
+    if (server.exit) throw new Error(`server exited (code ${code}, signal ${signal}) early`);
     const status = await fetch(`${base}/manifest.webmanifest`).then(
       (r) => r.status,
       () => 0,
@@ -85,18 +66,9 @@ export async function waitUntilServing(server, base) {
   throw new Error(`the server did not answer within ${START_TIMEOUT_MS / 1000} s`);
 }
 
-export const PHONE = {
-  viewport: { width: 390, height: 844 },
-  isMobile: true,
-  hasTouch: true,
-  deviceScaleFactor: 2,
-};
-export const TABLET = {
-  viewport: { width: 820, height: 1180 },
-  isMobile: true,
-  hasTouch: true,
-  deviceScaleFactor: 2,
-};
+const TOUCH = { isMobile: true, hasTouch: true, deviceScaleFactor: 2 };
+export const PHONE = { ...TOUCH, viewport: { width: 390, height: 844 } };
+export const TABLET = { ...TOUCH, viewport: { width: 820, height: 1180 } };
 
 export async function stopServer(server) {
   server.child.kill('SIGTERM');
@@ -117,7 +89,7 @@ export async function onNewInstallation(
 ) {
   const dataDir = fs.mkdtempSync(path.join(os.tmpdir(), `ladaneya-e2e-${name}-`));
   const port = await freePort();
-  const server = startServer(executable, dataDir, port, lang, extraArgs, env);
+  const server = startServer(executable, dataDir, port, { lang, extraArgs, env });
   const cleanup = () => {
     if (!server.exit) server.child.kill('SIGKILL');
     fs.rmSync(dataDir, { recursive: true, force: true });
@@ -163,6 +135,16 @@ export async function openPastGreeting(
   await page.waitForSelector('.row[data-id]');
   return { context, page, errors };
 }
+
+/** Fails on an uncaught error the page met, and closes its browser context. */
+export async function closeClean({ context, errors }) {
+  assert.deepEqual(errors, [], 'no uncaught errors in the page');
+  await context.close();
+}
+
+/** A screenshot as OUT/<name>.png: what the screen shows, or the whole page. */
+export const snap = (page, outDir, name, fullPage = false) =>
+  page.screenshot({ path: path.join(outDir, `${name}.png`), fullPage });
 
 /** Moves the server's test clock (a server started with --fake-clock) on by some seconds. */
 export async function advanceClock(page, seconds) {

@@ -7,6 +7,7 @@ import fs from 'node:fs';
 import os from 'node:os';
 import path from 'node:path';
 import {
+  closeClean,
   openPastGreeting,
   runBrowserTest,
   startServer,
@@ -60,7 +61,9 @@ runBrowserTest('worker', async ({ browser, base, executable, server, dataDir }) 
 
   await stopServer(server);
   const webDir = nextBuild(executable);
-  const next = startServer(executable, dataDir, new URL(base).port, 'ru', ['--web', webDir]);
+  const next = startServer(executable, dataDir, new URL(base).port, {
+    extraArgs: ['--web', webDir],
+  });
   try {
     await waitUntilServing(next, base);
     await page.reload(); // the browser looks for a new worker whenever it opens a page
@@ -75,6 +78,5 @@ runBrowserTest('worker', async ({ browser, base, executable, server, dataDir }) 
     if (!next.exit) next.child.kill('SIGKILL');
     fs.rmSync(webDir, { recursive: true, force: true });
   }
-  assert.deepEqual(errors, [], 'page errors');
-  await context.close();
+  await closeClean({ context, errors });
 });
