@@ -4,8 +4,15 @@
 // date wheel by a browser set to English.
 //   node tests/e2e/editor.test.mjs --server PATH_TO_SERVER --out SCREENSHOT_DIR
 import assert from 'node:assert/strict';
-import path from 'node:path';
-import { TABLET, openPastGreeting, runBrowserTest, until } from './harness.mjs';
+import {
+  TABLET,
+  closeClean,
+  drawnJpeg,
+  openPastGreeting,
+  runBrowserTest,
+  snap,
+  until,
+} from './harness.mjs';
 
 // Row kinds of the field editor, as the server and the renderer name them.
 const ROW_KIND = { text: 1002, scale: 1015 };
@@ -29,38 +36,16 @@ const SCALE_EDITOR = {
   ],
 };
 
+const ROST = 'input[data-field="field:rost"]';
+const VES = 'input[data-field="field:ves"]';
+/** Whether the settings show a portrait as a JPEG of their own. */
+const portraitShown = async (page) =>
+  /^data:image\/jpeg;base64,/.test(await page.getAttribute('.editor-photo-picture', 'src'));
+
 /** The settings row of the open card. */
 async function openSettings(page) {
   await page.tap('[data-id="menu:22"]');
   await page.waitForSelector('.editor');
-  assert.equal(await page.textContent('.editor .page-title'), 'Настройки');
-}
-
-/** A photo the size a phone's camera takes (12 megapixels), with grain, as a JPEG file. */
-async function cameraPhoto(page) {
-  const base64 = await page.evaluate(async () => {
-    const [width, height] = [4000, 3000];
-    const canvas = new OffscreenCanvas(width, height);
-    const g = canvas.getContext('2d');
-    const gradient = g.createLinearGradient(0, 0, width, height);
-    gradient.addColorStop(0, '#c86');
-    gradient.addColorStop(1, '#468');
-    g.fillStyle = gradient;
-    g.fillRect(0, 0, width, height);
-    const pixels = g.getImageData(0, 0, width, height);
-    for (let i = 0; i < pixels.data.length; i += 4) {
-      const grain = (Math.random() - 0.5) * 24;
-      for (let c = 0; c < 3; c += 1) pixels.data[i + c] += grain;
-    }
-    g.putImageData(pixels, 0, 0);
-    const blob = await canvas.convertToBlob({ type: 'image/jpeg', quality: 0.95 });
-    const bytes = new Uint8Array(await blob.arrayBuffer());
-    let text = '';
-    for (let i = 0; i < bytes.length; i += 0x8000)
-      text += String.fromCharCode(...bytes.subarray(i, i + 0x8000));
-    return btoa(text);
-  });
-  return { name: 'camera.jpg', mimeType: 'image/jpeg', buffer: Buffer.from(base64, 'base64') };
 }
 
 /** Holds the server's answers to changes of one field until released; records every change sent. */
@@ -77,6 +62,12 @@ async function holdAnswersTo(page, field) {
   });
   return { sent, release };
 }
+
+/** Waits until the editor shows a body index, which it computes from a height and a weight. */
+const indexShown = (page) =>
+  page.waitForFunction(
+    () => !document.querySelector('.editor-index')?.textContent?.includes('не определен'),
+  );
 
 /** Lets a held answer through and waits until it has redrawn the input of a field. */
 async function redrawWhileIn(page, held, field) {
@@ -102,26 +93,20 @@ async function typeThroughRedraws(page) {
   const sentValue = (held, field) =>
     held.sent.filter((e) => e.target === field).map((e) => e.value);
   let held = await holdAnswersTo(page, 'field:rost');
-  await page.fill('input[data-field="field:rost"]', '170');
-  await page.evaluate(() => document.querySelector('input[data-field="field:ves"]').select());
+  await page.fill(ROST, '170');
+  await page.$eval(VES, (input) => input.select());
   await redrawWhileIn(page, held, 'field:ves');
   await page.keyboard.insertText('61');
   await page.keyboard.press('Tab');
-  await page.waitForFunction(
-    () => !document.querySelector('.editor-index')?.textContent?.includes('не определен'),
-  );
+  await indexShown(page);
   assert.deepEqual(sentValue(held, 'field:ves'), ['61'], 'typed after the redraw');
   await page.unrouteAll({ behavior: 'wait' });
 
   held = await holdAnswersTo(page, 'field:rost');
-  await page.fill('input[data-field="field:rost"]', '165');
-  await page.fill('input[data-field="field:ves"]', '58');
+  await page.fill(ROST, '165');
+  await page.fill(VES, '58');
   await redrawWhileIn(page, held, 'field:ves');
-  assert.equal(
-    await page.inputValue('input[data-field="field:ves"]'),
-    '58',
-    'typed before the redraw',
-  );
+  assert.equal(await page.inputValue(VES), '58', 'typed before the redraw');
   await page.keyboard.press('Tab');
   await until('the weight sent', () => sentValue(held, 'field:ves').length > 0);
   await page.waitForFunction(() => !document.querySelector('.busy'));
@@ -132,46 +117,25 @@ async function typeThroughRedraws(page) {
 /** A camera photo shows as a preview, survives a reload of the page, and is saved. */
 async function choosePortrait(page, outDir) {
   const before = await page.getAttribute('.editor-photo-picture', 'src');
-  const photo = await cameraPhoto(page);
-  assert.ok(photo.buffer.length > 1024 * 1024, `a photo of ${photo.buffer.length} bytes`);
-  await page.setInputFiles('.editor-photo-input', photo);
+  // A photo the size a phone's camera takes (12 megapixels).
+  await page.setInputFiles('.editor-photo-input', await drawnJpeg(page, 4000, 3000));
   await page.waitForFunction(
     (src) => document.querySelector('.editor-photo-picture')?.getAttribute('src') !== src,
     before,
   );
-  assert.match(
-    await page.getAttribute('.editor-photo-picture', 'src'),
-    /^data:image\/jpeg;base64,/,
-    'a preview',
-  );
-  await page.fill('input[data-field="field:rost"]', '168');
-  await page.locator('input[data-field="field:rost"]').blur();
-  await page.fill('input[data-field="field:ves"]', '60');
-  await page.locator('input[data-field="field:ves"]').blur();
-  await page
-    .waitForFunction(
-      () => !document.querySelector('.editor-index')?.textContent?.includes('не определен'),
-    )
-    .catch(async () => {
-      const rost = await page.inputValue('input[data-field="field:rost"]');
-      const ves = await page.inputValue('input[data-field="field:ves"]');
-      throw new Error(
-        `no body index for ${rost} cm, ${ves} kg: ${await page.textContent('.editor-index')}`,
-      );
-    });
+  for (const [input, value] of [
+    [ROST, '168'],
+    [VES, '60'],
+  ]) {
+    await page.fill(input, value);
+    await page.locator(input).blur();
+  }
+  await indexShown(page);
   await page.reload();
   await page.waitForSelector('.editor');
-  assert.equal(
-    await page.inputValue('input[data-field="field:rost"]'),
-    '168',
-    'a sent field survives a reload',
-  );
-  assert.match(
-    await page.getAttribute('.editor-photo-picture', 'src'),
-    /^data:image\/jpeg;base64,/,
-    'and the portrait',
-  );
-  await page.screenshot({ path: path.join(outDir, 'editor-settings.png'), fullPage: true });
+  assert.equal(await page.inputValue(ROST), '168', 'a sent field survives a reload');
+  assert.ok(await portraitShown(page), 'and the portrait');
+  await snap(page, outDir, 'editor-settings', true);
   await page.tap('button[data-id="editor:ok"]');
   await page.waitForSelector('.editor', { state: 'detached' });
 }
@@ -184,7 +148,7 @@ async function removeAfterQuestion(page, outDir) {
     await page.textContent('.popup-cover .message-text'),
     'Вы действительно хотите удалить эту учетную запись?',
   );
-  await page.screenshot({ path: path.join(outDir, 'editor-removal.png') });
+  await snap(page, outDir, 'editor-removal');
   await page.tap('.popup-cover button[data-id="popup:0"]');
   await page.waitForSelector('.popup-cover', { state: 'detached' });
   assert.ok(await page.$('.editor'), 'the settings stay after "Нет"');
@@ -225,7 +189,7 @@ async function slideScale(page, outDir) {
   // Ten steps of 0.1 to the right.
   await page.evaluate(() => (document.querySelector('.scale-ruler').scrollLeft += 80));
   await page.waitForFunction(() => document.querySelector('.scale-value')?.textContent === '37.6');
-  await page.screenshot({ path: path.join(outDir, 'editor-scale.png') });
+  await snap(page, outDir, 'editor-scale');
   await until('the value at rest sent', () => sent.length > 0);
   assert.deepEqual(
     sent,
@@ -237,9 +201,9 @@ async function slideScale(page, outDir) {
 
 /** On a phone set to English a date still reads "dd.MM.yyyy" and is chosen on the diary's own
  *  date wheel: day, month by name, year. */
-async function pickDateOnTheWheel(browser, base, outDir, device, name) {
+async function pickDateOnTheWheel(browser, base, outDir) {
   const { context, page, errors } = await openPastGreeting(browser, base, {
-    device: { ...device, locale: 'en-US' },
+    device: { ...TABLET, locale: 'en-US' },
   });
   await page.tap('.card[data-id]');
   await openSettings(page);
@@ -258,7 +222,7 @@ async function pickDateOnTheWheel(browser, base, outDir, device, name) {
     const row = wheel.querySelector('.wheel-row');
     return Math.round(wheel.scrollTop / row.offsetHeight) === 14;
   });
-  await page.screenshot({ path: path.join(outDir, `editor-date-wheel-${name}.png`) });
+  await snap(page, outDir, 'editor-date-wheel-tablet');
   await page.tap('.popup-cover button[data-id="popup:1"]');
   await page.waitForSelector('.popup-cover', { state: 'detached' });
   await page.waitForFunction(
@@ -271,12 +235,11 @@ async function pickDateOnTheWheel(browser, base, outDir, device, name) {
     'month and year kept',
   );
   await page.tap('button[data-id="editor:cancel"]');
-  assert.deepEqual(errors, [], 'no uncaught errors in the page');
-  await context.close();
+  await closeClean({ context, errors });
 }
 
 await runBrowserTest('editor', async ({ browser, base, outDir }) => {
-  await pickDateOnTheWheel(browser, base, outDir, TABLET, 'tablet');
+  await pickDateOnTheWheel(browser, base, outDir);
   const { context, page, errors } = await openPastGreeting(browser, base, {
     serviceWorkers: 'block',
   });
@@ -285,13 +248,8 @@ await runBrowserTest('editor', async ({ browser, base, outDir }) => {
   await typeThroughRedraws(page);
   await choosePortrait(page, outDir);
   await openSettings(page);
-  assert.match(
-    await page.getAttribute('.editor-photo-picture', 'src'),
-    /^data:image\/jpeg;base64,/,
-    'the saved portrait',
-  );
+  assert.ok(await portraitShown(page), 'the saved portrait');
   await removeAfterQuestion(page, outDir);
   await slideScale(page, outDir);
-  assert.deepEqual(errors, [], 'no uncaught errors in the page');
-  await context.close();
+  await closeClean({ context, errors });
 });

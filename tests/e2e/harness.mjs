@@ -146,6 +146,34 @@ export async function closeClean({ context, errors }) {
 export const snap = (page, outDir, name, fullPage = false) =>
   page.screenshot({ path: path.join(outDir, `${name}.png`), fullPage });
 
+/** A JPEG file drawn by the page, `width` by `height`: a gradient with grain, as a photo has. */
+export async function drawnJpeg(page, width, height) {
+  const url = await page.evaluate(
+    ([w, h]) => {
+      const canvas = Object.assign(document.createElement('canvas'), { width: w, height: h });
+      const g = canvas.getContext('2d');
+      const gradient = g.createLinearGradient(0, 0, w, h);
+      gradient.addColorStop(0, '#c86');
+      gradient.addColorStop(1, '#468');
+      g.fillStyle = gradient;
+      g.fillRect(0, 0, w, h);
+      const pixels = g.getImageData(0, 0, w, h);
+      for (let i = 0; i < pixels.data.length; i += 4) {
+        const grain = (Math.random() - 0.5) * 24;
+        for (let c = 0; c < 3; c += 1) pixels.data[i + c] += grain;
+      }
+      g.putImageData(pixels, 0, 0);
+      return canvas.toDataURL('image/jpeg', 0.95);
+    },
+    [width, height],
+  );
+  return {
+    name: 'drawn.jpg',
+    mimeType: 'image/jpeg',
+    buffer: Buffer.from(url.split(',')[1], 'base64'),
+  };
+}
+
 /** Moves the server's test clock (a server started with --fake-clock) on by some seconds. */
 export async function advanceClock(page, seconds) {
   const status = await page.evaluate(
