@@ -236,9 +236,12 @@ export async function createPregnancy(page, { name, daysAgo = 0 }) {
   await openCard(page, name);
 }
 
-/** The card of the pregnancy with that name, opened. */
+/** The card of the pregnancy with that name (the first card unless named), opened. */
 export async function openCard(page, name) {
-  await page.locator('.card', { hasText: name }).tap();
+  await page
+    .locator('.card[data-id]', name && { hasText: name })
+    .first()
+    .tap();
   await page.waitForSelector('.card.open');
 }
 
