@@ -8,18 +8,21 @@ import fs from 'node:fs';
 import path from 'node:path';
 import {
   TABLET,
+  closeClean,
   createPregnancy,
+  drawnJpeg,
   dayField,
   openCard,
   openPastGreeting,
   runBrowserTest,
   settled,
+  snap,
 } from './harness.mjs';
 
 const NAME = 'Фотокнига Анны';
 
 /** Today with a weight and a photo, and yesterday with a photo alone. */
-async function recordPhotoDays(page, dataDir) {
+async function recordPhotoDays(page) {
   await page.tap('[data-id="menu:8"]');
   await page.tap('.ring-page .diary-add');
   await page.waitForSelector('.day-editor');
@@ -28,8 +31,7 @@ async function recordPhotoDays(page, dataDir) {
   await weight.blur();
   await settled(page);
   for (const day of ['today', 'yesterday']) {
-    const photo = path.join(dataDir, `${day}.png`);
-    fs.writeFileSync(photo, await page.screenshot());
+    const photo = await drawnJpeg(page, 640, 480);
     await page.setInputFiles('.day-photo-input:not(:first-child) input', photo);
     await page.waitForSelector('.day-photo-picture[src^="data:image/jpeg"]');
     if (day === 'today') {
@@ -47,19 +49,10 @@ async function recordPhotoDays(page, dataDir) {
 async function openBook(page, outDir, device) {
   await page.tap('[data-id="menu:23"]');
   await page.waitForSelector('[data-id="book:kind:5"]');
-  await page.screenshot({ path: path.join(outDir, `book-kinds-${device}.png`) });
+  await snap(page, outDir, `book-kinds-${device}`);
   await page.tap('[data-id="book:kind:2"]');
   await page.waitForSelector('.book button[data-id="book:save"]:not([disabled])');
 }
-
-const thumbnails = (page) =>
-  page.$$eval('.book-page', (pages) =>
-    pages.map((p) => ({
-      label: p.querySelector('.book-page-label')?.textContent,
-      picture: p.querySelector('img')?.getAttribute('src'),
-      loaded: (p.querySelector('img')?.naturalWidth ?? 0) > 0,
-    })),
-  );
 
 /** Waits until every thumbnail on the page has its picture. */
 async function thumbnailsLoaded(page) {
@@ -87,7 +80,7 @@ async function rearrange(page, outDir, device) {
   await page.fill('.book-label', 'Первые снимки');
   await page.locator('.book-label').blur();
   await settled(page);
-  await page.screenshot({ path: path.join(outDir, `book-edit-${device}.png`) });
+  await snap(page, outDir, `book-edit-${device}`);
   await page.tap('.book-editor button[data-id="book:edit-ok"]');
   await page.waitForFunction((b) => {
     const img = document.querySelector('.book-page:has(.book-edit) img');
@@ -96,25 +89,24 @@ async function rearrange(page, outDir, device) {
   await page.waitForSelector('.book button[data-id="book:save"]:not([disabled])');
 }
 
-async function checkPhone(browser, base, outDir, dataDir) {
+async function checkPhone(browser, base, outDir) {
   const { context, page, errors } = await openPastGreeting(browser, base);
   await createPregnancy(page, { name: NAME, daysAgo: 90 });
-  await recordPhotoDays(page, dataDir);
+  await recordPhotoDays(page);
   await openBook(page, outDir, 'phone');
   await thumbnailsLoaded(page);
-  const pages = await thumbnails(page);
-  assert.deepEqual(
-    pages.slice(0, 3).map((p) => p.label),
-    ['Суперобложка', 'Обложка', 'Страница 1'],
+  const pages = await page.$$eval('.book-page', (all) =>
+    all.map((p) => p.querySelector('.book-page-label')?.textContent),
   );
-  await page.screenshot({ path: path.join(outDir, 'book-pages-phone.png'), fullPage: true });
+  assert.deepEqual(pages.slice(0, 3), ['Суперобложка', 'Обложка', 'Страница 1']);
+  await snap(page, outDir, 'book-pages-phone', true);
 
   await page.tap('.book-thumb >> nth=1');
   await page.waitForFunction(() => {
     const img = document.querySelector('.book-large-picture');
     return img?.complete && img.naturalWidth > 0;
   });
-  await page.screenshot({ path: path.join(outDir, 'book-large-phone.png') });
+  await snap(page, outDir, 'book-large-phone');
   await page.tap('.book-large button[data-id="book:large-close"]');
   await page.waitForSelector('.book-large', { state: 'detached' });
 
@@ -122,9 +114,7 @@ async function checkPhone(browser, base, outDir, dataDir) {
   await thumbnailsLoaded(page);
 
   // A page added from a photo comes last; deleted, it goes again.
-  const photo = path.join(dataDir, 'added.png');
-  fs.writeFileSync(photo, await page.screenshot());
-  await page.setInputFiles('.book-body .day-photo-input input', photo);
+  await page.setInputFiles('.book-body .day-photo-input input', await drawnJpeg(page, 640, 480));
   await page.waitForFunction(
     (n) => document.querySelectorAll('.book-page').length === n + 1,
     pages.length,
@@ -138,8 +128,7 @@ async function checkPhone(browser, base, outDir, dataDir) {
 
   await page.tap('.book button[data-id="book:save"]');
   await page.waitForSelector('.report[data-state="done"]');
-  assert.match(await page.textContent('.report'), /Ваша фотокнига сформирована/);
-  await page.screenshot({ path: path.join(outDir, 'book-saved-phone.png') });
+  await snap(page, outDir, 'book-saved-phone');
   const [download] = await Promise.all([
     page.waitForEvent('download'),
     page.tap('.report a[download]'),
@@ -149,8 +138,7 @@ async function checkPhone(browser, base, outDir, dataDir) {
   const text = fs.readFileSync(pdf, 'latin1');
   assert.ok(text.startsWith('%PDF-'));
   assert.equal(text.match(/\/Type\s*\/Page\b/g)?.length, pages.length, 'a PDF page a book page');
-  assert.deepEqual(errors, [], 'page errors');
-  await context.close();
+  await closeClean({ context, errors });
 }
 
 async function checkTablet(browser, base, outDir) {
@@ -158,15 +146,14 @@ async function checkTablet(browser, base, outDir) {
   await openCard(page, NAME);
   await openBook(page, outDir, 'tablet');
   await thumbnailsLoaded(page);
-  await page.screenshot({ path: path.join(outDir, 'book-pages-tablet.png') });
+  await snap(page, outDir, 'book-pages-tablet');
   await rearrange(page, outDir, 'tablet');
   await page.tap('.book button[data-id="book:close"]');
   await page.waitForSelector('.book', { state: 'detached' });
-  assert.deepEqual(errors, [], 'page errors');
-  await context.close();
+  await closeClean({ context, errors });
 }
 
-await runBrowserTest('book', async ({ browser, base, outDir, dataDir }) => {
-  await checkPhone(browser, base, outDir, dataDir);
+await runBrowserTest('book', async ({ browser, base, outDir }) => {
+  await checkPhone(browser, base, outDir);
   await checkTablet(browser, base, outDir);
 });

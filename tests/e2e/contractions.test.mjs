@@ -3,8 +3,15 @@
 // timed across a locked screen.
 //   node tests/e2e/contractions.test.mjs --server PATH_TO_SERVER --out SCREENSHOT_DIR
 import assert from 'node:assert/strict';
-import path from 'node:path';
-import { advanceClock, boxesOf, openPastGreeting, runBrowserTest } from './harness.mjs';
+import {
+  advanceClock,
+  boxesOf,
+  closeClean,
+  openPastGreeting,
+  runBrowserTest,
+  snap,
+  waitForText,
+} from './harness.mjs';
 
 const TOO_FEW =
   'Данных мало. Нужно минимум 4 схватки (3 интервала между ними), чтобы начать определение тенденции.';
@@ -13,30 +20,6 @@ const NO_DATA =
 const ALARM_START = 'Внимание! Частота схваток увеличивается. И как минимум 3 из них';
 const START = '[data-id="contractions:start"]';
 const STOP = '[data-id="contractions:stop"]';
-
-/** Waits until the element's text passes the test; a timeout names what was awaited and what
- *  was shown instead. */
-async function waitForText(page, selector, expected, prefix = false) {
-  await page
-    .waitForFunction(
-      ([sel, text, startsWith]) => {
-        const shown = document.querySelector(sel)?.textContent ?? '';
-        return startsWith ? shown.startsWith(text) : shown === text;
-      },
-      [selector, expected, prefix],
-    )
-    .catch(async () => {
-      const shown = await page.evaluate(
-        (sel) => document.querySelector(sel)?.textContent,
-        selector,
-      );
-      throw new Error(`${selector} shows "${shown}", not "${expected}"`);
-    });
-}
-
-async function trendText(page) {
-  return page.textContent('[data-info="trend"]');
-}
 
 /** Times one contraction of `length` seconds after a pause of `pause` seconds. */
 async function timeOne(page, pause, length) {
@@ -108,7 +91,7 @@ async function checkCounter(browser, base, outDir) {
 
   await page.goto(`${base}/?shortcut=SCHVATKI`);
   await page.waitForSelector('[data-info="trend"]');
-  assert.equal(await trendText(page), NO_DATA, 'an empty counter asks for the first contraction');
+  await waitForText(page, '[data-info="trend"]', NO_DATA);
   const charts = (await boxesOf(page, '.ring-page .chart svg')).map((box) => box.width > 0);
   assert.deepEqual(charts, [true, true], 'both charts are drawn');
 
@@ -116,21 +99,13 @@ async function checkCounter(browser, base, outDir) {
   await timeOne(page, 300, 45);
   await timeOne(page, 290, 50);
   await waitForText(page, '[data-info="trend"]', TOO_FEW);
-  assert.equal(
-    await page.$$eval('.ring-page .list .row', (rows) => rows.length),
-    3,
-    'three rows in the list',
-  );
-  await page.screenshot({ path: path.join(outDir, 'contractions-three.png'), fullPage: true });
+  assert.equal(await page.locator('.ring-page .list .row').count(), 3, 'three rows in the list');
+  await snap(page, outDir, 'contractions-three', true);
 
   await timeOne(page, 280, 55);
-  await waitForText(page, '[data-info="trend"]', ALARM_START, true);
-  assert.equal(
-    await page.getAttribute('[data-info="trend"]', 'data-regim'),
-    '3',
-    'the trend is an alarm',
-  );
-  await page.screenshot({ path: path.join(outDir, 'contractions-trend.png'), fullPage: true });
+  await waitForText(page, '[data-info="trend"]', ALARM_START, 'starts');
+  assert.equal(await page.getAttribute('[data-info="trend"]', 'data-regim'), '3', 'an alarm');
+  await snap(page, outDir, 'contractions-trend', true);
 
   // A swipe to the left offers the delete button; tapping it removes the row. The running view
   // has faded out first, so no tick redraws the list under the gesture.
@@ -141,8 +116,7 @@ async function checkCounter(browser, base, outDir) {
   await row.locator('button.delete').click();
   await page.waitForFunction(() => document.querySelectorAll('.ring-page .list .row').length === 3);
   await waitForText(page, '[data-info="trend"]', TOO_FEW);
-  assert.deepEqual(errors, [], 'no uncaught errors in the page');
-  await context.close();
+  await closeClean({ context, errors });
 }
 
 /** A second phone times a contraction across its locked screen. */
@@ -151,8 +125,7 @@ async function checkLockedScreen(browser, base) {
   await page.goto(`${base}/?shortcut=SCHVATKI`);
   await page.waitForSelector(START);
   await timeAcrossTheLock(page);
-  assert.deepEqual(errors, [], 'no uncaught errors in the page');
-  await context.close();
+  await closeClean({ context, errors });
 }
 
 await runBrowserTest(

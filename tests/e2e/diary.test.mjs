@@ -9,11 +9,14 @@ import fs from 'node:fs';
 import path from 'node:path';
 import {
   TABLET,
+  closeClean,
   dayField as fieldRow,
+  drawnJpeg,
   onNewInstallation,
   openPastGreeting,
   runBrowserTest,
   settled,
+  snap,
 } from './harness.mjs';
 
 const EDITIONS = [
@@ -31,14 +34,14 @@ async function openDiary(page) {
 
 /** Opens a field's form from the day editor, runs `fill`, and commits it. */
 async function editField(page, icon, fill) {
-  await page.tap(`${fieldRow(icon)}`);
+  await page.tap(fieldRow(icon));
   await page.waitForSelector('.editor');
   await fill();
   await page.tap('.editor-ok');
   await page.waitForSelector('.day-editor');
 }
 
-async function recordDay(page, edition, photo) {
+async function recordDay(page, edition) {
   await page.tap('.diary-add');
   await page.waitForSelector('.day-editor');
   const weight = page.locator(`${fieldRow('ne-weight.png')} input`);
@@ -56,7 +59,10 @@ async function recordDay(page, edition, photo) {
     page.fill('[data-field="field:text"]', 'Первое шевеление'),
   );
   await editField(page, edition.dictionaryRow, () => page.tap('.editor-entry >> nth=0'));
-  await page.setInputFiles('.day-photo-input:not(:first-child) input', photo);
+  await page.setInputFiles(
+    '.day-photo-input:not(:first-child) input',
+    await drawnJpeg(page, 640, 480),
+  );
   await page.waitForSelector('.day-photo-picture[src^="data:image/jpeg"]');
 }
 
@@ -91,19 +97,9 @@ async function swipeAndDelete(page) {
   }
 }
 
-/** A photo file of the day's, full size or small, kept among the pictures. */
-function dayPictures(dataDir) {
-  const found = [];
-  const walk = (dir) => {
-    for (const entry of fs.readdirSync(dir, { withFileTypes: true })) {
-      const full = path.join(dir, entry.name);
-      if (entry.isDirectory()) walk(full);
-      else if (/\d\d-\d\d-\d{4}(-s)?\.jpg$/.test(entry.name)) found.push(full);
-    }
-  };
-  walk(dataDir);
-  return found;
-}
+/** The photo files of days, full size or small, kept in the data folder. */
+const dayPictures = (dataDir) =>
+  fs.readdirSync(dataDir, { recursive: true }).filter((f) => /\d\d-\d\d-\d{4}(-s)?\.jpg$/.test(f));
 
 async function checkEdition(browser, executable, edition, outDir) {
   const server = path.join(path.dirname(executable), edition.program);
@@ -111,11 +107,10 @@ async function checkEdition(browser, executable, edition, outDir) {
     server,
     async ({ base, dataDir }) => {
       const { context, page, errors } = await openPastGreeting(browser, base);
-      const photo = path.join(dataDir, 'photo.png');
-      fs.writeFileSync(photo, await page.screenshot());
       await openDiary(page);
-      await recordDay(page, edition, photo);
-      await page.screenshot({ path: path.join(outDir, `diary-${edition.program}-editor.png`) });
+      await recordDay(page, edition);
+      const shot = (p, what) => snap(p, outDir, `diary-${edition.program}-${what}`);
+      await shot(page, 'editor');
       await page.tap('.day-editor .editor-ok');
       await page.waitForSelector('.diary .day-cell.today');
 
@@ -130,7 +125,7 @@ async function checkEdition(browser, executable, edition, outDir) {
       });
       assert.match(section, edition.section);
       assert.equal(dayPictures(dataDir).length, 2, 'the photo and its small copy');
-      await page.screenshot({ path: path.join(outDir, `diary-${edition.program}-list.png`) });
+      await shot(page, 'list');
 
       await searchFinds(page, 'вес');
       await searchFinds(page, 'ВЕС');
@@ -165,21 +160,16 @@ async function checkEdition(browser, executable, edition, outDir) {
       await page.waitForFunction(
         () => !/Шевеление/.test(document.querySelector('.day-cell.today')?.textContent ?? ''),
       );
-      assert.deepEqual(dayPictures(dataDir), []);
-      assert.deepEqual(errors, []);
-      await context.close();
+      assert.deepEqual(dayPictures(dataDir), [], 'the photo files go with the day');
+      await closeClean({ context, errors });
 
       const tablet = await openPastGreeting(browser, base, { device: TABLET });
       await openDiary(tablet.page);
-      await tablet.page.screenshot({
-        path: path.join(outDir, `diary-${edition.program}-list-tablet.png`),
-      });
+      await shot(tablet.page, 'list-tablet');
       await tablet.page.tap('.diary-add');
       await tablet.page.waitForSelector('.day-editor');
-      await tablet.page.screenshot({
-        path: path.join(outDir, `diary-${edition.program}-editor-tablet.png`),
-      });
-      await tablet.context.close();
+      await shot(tablet.page, 'editor-tablet');
+      await closeClean(tablet);
     },
     { name: edition.program },
   );

@@ -281,12 +281,17 @@ export async function typeCode(page, code) {
   for (const digit of code) await page.tap(`button[data-id="lock:${digit}"]`);
 }
 
-/** Waits until the lock's caption reads `text`. */
-export async function captionIs(page, text) {
-  await page.waitForFunction(
-    (t) => document.querySelector('.lock-caption')?.textContent === t,
-    text,
-  );
+/** Waits until the element's text is `text`, or with `how` 'starts' or 'has' starts with it or
+ *  holds it; a timeout says what it showed instead. */
+export async function waitForText(page, selector, text, how = 'is') {
+  const holds = ([s, t, h]) => {
+    const shown = document.querySelector(s)?.textContent ?? '';
+    return h === 'starts' ? shown.startsWith(t) : h === 'has' ? shown.includes(t) : shown === t;
+  };
+  await page.waitForFunction(holds, [selector, text, how]).catch(async () => {
+    const shown = await page.textContent(selector, { timeout: 1000 }).catch(() => null);
+    throw new Error(`${selector} shows "${shown}", not (${how}) "${text}"`);
+  });
 }
 
 /**

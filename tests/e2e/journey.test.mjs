@@ -11,7 +11,6 @@ import {
   PHONE,
   TABLET,
   boxesOf,
-  captionIs,
   closeClean,
   freePort,
   onNewInstallation,
@@ -21,6 +20,7 @@ import {
   snap,
   startServer,
   typeCode,
+  waitForText,
 } from './harness.mjs';
 
 const CODE = '2468';
@@ -90,18 +90,18 @@ async function swipeThroughPages(page, outDir, device) {
 
 async function lockAndUnlock(page, outDir, device) {
   await page.tap('[data-id="menu:52"]');
-  await captionIs(page, 'Введите новый пароль');
+  await waitForText(page, '.lock-caption', 'Введите новый пароль');
   await typeCode(page, CODE);
-  await captionIs(page, 'Введите пароль еще раз');
+  await waitForText(page, '.lock-caption', 'Введите пароль еще раз');
   await typeCode(page, CODE);
   await page.tap('.message button');
   await page.waitForSelector('[data-id="menu:52"] .switch[aria-checked="true"]');
   await page.context().clearCookies(); // a browser the installation has not seen yet
   await page.reload();
-  await captionIs(page, 'Введите пароль');
+  await waitForText(page, '.lock-caption', 'Введите пароль');
   assert.equal(await page.$('.card'), null, 'nothing of the diary behind the lock');
   await typeCode(page, '0000');
-  await captionIs(page, 'Пароль указан неправильно');
+  await waitForText(page, '.lock-caption', 'Пароль указан неправильно');
   await shot(page, outDir, device, 'lock');
   await typeCode(page, CODE);
   await page.locator('.card', { hasText: NAME }).waitFor();
