@@ -146,6 +146,14 @@ export async function closeClean({ context, errors }) {
 export const snap = (page, outDir, name, fullPage = false) =>
   page.screenshot({ path: path.join(outDir, `${name}.png`), fullPage });
 
+/** The whole page as OUT/<name>.png at the phone's size, then at the tablet's as <name>-tablet. */
+export async function snapBoth(page, outDir, name) {
+  await snap(page, outDir, name, true);
+  await page.setViewportSize(TABLET.viewport);
+  await snap(page, outDir, `${name}-tablet`, true);
+  await page.setViewportSize(PHONE.viewport);
+}
+
 /** A JPEG file drawn by the page, `width` by `height`: a gradient with grain, as a photo has. */
 export async function drawnJpeg(page, width, height) {
   const url = await page.evaluate(

@@ -4,26 +4,19 @@
 // suite's). Screenshots of the schedule and the dialog at phone and tablet size.
 //   node tests/e2e/inday.test.mjs --server PATH_TO_SERVER --out SCREENSHOT_DIR
 import assert from 'node:assert/strict';
-import path from 'node:path';
 import {
-  PHONE,
-  TABLET,
+  closeClean,
   createPregnancy,
+  dayField,
   openPastGreeting,
   pickOnWheels,
   runBrowserTest,
   settled,
+  snapBoth,
 } from './harness.mjs';
 
-const PILLS_ROW = '.day-field:has(img[src$="/ne-pills128.png"])';
+const PILLS_ROW = dayField('ne-pills128.png');
 const RELATION = 'Перед едой';
-
-async function screenshots(page, name, outDir) {
-  await page.screenshot({ path: path.join(outDir, `${name}.png`), fullPage: true });
-  await page.setViewportSize(TABLET.viewport);
-  await page.screenshot({ path: path.join(outDir, `${name}-tablet.png`), fullPage: true });
-  await page.setViewportSize(PHONE.viewport);
-}
 
 /** Chooses the entry of a dictionary field of the medicine form. */
 async function chooseEntry(page, field, caption) {
@@ -55,15 +48,14 @@ await runBrowserTest('inday', async ({ browser, base, outDir }) => {
   await writeCourse(page);
   await page.tap('[data-id="menu:2"]');
   await page.waitForSelector('.ring-page .schedule-relation');
-  await screenshots(page, 'inday', outDir);
+  await snapBoth(page, outDir, 'inday');
 
   await page.tap('.ring-page .schedule-meals');
   await page.waitForSelector('.editor [data-field="field:time1"]');
-  assert.equal(await page.inputValue('[data-field="field:time1"]'), '09:00');
   await page.fill('[data-field="field:time1"]', '07:30');
   await page.fill('[data-field="field:time3"]', '23:58');
   await settled(page);
-  await screenshots(page, 'inday-meals', outDir);
+  await snapBoth(page, outDir, 'inday-meals');
   await page.tap('.editor-ok');
   await page.waitForSelector('.ring-page .schedule');
 
@@ -72,7 +64,7 @@ await runBrowserTest('inday', async ({ browser, base, outDir }) => {
     () =>
       document.querySelector('.ring-page .schedule-meal .schedule-right')?.textContent === 'ужин',
   );
-  await screenshots(page, 'inday-after', outDir);
+  await snapBoth(page, outDir, 'inday-after');
 
   // The day before has no course; the dialog opens with the times stored.
   await page.tap('.ring-page .diary-year button >> nth=0');
@@ -81,6 +73,5 @@ await runBrowserTest('inday', async ({ browser, base, outDir }) => {
   assert.equal(await page.inputValue('[data-field="field:time1"]'), '07:30');
   assert.equal(await page.inputValue('[data-field="field:time3"]'), '23:58');
   await page.tap('.editor-cancel');
-  assert.deepEqual(errors, []);
-  await context.close();
+  await closeClean({ context, errors });
 });
