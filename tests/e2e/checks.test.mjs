@@ -6,22 +6,19 @@
 //   node tests/e2e/checks.test.mjs --server PATH_TO_SERVER --out SCREENSHOT_DIR
 import assert from 'node:assert/strict';
 import fs from 'node:fs';
-import path from 'node:path';
 import {
   PHONE,
   TABLET,
+  closeClean,
   createPregnancy,
   openCard,
   openPastGreeting,
   runBrowserTest,
+  snap,
 } from './harness.mjs';
 
-async function openProfile(page) {
-  if ((await page.locator('.card[data-id]').count()) > 0) await page.tap('.card[data-id]');
-}
-
 async function tickPlanItem(page, shot) {
-  await openProfile(page);
+  await openCard(page);
   await page.tap('[data-id="menu:7"]');
   const box = page.locator('.content[data-content="doctor"] .content-tick').first();
   await box.waitFor();
@@ -35,8 +32,7 @@ async function tickPlanItem(page, shot) {
   await shot('plan-editor');
   await page.tap('button[data-id="editor:ok"]');
   await page.waitForSelector('.editor', { state: 'detached' });
-  const ticked = page.locator('.content[data-content="doctor"] .content-tick').first();
-  assert.equal(await ticked.getAttribute('aria-pressed'), 'true');
+  assert.equal(await box.getAttribute('aria-pressed'), 'true', 'the item is ticked');
   return text;
 }
 
@@ -90,18 +86,15 @@ async function tickHospitalItem(page, shot) {
 }
 
 await runBrowserTest('checks', async ({ browser, base, outDir }) => {
-  const shots = (page, device) => (what) =>
-    page.screenshot({ path: path.join(outDir, `checks-${what}-${device}.png`) });
+  const shots = (page, device) => (what) => snap(page, outDir, `checks-${what}-${device}`);
 
   const phone = await openPastGreeting(browser, base, { device: PHONE });
   const text = await tickPlanItem(phone.page, shots(phone.page, 'phone'));
   await findInDiary(phone.page, text);
   await readWeekNotice(phone.page, shots(phone.page, 'phone'));
-  assert.deepEqual(phone.errors, []);
-  await phone.context.close();
+  await closeClean(phone);
 
   const tablet = await openPastGreeting(browser, base, { device: TABLET });
   await tickHospitalItem(tablet.page, shots(tablet.page, 'tablet'));
-  assert.deepEqual(tablet.errors, []);
-  await tablet.context.close();
+  await closeClean(tablet);
 });

@@ -10,9 +10,11 @@ import path from 'node:path';
 import {
   PHONE,
   TABLET,
+  closeClean,
   onNewInstallation,
   openPastGreeting,
   runBrowserTest,
+  snap,
   until,
 } from './harness.mjs';
 
@@ -63,9 +65,8 @@ await runBrowserTest('cloud', async ({ browser, base, outDir, executable }) => {
       files.some((f) => /^CLOUD-1-[0-9A-F-]+\.dat$/i.test(f)),
       `a profile file among ${files}`,
     );
-    assert.deepEqual([...phone.errors, ...tablet.errors], [], 'page errors');
-    await phone.context.close();
-    await tablet.context.close();
+    await closeClean(phone);
+    await closeClean(tablet);
 
     // Another installation on the same folder reads it whole.
     await onNewInstallation(
@@ -79,7 +80,7 @@ await runBrowserTest('cloud', async ({ browser, base, outDir, executable }) => {
         });
         // The menu may be drawn again at any moment as passes run: no handle is kept.
         await page.evaluate((row) => document.querySelector(row)?.scrollIntoView(), CLOUD_ROW);
-        await page.screenshot({ path: path.join(outDir, 'cloud-second-phone.png') });
+        await snap(page, outDir, 'cloud-second-phone');
         await context.close();
       },
       { extraArgs: ['--cloud', folder], name: 'cloud-second' },

@@ -4,15 +4,17 @@
 // phone and tablet size.
 //   node tests/e2e/title.test.mjs --server PATH_TO_SERVER --out SCREENSHOT_DIR
 import assert from 'node:assert/strict';
-import path from 'node:path';
 import {
   TABLET,
+  closeClean,
   createPregnancy,
   dayField,
   openCard,
   openPastGreeting,
   runBrowserTest,
   settled,
+  snap,
+  waitForText,
 } from './harness.mjs';
 
 const NAME = 'Ульяна';
@@ -48,12 +50,7 @@ async function recordUltrasound(page) {
   await page.waitForTimeout(700);
   await settled(page);
   await page.tap('.editor-ok');
-  await page.waitForFunction(() =>
-    /35\.0.*1\.5/s.test(
-      document.querySelector('.day-field:has(img[src$="/ne-uzi128.png"]) .day-row-text')
-        ?.textContent ?? '',
-    ),
-  );
+  await waitForText(page, `${dayField('ne-uzi128.png')} .day-row-text`, '35.0', 'has');
   await page.tap('.day-editor .editor-ok');
   await page.waitForSelector('.diary .day-cell.today');
 }
@@ -77,17 +74,13 @@ await runBrowserTest('title', async ({ browser, base, outDir }) => {
   assert.match(development, /\d+\.\d гр\.\d+\.\d мм\./, "today's size beside the balloon");
   assert.match(length, /\|350\.0/, 'the ultrasound length in millimetres');
   assert.match(weight, /\|1500\.0/, 'the ultrasound weight in grams');
-  await page.screenshot({ path: path.join(outDir, 'title-page.png'), fullPage: true });
-  assert.deepEqual(errors, []);
-  await context.close();
+  await snap(page, outDir, 'title-page', true);
+  await closeClean({ context, errors });
 
   const tablet = await openPastGreeting(browser, base, { device: TABLET });
   await openCard(tablet.page, NAME);
   await tablet.page.tap('[data-id="menu:3"]');
   await chartTexts(tablet.page);
-  await tablet.page.screenshot({
-    path: path.join(outDir, 'title-page-tablet.png'),
-    fullPage: true,
-  });
-  await tablet.context.close();
+  await snap(tablet.page, outDir, 'title-page-tablet', true);
+  await closeClean(tablet);
 });
