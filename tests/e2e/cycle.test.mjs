@@ -3,18 +3,9 @@
 // editor from the calendar show in the calendar's colours and in the diary's cells, whose mark
 // opens the calendar again; her settings keep what she typed. Screenshots of the calendar at
 // phone and tablet size, and of the settings.
-//   node tests/e2e/cycle.test.mjs --server PATH_TO_SERVER --out SCREENSHOT_DIR
 import assert from 'node:assert/strict';
 import path from 'node:path';
-import {
-  TABLET,
-  closeClean,
-  onNewInstallation,
-  openPastGreeting,
-  runBrowserTest,
-  snap,
-  waitForText,
-} from './harness.mjs';
+import * as e2e from './harness.mjs';
 
 // A year wholly past, so that every phase is drawn whole.
 const YEAR = new Date().getFullYear() - 1;
@@ -42,7 +33,7 @@ async function checkCalendar(page, outDir) {
   await page.waitForSelector('.cycle-empty');
 
   await page.tap('.cycle-calendar .diary-year button >> nth=0');
-  await waitForText(page, '.cycle-calendar .diary-year-caption', String(YEAR));
+  await e2e.waitForText(page, '.cycle-calendar .diary-year-caption', String(YEAR));
   await markDay(page, day('03', '03'), 'Первый день месячных');
   await markDay(page, day('07', '03'), 'Последний день месячных');
   await markDay(page, day('17', '03'), 'Овуляция');
@@ -56,7 +47,7 @@ async function checkCalendar(page, outDir) {
   );
   assert.equal(await page.textContent(`${calendarDay(day('17', '03'))} .cycle-day-count`), '15');
   assert.equal(await page.$('.cycle-empty'), null);
-  await snap(page, outDir, 'cycle-calendar', true);
+  await e2e.snap(page, outDir, 'cycle-calendar', true);
 }
 
 /** The diary of that year shows the ovulation's day with its mark, which leads to the calendar. */
@@ -65,7 +56,7 @@ async function checkDiary(page) {
   await page.tap('[data-id="menu:8"]');
   await page.waitForSelector('.ring-page .diary');
   await page.tap('.ring-page .diary-year button >> nth=0');
-  await waitForText(page, '.ring-page .diary-year-caption', String(YEAR), 'starts');
+  await e2e.waitForText(page, '.ring-page .diary-year-caption', String(YEAR), 'starts');
   const cell = `.ring-page .day-cell[data-id="diary:day:${day('17', '03')}"]`;
   await page.fill('.ring-page .diary-search-input', 'Овуляция');
   await page.press('.ring-page .diary-search-input', 'Enter');
@@ -81,7 +72,7 @@ async function checkToday(page, outDir) {
   await page.tap('.ring-page .to-menu');
   await page.tap('[data-id="menu:1"]');
   await page.waitForSelector('.ring-page [data-id="today:day"]');
-  await snap(page, outDir, 'cycle-today');
+  await e2e.snap(page, outDir, 'cycle-today');
   await page.tap('.ring-page [data-id="today:day"]');
   await page.waitForSelector('.day-editor');
   await page.tap('.day-editor .editor-ok');
@@ -99,7 +90,7 @@ async function checkSettings(page, outDir) {
   await page.fill('[data-field="field:rost"]', '168');
   await page.fill('[data-field="field:meal1"]', '08:30');
   await page.tap('.segment:has-text("Полное")');
-  await snap(page, outDir, 'cycle-settings');
+  await e2e.snap(page, outDir, 'cycle-settings');
   await page.tap('.editor-ok');
   await page.waitForSelector('.editor', { state: 'detached' });
   await open();
@@ -109,25 +100,25 @@ async function checkSettings(page, outDir) {
   await page.tap('.editor-cancel');
 }
 
-await runBrowserTest('cycle', async ({ browser, executable, outDir }) => {
-  await onNewInstallation(
+await e2e.runBrowserTest('cycle', async ({ browser, executable, outDir }) => {
+  await e2e.onNewInstallation(
     path.join(path.dirname(executable), 'lunoveya'),
     async ({ base }) => {
-      const { context, page, errors } = await openPastGreeting(browser, base);
+      const { context, page, errors } = await e2e.openPastGreeting(browser, base);
       await checkCalendar(page, outDir);
       await checkDiary(page);
       await checkToday(page, outDir);
       await checkSettings(page, outDir);
-      await closeClean({ context, errors });
+      await e2e.closeClean({ context, errors });
 
-      const tablet = await openPastGreeting(browser, base, { device: TABLET });
+      const tablet = await e2e.openPastGreeting(browser, base, { device: e2e.TABLET });
       await openCalendar(tablet.page);
-      await snap(tablet.page, outDir, 'cycle-calendar-tablet');
+      await e2e.snap(tablet.page, outDir, 'cycle-calendar-tablet');
       await tablet.page.tap('.ring-page .to-menu');
       await tablet.page.tap('[data-id="menu:1"]');
       await tablet.page.waitForSelector('.ring-page [data-id="today:day"]');
-      await snap(tablet.page, outDir, 'cycle-today-tablet');
-      await closeClean(tablet);
+      await e2e.snap(tablet.page, outDir, 'cycle-today-tablet');
+      await e2e.closeClean(tablet);
     },
     { name: 'lunoveya' },
   );

@@ -2,19 +2,8 @@
 // chosen from the phone, kept over a reload, its removal asked first; the scale ruler of a
 // temperature sending the value it comes to rest on; and a date chosen on the date wheel by a
 // browser set to English.
-//   node tests/e2e/editor.test.mjs --server PATH_TO_SERVER --out SCREENSHOT_DIR
 import assert from 'node:assert/strict';
-import {
-  TABLET,
-  closeClean,
-  dayField,
-  drawnJpeg,
-  openPastGreeting,
-  runBrowserTest,
-  snap,
-  until,
-  waitForText,
-} from './harness.mjs';
+import * as e2e from './harness.mjs';
 
 const ROST = 'input[data-field="field:rost"]';
 const VES = 'input[data-field="field:ves"]';
@@ -59,10 +48,8 @@ async function redrawWhileIn(page, held, field) {
     selector,
   );
   // Query and check in one step: a later redraw may replace the input between two.
-  assert.ok(
-    await page.evaluate((s) => document.querySelector(s) === document.activeElement, selector),
-    `${field} keeps the focus`,
-  );
+  const focused = (s) => document.querySelector(s) === document.activeElement;
+  assert.ok(await page.evaluate(focused, selector), `${field} keeps the focus`);
 }
 
 /**
@@ -88,7 +75,7 @@ async function typeThroughRedraws(page) {
   await redrawWhileIn(page, held, 'field:ves');
   assert.equal(await page.inputValue(VES), '58', 'typed before the redraw');
   await page.keyboard.press('Tab');
-  await until('the weight sent', () => sentValue(held, 'field:ves').length > 0);
+  await e2e.until('the weight sent', () => sentValue(held, 'field:ves').length > 0);
   await page.waitForFunction(() => !document.querySelector('.busy'));
   assert.deepEqual(sentValue(held, 'field:ves'), ['58'], 'sent once');
   await page.unrouteAll({ behavior: 'wait' });
@@ -98,7 +85,7 @@ async function typeThroughRedraws(page) {
 async function choosePortrait(page, outDir) {
   const before = await page.getAttribute('.editor-photo-picture', 'src');
   // A photo the size a phone's camera takes (12 megapixels).
-  await page.setInputFiles('.editor-photo-input', await drawnJpeg(page, 4000, 3000));
+  await page.setInputFiles('.editor-photo-input', await e2e.drawnJpeg(page, 4000, 3000));
   await page.waitForFunction(
     (src) => document.querySelector('.editor-photo-picture')?.getAttribute('src') !== src,
     before,
@@ -115,7 +102,7 @@ async function choosePortrait(page, outDir) {
   await page.waitForSelector('.editor');
   assert.equal(await page.inputValue(ROST), '168', 'a sent field survives a reload');
   assert.ok(await portraitShown(page), 'and the portrait');
-  await snap(page, outDir, 'editor-settings', true);
+  await e2e.snap(page, outDir, 'editor-settings', true);
   await page.tap('button[data-id="editor:ok"]');
   await page.waitForSelector('.editor', { state: 'detached' });
 }
@@ -124,11 +111,9 @@ async function choosePortrait(page, outDir) {
 async function removeAfterQuestion(page, outDir) {
   await page.tap('button[data-id="field:remove"]');
   await page.waitForSelector('.popup-cover');
-  assert.equal(
-    await page.textContent('.popup-cover .message-text'),
-    'Вы действительно хотите удалить эту учетную запись?',
-  );
-  await snap(page, outDir, 'editor-removal');
+  const question = await page.textContent('.popup-cover .message-text');
+  assert.equal(question, 'Вы действительно хотите удалить эту учетную запись?');
+  await e2e.snap(page, outDir, 'editor-removal');
   await page.tap('.popup-cover button[data-id="popup:0"]');
   await page.waitForSelector('.popup-cover', { state: 'detached' });
   assert.ok(await page.$('.editor'), 'the settings stay after "Нет"');
@@ -150,18 +135,15 @@ async function slideScale(page, outDir) {
   });
   await page.tap('[data-id="menu:8"]');
   await page.tap('.ring-page .diary-add');
-  await page.tap(dayField('ne-temp128.png'));
-  await waitForText(page, '.scale-value', '36.6');
+  await page.tap(e2e.dayField('ne-temp128.png'));
+  await e2e.waitForText(page, '.scale-value', '36.6');
   // Ten steps of 0.1 to the right.
   await page.evaluate(() => (document.querySelector('.scale-ruler').scrollLeft += 80));
-  await waitForText(page, '.scale-value', '37.6');
-  await snap(page, outDir, 'editor-scale');
-  await until('the value at rest sent', () => sent.length > 0);
-  assert.deepEqual(
-    sent,
-    [{ type: 'change', target: 'field:temp', value: '37.6' }],
-    'only the value at rest',
-  );
+  await e2e.waitForText(page, '.scale-value', '37.6');
+  await e2e.snap(page, outDir, 'editor-scale');
+  await e2e.until('the value at rest sent', () => sent.length > 0);
+  const atRest = { type: 'change', target: 'field:temp', value: '37.6' };
+  assert.deepEqual(sent, [atRest], 'only the value at rest');
   await page.tap('.editor-cancel');
   await page.tap('.day-editor .editor-ok');
   await page.tap('.ring-page .to-menu');
@@ -171,8 +153,8 @@ async function slideScale(page, outDir) {
 /** On a phone set to English a date still reads "dd.MM.yyyy" and is chosen on the diary's own
  *  date wheel: day, month by name, year. */
 async function pickDateOnTheWheel(browser, base, outDir) {
-  const { context, page, errors } = await openPastGreeting(browser, base, {
-    device: { ...TABLET, locale: 'en-US' },
+  const { context, page, errors } = await e2e.openPastGreeting(browser, base, {
+    device: { ...e2e.TABLET, locale: 'en-US' },
   });
   await page.tap('.card[data-id]');
   await openSettings(page);
@@ -191,25 +173,22 @@ async function pickDateOnTheWheel(browser, base, outDir) {
     const row = wheel.querySelector('.wheel-row');
     return Math.round(wheel.scrollTop / row.offsetHeight) === 14;
   });
-  await snap(page, outDir, 'editor-date-wheel-tablet');
+  await e2e.snap(page, outDir, 'editor-date-wheel-tablet');
   await page.tap('.popup-cover button[data-id="popup:1"]');
   await page.waitForSelector('.popup-cover', { state: 'detached' });
   await page.waitForFunction(
     (r) => document.querySelector(`${r} .editor-picker-value`)?.textContent.startsWith('15.'),
     row,
   );
-  assert.equal(
-    (await page.textContent(`${row} .editor-picker-value`)).slice(2),
-    before.slice(2),
-    'month and year kept',
-  );
+  const after = await page.textContent(`${row} .editor-picker-value`);
+  assert.equal(after.slice(2), before.slice(2), 'month and year kept');
   await page.tap('button[data-id="editor:cancel"]');
-  await closeClean({ context, errors });
+  await e2e.closeClean({ context, errors });
 }
 
-await runBrowserTest('editor', async ({ browser, base, outDir }) => {
+await e2e.runBrowserTest('editor', async ({ browser, base, outDir }) => {
   await pickDateOnTheWheel(browser, base, outDir);
-  const { context, page, errors } = await openPastGreeting(browser, base, {
+  const { context, page, errors } = await e2e.openPastGreeting(browser, base, {
     serviceWorkers: 'block',
   });
   await page.tap('.card[data-id]');
@@ -220,5 +199,5 @@ await runBrowserTest('editor', async ({ browser, base, outDir }) => {
   await openSettings(page);
   assert.ok(await portraitShown(page), 'the saved portrait');
   await removeAfterQuestion(page, outDir);
-  await closeClean({ context, errors });
+  await e2e.closeClean({ context, errors });
 });

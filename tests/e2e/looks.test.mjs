@@ -1,20 +1,10 @@
 // Browser test of the looks at phone and tablet size: the menu takes the colours of the chosen
 // background's theme on translucent surfaces and fits the width; a profile's portrait in the
 // data folder shows on its card.
-//   node tests/e2e/looks.test.mjs --server PATH_TO_SERVER --out SCREENSHOT_DIR
 import assert from 'node:assert/strict';
 import fs from 'node:fs';
 import path from 'node:path';
-import {
-  closeClean,
-  drawnJpeg,
-  openCard,
-  openPastGreeting,
-  PHONE,
-  runBrowserTest,
-  snap,
-  TABLET,
-} from './harness.mjs';
+import * as e2e from './harness.mjs';
 
 const GUID = '00000000-0000-0000-0001-000000000001'; // the pregnancy of the first launch
 const PORTRAIT = `/doc/portrait/${GUID}`;
@@ -68,27 +58,16 @@ function checkReadable(looks, where) {
   const light = brightness(channels(looks.row)) > 127.5;
   for (const surface of ['list', 'card']) {
     const [r, g, b, a = 1] = channels(looks[surface]);
-    assert.ok(
-      a > 0 && a < 1,
-      `${where}: the ${surface} lets the picture through (${looks[surface]})`,
-    );
-    assert.equal(
-      brightness([r, g, b]) < 127.5,
-      light,
-      `${where}: the ${surface} is tinted against the text`,
-    );
+    const seen = `${where}: the ${surface} (${looks[surface]})`;
+    assert.ok(a > 0 && a < 1, `${seen} lets the picture through`);
+    assert.equal(brightness([r, g, b]) < 127.5, light, `${seen} is tinted against the text`);
   }
 }
 
 function checkFits(looks, where) {
-  assert.ok(
-    looks.scrollWidth <= looks.innerWidth,
-    `${where}: no sideways scrolling (${looks.scrollWidth})`,
-  );
-  assert.ok(
-    looks.widest <= looks.innerWidth && looks.leftmost >= 0,
-    `${where}: nothing is cut at the sides`,
-  );
+  const widest = Math.max(looks.scrollWidth, looks.widest);
+  assert.ok(widest <= looks.innerWidth, `${where}: no sideways scrolling (${widest})`);
+  assert.ok(looks.leftmost >= 0, `${where}: nothing is cut at the left`);
 }
 
 /** The portrait on the open card, and the tablet's column and type. */
@@ -106,10 +85,11 @@ async function checkMenu(page, device, name) {
       [theme.text, theme.text, theme.caption, true],
       `${where}: texts, the title and the open card's mark (${looks.openCard})`,
     );
+    checkReadable(looks, where);
     checkFits(looks, where);
-    if (device === TABLET) {
+    if (device === e2e.TABLET) {
       assert.ok(looks.fontSize > 16, `${where}: larger type on a tablet`);
-      assert.ok(looks.rowWidth > PHONE.viewport.width, `${where}: the tablet's room is used`);
+      assert.ok(looks.rowWidth > e2e.PHONE.viewport.width, `${where}: the tablet's room is used`);
     } else {
       assert.equal(looks.fontSize, 16, `${where}: phones keep their type`);
     }
@@ -123,7 +103,7 @@ async function checkEveryBackground(page, outDir) {
     await chooseBackground(page, id);
     const looks = await looksOf(page);
     checkReadable(looks, `background ${id}`);
-    await snap(page, outDir, `looks-phone-background-${id}`);
+    await e2e.snap(page, outDir, `looks-phone-background-${id}`);
   }
 }
 
@@ -139,41 +119,40 @@ async function checkCounterPage(page, base, outDir) {
   }));
   assert.equal(charts.length, 2, 'the counter draws two charts');
   assert.ok(
-    Math.max(scrollWidth, ...charts) <= TABLET.viewport.width,
+    Math.max(scrollWidth, ...charts) <= e2e.TABLET.viewport.width,
     `the counter and its charts fit (${scrollWidth}, ${charts})`,
   );
-  await snap(page, outDir, 'looks-tablet-counter', true);
+  await e2e.snap(page, outDir, 'looks-tablet-counter', true);
 }
 
 async function checkLandscapeTablet(page, outDir) {
-  await page.setViewportSize({ width: TABLET.viewport.height, height: TABLET.viewport.width });
-  await page.waitForFunction((w) => window.innerWidth === w, TABLET.viewport.height);
+  const { width, height } = e2e.TABLET.viewport;
+  await page.setViewportSize({ width: height, height: width });
+  await page.waitForFunction((w) => window.innerWidth === w, height);
   const looks = await looksOf(page);
   checkFits(looks, 'tablet landscape');
-  assert.ok(
-    looks.rowWidth <= COLUMN_MAX_PX,
-    `tablet landscape: the column keeps a readable width (${looks.rowWidth})`,
-  );
-  await snap(page, outDir, 'looks-tablet-landscape', true);
+  const column = looks.rowWidth;
+  assert.ok(column <= COLUMN_MAX_PX, `tablet landscape: a readable column (${column})`);
+  await e2e.snap(page, outDir, 'looks-tablet-landscape', true);
 }
 
-await runBrowserTest('looks', async ({ browser, base, outDir, dataDir }) => {
-  const phone = await openPastGreeting(browser, base, { device: PHONE });
+await e2e.runBrowserTest('looks', async ({ browser, base, outDir, dataDir }) => {
+  const phone = await e2e.openPastGreeting(browser, base, { device: e2e.PHONE });
   // A photo where the profile's portrait is kept.
   const folder = path.join(dataDir, 'Documents', 'picture');
   fs.mkdirSync(folder, { recursive: true });
-  fs.writeFileSync(`${folder}/child-${GUID}.jpg`, (await drawnJpeg(phone.page, 64, 64)).buffer);
-  await openCard(phone.page);
-  await checkMenu(phone.page, PHONE, path.join(outDir, 'looks-phone'));
+  fs.writeFileSync(`${folder}/child-${GUID}.jpg`, (await e2e.drawnJpeg(phone.page, 64, 64)).buffer);
+  await e2e.openCard(phone.page);
+  await checkMenu(phone.page, e2e.PHONE, path.join(outDir, 'looks-phone'));
   await checkEveryBackground(phone.page, outDir);
 
-  const tablet = await openPastGreeting(browser, base, { device: TABLET });
-  await openCard(tablet.page);
-  await checkMenu(tablet.page, TABLET, path.join(outDir, 'looks-tablet'));
+  const tablet = await e2e.openPastGreeting(browser, base, { device: e2e.TABLET });
+  await e2e.openCard(tablet.page);
+  await checkMenu(tablet.page, e2e.TABLET, path.join(outDir, 'looks-tablet'));
   await checkLandscapeTablet(tablet.page, outDir);
-  await tablet.page.setViewportSize(TABLET.viewport);
+  await tablet.page.setViewportSize(e2e.TABLET.viewport);
   await checkCounterPage(tablet.page, base, outDir);
 
-  await closeClean(phone);
-  await closeClean(tablet);
+  await e2e.closeClean(phone);
+  await e2e.closeClean(tablet);
 });

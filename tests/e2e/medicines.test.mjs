@@ -4,25 +4,14 @@
 // by a real iCalendar parser), and taken out on one day through its popup menu it leaves every
 // day. Screenshots of the medicine form and the feed's page at phone and tablet size, of the
 // reminder's box and of the popup menu.
-//   node tests/e2e/medicines.test.mjs --server PATH_TO_SERVER --out SCREENSHOT_DIR
 import assert from 'node:assert/strict';
 import { execFileSync } from 'node:child_process';
 import fs from 'node:fs';
 import path from 'node:path';
-import {
-  advanceClock,
-  closeClean,
-  dayField,
-  onNewInstallation,
-  openPastGreeting,
-  pickOnWheels,
-  runBrowserTest,
-  snap,
-  snapBoth,
-} from './harness.mjs';
+import * as e2e from './harness.mjs';
 
 const MEDICINE = 'Магний';
-const PILLS_ROW = dayField('ne-pills128.png');
+const PILLS_ROW = e2e.dayField('ne-pills128.png');
 
 /** "HH:mm" moved on by some minutes, within the day. */
 function later(time, minutes) {
@@ -33,7 +22,7 @@ function later(time, minutes) {
 
 /** The server's time now, as the reminder form starts with it. */
 async function serverTime(page) {
-  await page.tap(dayField('ne-alarm128.png'));
+  await page.tap(e2e.dayField('ne-alarm128.png'));
   const now = await page.inputValue('.editor [data-field="field:time"]');
   await page.tap('.editor-cancel');
   await page.waitForSelector('.day-editor');
@@ -58,13 +47,13 @@ async function writeCourse(page, outDir) {
   await page.waitForSelector(`button[data-id="field:pillname"]:has-text("${MEDICINE}")`);
 
   // Three times a day over all its hours, the first intake moved to a few minutes ahead.
-  await pickOnWheels(page, 'field:pillinter', ['3', 'раз в сутки']);
+  await e2e.pickOnWheels(page, 'field:pillinter', ['3', 'раз в сутки']);
   await page.waitForSelector('button[data-id="field:pilltime:2"]:has-text("16:00")');
-  await pickOnWheels(page, 'field:pilltime:0', later(now, 3));
+  await e2e.pickOnWheels(page, 'field:pilltime:0', later(now, 3));
   await page.waitForSelector(
     `button[data-id="field:pilltime:0"]:has-text("${later(now, 3).join(':')}")`,
   );
-  await snapBoth(page, outDir, 'medicine-form');
+  await e2e.snapBoth(page, outDir, 'medicine-form');
   await page.tap('.editor-ok');
   await page.waitForSelector(`${PILLS_ROW} .day-line:has-text("${MEDICINE}")`);
 }
@@ -92,12 +81,12 @@ function readFeed(feed, dataDir) {
   );
 }
 
-await runBrowserTest('medicines', async ({ browser, executable, outDir }) => {
-  await onNewInstallation(
+await e2e.runBrowserTest('medicines', async ({ browser, executable, outDir }) => {
+  await e2e.onNewInstallation(
     path.join(path.dirname(executable), 'lunoveya'),
     async ({ base, dataDir }) => {
-      const { context, page, errors } = await openPastGreeting(browser, base);
-      if (new Date().getHours() === 23) await advanceClock(page, 3600);
+      const { context, page, errors } = await e2e.openPastGreeting(browser, base);
+      if (new Date().getHours() === 23) await e2e.advanceClock(page, 3600);
       await page.tap('[data-id="menu:54"]'); // reminders of the intakes on
       await page.waitForSelector('[data-id="menu:54"] [aria-checked="true"]');
       await writeCourse(page, outDir);
@@ -109,17 +98,17 @@ await runBrowserTest('medicines', async ({ browser, executable, outDir }) => {
       await page.tap('.day-editor .editor-ok');
       await page.waitForSelector('.ring-page .diary');
 
-      await advanceClock(page, 180);
+      await e2e.advanceClock(page, 180);
       await page.waitForSelector('.message');
       assert.equal(await page.textContent('.message-caption'), 'Напоминание');
       assert.match(await page.textContent('.message-text'), new RegExp(`^${MEDICINE}: 3 `));
-      await snap(page, outDir, 'reminder');
+      await e2e.snap(page, outDir, 'reminder');
       await page.tap('.message button');
 
       await page.tap('.ring-page .to-menu');
       await page.tap('[data-id="menu:57"]');
       const address = await page.inputValue('.address-text');
-      await snapBoth(page, outDir, 'reminder-feed');
+      await e2e.snapBoth(page, outDir, 'reminder-feed');
       const events = readFeed(await (await fetch(address)).text(), dataDir);
       const intakes = events.filter((e) => e.summary.startsWith(`${MEDICINE}: `));
       assert.ok(intakes.length >= 3 * 6, `the week's intakes are in the feed: ${intakes.length}`);
@@ -138,7 +127,7 @@ await runBrowserTest('medicines', async ({ browser, executable, outDir }) => {
       assert.deepEqual(items, ['Редактировать', 'Удалить', 'Отменить']);
       const blur = await page.$eval('.popup-cover', (n) => getComputedStyle(n).backdropFilter);
       assert.match(blur, /blur/, 'the day under the menu is blurred');
-      await snap(page, outDir, 'popup-menu');
+      await e2e.snap(page, outDir, 'popup-menu');
       await page.tap('.popup-cover [data-id="popup:1"]'); // "Удалить"
       await page.waitForSelector(`${PILLS_ROW}:not(:has(.day-line))`);
       await page.tap('.day-editor .editor-ok');
@@ -146,7 +135,7 @@ await runBrowserTest('medicines', async ({ browser, executable, outDir }) => {
       for (const text of await courseDays(page, 7)) assert.doesNotMatch(text, new RegExp(MEDICINE));
       const after = readFeed(await (await fetch(address)).text(), dataDir);
       assert.equal(after.filter((e) => e.summary.startsWith(MEDICINE)).length, 0);
-      await closeClean({ context, errors });
+      await e2e.closeClean({ context, errors });
     },
     {
       name: 'medicines',

@@ -3,18 +3,9 @@
 // dims the weeks to come and marks the week in an organ's text; the woman's page shows the body
 // of the month with its named parts and graphs, and opens the child's size by week at the
 // present week. What the pages hold is the C++ suite's. Screenshots at phone and tablet size.
-//   node tests/e2e/week.test.mjs --server PATH_TO_SERVER --out SCREENSHOT_DIR
 import assert from 'node:assert/strict';
 import path from 'node:path';
-import {
-  PHONE,
-  TABLET,
-  closeClean,
-  createPregnancy,
-  openCard,
-  openPastGreeting,
-  runBrowserTest,
-} from './harness.mjs';
+import * as e2e from './harness.mjs';
 
 // Week 12 is day 81 of the pregnancy, week 30 day 204: the first day lies that many days back.
 const PREGNANCIES = [
@@ -134,18 +125,18 @@ async function checkPregnancy(page, outDir, p, device) {
   await checkSizeText(page, p, shot);
 }
 
-await runBrowserTest('week', async ({ browser, base, outDir }) => {
+await e2e.runBrowserTest('week', async ({ browser, base, outDir }) => {
   for (const [device, size] of [
-    ['phone', PHONE],
-    ['tablet', TABLET],
+    ['phone', e2e.PHONE],
+    ['tablet', e2e.TABLET],
   ]) {
-    const { context, page, errors } = await openPastGreeting(browser, base, { device: size });
+    const { context, page, errors } = await e2e.openPastGreeting(browser, base, { device: size });
     for (const p of PREGNANCIES) {
       await toMenu(page);
-      if (device === 'phone') await createPregnancy(page, p);
-      else await openCard(page, p.name);
+      if (device === 'phone') await e2e.createPregnancy(page, p);
+      else await e2e.openCard(page, p.name);
       await checkPregnancy(page, outDir, p, device);
     }
-    await closeClean({ context, errors });
+    await e2e.closeClean({ context, errors });
   }
 });
