@@ -54,11 +54,9 @@ TEST_F(ReminderPlanTest, RemindersFromNowOnWithTheirDaysAndDefaultText) {
   put("alarm", "[" + reminder("08:00", "Через месяц") + "]", day(29, 4));
 
   const auto plan = planReminders(*store, testNow());
-  EXPECT_EQ(bodies(plan), (std::vector<std::string>{
-                              "30.03 11:00 Витамины",
-                              "01.04 12:00 Напоминание программы Ладанея",
-                              "29.04 08:00 Через месяц",
-                          }));
+  EXPECT_EQ(bodies(plan), (std::vector<std::string>{"30.03 11:00 Витамины",
+                                                    "01.04 12:00 Напоминание программы Ладанея",
+                                                    "29.04 08:00 Через месяц"}));
   ASSERT_EQ(plan.size(), 3u);
   EXPECT_EQ(plan[1].day, day(1, 4));
   EXPECT_EQ(plan[1].gid, "OTHER");
