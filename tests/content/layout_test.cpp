@@ -102,7 +102,6 @@ TEST(Layout, LoadsSpansOfSixGroupsOverlappingByOne) {
   EXPECT_EQ(groupsOfRows(middle, RowKind::Text), (std::set<int>{5, 6, 7, 8, 9, 10}));
   EXPECT_EQ(middle.rows.front().partialButton, 1);
   EXPECT_EQ(middle.rows.back().partialButton, 2);
-  EXPECT_EQ(groupsOfRows(middle, RowKind::PartialButton).size(), 2u);
 
   data.nextSpan();
   EXPECT_EQ(data.partialStart(), 10);

@@ -52,16 +52,6 @@ class ResgenTool : public ::testing::Test {
   TempDir dir_;
 };
 
-TEST_F(ResgenTool, ScriptsRunInOrderIntoANewFile) {
-  const auto schema = file("schema.sql", "create table t (x integer);\n");
-  const auto rows =
-      file("rows.sql", "-- two rows\ninsert into t values (1);\ninsert into t values (2);\n");
-  const ToolRun run = runTool("sql " + out() + " " + schema + " " + rows);
-  ASSERT_EQ(run.status, 0) << run.output;
-  SqliteConnection db(out(), SqliteConnection::Mode::ReadOnly);
-  EXPECT_EQ(firstColumn(db, "select x from t order by x"), (std::vector<std::string>{"1", "2"}));
-}
-
 TEST_F(ResgenTool, AFaultyScriptFailsAtItsLineAndLeavesNoFile) {
   const auto script = file("bad.sql",
                            "create table t (x integer primary key);\n"
