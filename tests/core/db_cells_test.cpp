@@ -36,6 +36,11 @@ TEST(DbCells, DatesGoInAndOutAsColumnText) {
     dateToBase(insert, 2, moment, true, berlin);
     insert.bindText(3, "Заметка"sv);
     ASSERT_TRUE(insert.run());
+    insert.reset();
+    dateToBase(insert, 1, std::nullopt, false, berlin);
+    dateToBase(insert, 2, std::nullopt, true, berlin);
+    insert.bindNull(3);
+    ASSERT_TRUE(insert.run());
   }
   SqliteStatement rows = table.prepare("select day, moment, note, date(day) from t order by rowid");
   ASSERT_TRUE(rows.step());
@@ -46,6 +51,10 @@ TEST(DbCells, DatesGoInAndOutAsColumnText) {
   EXPECT_EQ(dateFromBase(rows, 1, true, berlin), moment);
   EXPECT_EQ(dateFromBase(rows, 1, false, berlin), std::nullopt);  // not of the day form
   EXPECT_EQ(stringFromBase(rows, 2), "Заметка");
+  ASSERT_TRUE(rows.step());
+  EXPECT_TRUE(rows.isNull(0) && rows.isNull(1)) << "no date is stored as NULL";
+  EXPECT_EQ(dateFromBase(rows, 0, false, berlin), std::nullopt);
+  EXPECT_EQ(stringFromBase(rows, 2), std::nullopt);
 }
 
 }  // namespace
