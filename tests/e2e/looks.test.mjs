@@ -26,9 +26,10 @@ async function chooseBackground(page, id) {
   );
 }
 
-/** Computed colours of the menu's parts, and the size of what lies on the page. */
-function looksOf(page) {
-  return page.evaluate(() => {
+/** Computed colours of the menu's parts, the size of what lies on the page, and the screen's
+ *  width: the device's, as a phone's page widens to fit what overflows it. */
+async function looksOf(page) {
+  const looks = await page.evaluate(() => {
     const style = (selector) => getComputedStyle(document.querySelector(selector));
     const boxes = [...document.querySelectorAll('.row, .card, .page-header')].map((e) =>
       e.getBoundingClientRect(),
@@ -42,12 +43,12 @@ function looksOf(page) {
       card: style('.card').backgroundColor,
       fontSize: parseFloat(style('html').fontSize),
       scrollWidth: document.documentElement.scrollWidth,
-      innerWidth: window.innerWidth,
       widest: Math.max(...boxes.map((b) => b.right)),
       leftmost: Math.min(...boxes.map((b) => b.left)),
       rowWidth: document.querySelector('.row').getBoundingClientRect().width,
     };
   });
+  return { ...looks, screenWidth: page.viewportSize().width };
 }
 
 const channels = (colour) => colour.match(/[\d.]+/g).map(Number);
@@ -66,7 +67,7 @@ function checkReadable(looks, where) {
 
 function checkFits(looks, where) {
   const widest = Math.max(looks.scrollWidth, looks.widest);
-  assert.ok(widest <= looks.innerWidth, `${where}: no sideways scrolling (${widest})`);
+  assert.ok(widest <= looks.screenWidth, `${where}: no sideways scrolling (${widest})`);
   assert.ok(looks.leftmost >= 0, `${where}: nothing is cut at the left`);
 }
 
