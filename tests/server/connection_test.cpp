@@ -60,7 +60,6 @@ TEST_F(ServerTest, RequestThatStopsHalfWayIsAnsweredNotHeld) {
   auto tooLarge = large.receiveResponse();
   ASSERT_TRUE(tooLarge);
   EXPECT_EQ(tooLarge->status, 413);
-  EXPECT_NE(tooLarge->body.find("\"error\""), std::string::npos);
 
   // A head too large to read is refused with a clear status.
   LoopbackClient huge(port_);

@@ -130,7 +130,6 @@ TEST_F(ServerTest, RefusesBadEventsWithoutChangingAnything) {
   EXPECT_EQ(settingsNow(), settingsBefore);
   auto viewAfter = client()->Get("/api/view", sessionHeaders(session));
   ASSERT_TRUE(viewAfter);
-  EXPECT_EQ(viewAfter->status, 200);
   EXPECT_EQ(viewAfter->body, viewBefore->body);
 }
 
@@ -140,7 +139,6 @@ TEST_F(ServerTest, TapTogglesTheSwitchAndWritesTheSettings) {
       postEvent(kTap51, session, {{"Origin", ownOrigin()}, {"Sec-Fetch-Site", "same-origin"}});
   ASSERT_TRUE(on);
   ASSERT_EQ(on->status, 200) << on->body;
-  EXPECT_FALSE(on->has_header("Set-Cookie"));
   EXPECT_EQ(rowOf(Json::parse(on->body), "menu:51")["checked"], true) << on->body;
   EXPECT_EQ(switchOnDisk(dataDir(), "emptyNote"), true);
 
