@@ -33,7 +33,7 @@ class ChildDialogTest : public testing::ApplicationTest {
   const std::string kEgg = newID2(2, 42), kFish = newID2(2, 45);
 };
 
-TEST_F(ChildDialogTest, ANewChildIsSavedWithEveryKeyOfItsDialog) {
+TEST_F(ChildDialogTest, ANewChildIsSavedWithTheKeysOfItsDialog) {
   ChildDialog d(*app, std::nullopt);
   EXPECT_EQ(d.editor().row("remove"), nullptr);
   EXPECT_FALSE(d.removalQuestion());

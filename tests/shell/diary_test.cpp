@@ -49,7 +49,7 @@ TEST_F(DiaryTest, ADayRecordedInTheEditorIsListedUnderItsWeekAndFoundBySearch) {
   const EventResult closed = tap(*s, "day:close");
   ASSERT_TRUE(closed.ok());
   EXPECT_TRUE(closed.installationChanged);
-  // The illness is read back by the list below, the note by the browser test.
+  // The note and the illness are read back by the list below.
   EXPECT_EQ(stored("ves"), "60.500");
 
   settings().set("emptyNote", true);  // "don't show empty days"
@@ -60,6 +60,7 @@ TEST_F(DiaryTest, ADayRecordedInTheEditorIsListedUnderItsWeekAndFoundBySearch) {
   ASSERT_EQ(items.size(), 2u);  // the week's section and the day
   std::string texts;
   for (const Value& row : *items[1]["rows"].asList()) texts += row["text"].text() + "|";
+  EXPECT_NE(texts.find("Первое шевеление"), std::string::npos) << texts;
   EXPECT_NE(texts.find("Ветрянка"), std::string::npos) << texts;
   EXPECT_EQ(page["scrollTo"].text(), items[1]["id"].text());
 

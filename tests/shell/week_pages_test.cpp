@@ -172,7 +172,7 @@ TEST_F(WeekPagesTest, BabyMarksThePresentWeekOfAnOrganAndDimsTheFutureAchievemen
   EXPECT_FALSE(page.tap("baby:organ:x").ok());
 }
 
-TEST_F(WeekPagesTest, WomanShowsTheMonthsBodyTheFruitTheWeightAndTheWheel) {
+TEST_F(WeekPagesTest, WomanShowsTheMonthsBodyAndTheFruitAndOpensTheWeeksTexts) {
   shell::WomanPage page(*app, host, pregnancyOnDay(81), 1);  // month 3, week 12
   Value view = page.view();
   const Value& body = *child(view, "hintPicture");
