@@ -109,7 +109,6 @@ TEST(BookCover, WithoutAPhotoTheEditionsPictureInASolidRing) {
   };
   EXPECT_EQ(picture(1, 1), "ti-preg3.png");
   EXPECT_EQ(picture(2, 14), "b-ti-preg.png");
-  EXPECT_EQ(picture(3, 1), "b-ti-preg.png");
   EXPECT_EQ(picture(5, 2), "ti-child2.png");
   EXPECT_EQ(picture(2, 2), "b-ti-child.png");
   // The ring is solid: white, black in kind 3; the type is white, black in kinds 2 and 3.
