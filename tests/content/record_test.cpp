@@ -52,10 +52,8 @@ std::vector<Group> groupsOf(std::vector<std::pair<int, std::string>> entries) {
   for (auto& [id, texts] : entries) {
     Group g{id, {}};
     for (char c : texts) {
-      Record r;
-      r.text = std::string(1, c);
-      r.groupid = id;
-      g.items.push_back(std::move(r));
+      g.items.emplace_back().text = std::string(1, c);
+      g.items.back().groupid = id;
     }
     out.push_back(std::move(g));
   }
