@@ -201,19 +201,14 @@ TEST(HttpServerLifecycleTest, StopBeforeRunStillEndsRun) {
 
   // A stop that comes between bind() and run(), such as a signal at start-up, must still count.
   server.stop();
-  std::promise<void> ended;
-  auto runEnded = ended.get_future();
-  std::thread runner([&] {
-    server.run();
-    ended.set_value();
-  });
+  auto runEnded = std::async(std::launch::async, [&] { server.run(); });
   const bool returned = runEnded.wait_for(kDeadline) == std::future_status::ready;
   if (!returned) {
     // run() is serving now; once it has answered, a second stop() reaches it.
     newClient(port)->Get("/");
     server.stop();
   }
-  runner.join();
+  runEnded.get();
   EXPECT_TRUE(returned) << "run() kept serving after an earlier stop()";
 }
 

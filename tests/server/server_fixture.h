@@ -13,7 +13,6 @@
 #include <optional>
 #include <string>
 #include <string_view>
-#include <thread>
 #include <vector>
 
 #include "core/value.h"
@@ -179,12 +178,7 @@ class ServerTest : public ::testing::Test {
     std::string error;
     port_ = server_->bind(&error);
     ASSERT_GT(port_, 0) << error;
-    std::promise<void> ended;
-    runEnded_ = ended.get_future();
-    runThread_ = std::thread([this, ended = std::move(ended)]() mutable {
-      server_->run();
-      ended.set_value();
-    });
+    runEnded_ = std::async(std::launch::async, [this] { server_->run(); });
     // A first answer shows that run() is serving; stop() does not reach a server before that.
     auto res = newClient(port_)->Get("/app.js");
     ASSERT_TRUE(res) << httplib::to_string(res.error());
@@ -199,11 +193,11 @@ class ServerTest : public ::testing::Test {
 
   // Stops the server; false when run() did not return within the deadline.
   bool stopServer() {
-    if (!runThread_.joinable()) return true;
+    if (!runEnded_.valid()) return true;
     server_->stop();
     const bool ended = runEnded_.wait_for(kDeadline) == std::future_status::ready;
-    if (!ended) server_->stop();  // once more, so that the thread can still be joined
-    runThread_.join();
+    if (!ended) server_->stop();  // once more, so that run() still returns
+    runEnded_.get();
     return ended;
   }
 
@@ -253,7 +247,6 @@ class ServerTest : public ::testing::Test {
   std::unique_ptr<Installation> installation_;
   std::unique_ptr<HttpServer> server_;
   int port_ = -1;
-  std::thread runThread_;
   std::future<void> runEnded_;
 };
 
