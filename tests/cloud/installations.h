@@ -13,6 +13,7 @@
 #include "platform/images.h"
 #include "store/first_launch.h"
 #include "store/records.h"
+#include "store/setup_data.h"
 #include "store/store.h"
 #include "tests/support/test_files.h"
 
@@ -31,6 +32,15 @@ struct Installation {
   void put(const std::string& type, const std::string& value, Date on, const std::string& gid) {
     StoreBracket bracket = store->connectToBase();
     insertValue(*store, bracket, type, value, on, gid, true, false);
+  }
+  // A pregnancy begun on 1 February 2026.
+  void makePregnancy(const std::string& gid) {
+    Map setup;
+    setup.set("sdat1", "2026-02-01");
+    setup.set("sbirthdate", "2026-11-08");
+    setup.set("name", "Ева");
+    setup.set("active", true);
+    saveSetupData(*store, kSetupWhole, setup, gid);
   }
   std::string valueOn(const std::string& type, Date on, const std::string& gid) {
     StoreBracket bracket = store->connectToBase();

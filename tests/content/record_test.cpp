@@ -26,18 +26,6 @@ TEST(PlainText, KeepsGroupFromRecordBeforeAndTakesLastKey) {
   EXPECT_EQ(parsed.records[2].linkid, 7);
   EXPECT_EQ(parsed.records[2].checkid, "12");
   EXPECT_EQ(parsed.records[2].text, "");
-}
-
-TEST(PlainText, ReportsFieldWithoutValueByRecordAndKeepsTheRest) {
-  const PlainText parsed =
-      parsePlainText("tp<val>4<tr>text<val>a<br>tp<val>4<tr>broken<tr>text<val>b<br>");
-  ASSERT_EQ(parsed.records.size(), 3u);
-  EXPECT_EQ(parsed.records[1].text, "b");
-  ASSERT_EQ(parsed.faults.size(), 2u);
-  EXPECT_EQ(parsed.faults[0].record, 1);
-  EXPECT_EQ(parsed.faults[0].field, "broken");
-  EXPECT_EQ(parsed.faults[1].record, 2);  // the empty piece behind the trailing <br>
-  EXPECT_EQ(parsed.faults[0].describe(), "record 1: field without <val>: \"broken\"");
   EXPECT_TRUE(parsePlainText("").records.empty());
 }
 
@@ -64,10 +52,8 @@ std::vector<Group> groupsOf(std::vector<std::pair<int, std::string>> entries) {
   for (auto& [id, texts] : entries) {
     Group g{id, {}};
     for (char c : texts) {
-      Record r;
-      r.text = std::string(1, c);
-      r.groupid = id;
-      g.items.push_back(std::move(r));
+      g.items.emplace_back().text = std::string(1, c);
+      g.items.back().groupid = id;
     }
     out.push_back(std::move(g));
   }

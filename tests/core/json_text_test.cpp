@@ -6,21 +6,16 @@ namespace lad {
 namespace {
 
 TEST(JsonText, OnlyTheFirstCharacterTellsTheForm) {
-  EXPECT_TRUE(jsonIs("["));
-  EXPECT_TRUE(jsonIs("{\"a\":1}"));
+  EXPECT_TRUE(jsonIs("{"));
   EXPECT_TRUE(jsonIs("[not json"));
   EXPECT_FALSE(jsonIs(" [1]"));  // a leading blank
-  EXPECT_FALSE(jsonIs("10:00<td>1"));
   EXPECT_FALSE(jsonIs("\"text\""));
   EXPECT_FALSE(jsonIs(""));
   EXPECT_FALSE(jsonIs(std::nullopt));
 }
 
 TEST(JsonText, ReadsATreeOrNull) {
-  const Value tree = jsonToDictionary(R"({"pills":[{"name":"Аспирин","count":"2"}],"n":3})");
-  ASSERT_NE(tree.asMap(), nullptr);
-  EXPECT_EQ(tree["pills"].asList()->at(0)["name"].text(), "Аспирин");
-  EXPECT_EQ(tree["n"].intValue(), 3);
+  EXPECT_EQ(jsonToDictionary(R"({"n":[3]})"), Value::fromJson(R"({"n":[3]})").value());
   EXPECT_EQ(jsonToArray("[1, \"2\"]"), Value(List{1, "2"}));
   EXPECT_EQ(jsonToArray(" [1]"), Value(List{1}));
   for (const char* bad : {"[", "{", "", "{a:1}", "[1,]", "10:00<td>1"}) {
@@ -36,10 +31,8 @@ TEST(JsonText, WritesListsAndMapsIndentedOverSeveralLines) {
   regimen.set("name", "Фолиевая кислота");
   regimen.set("times", List{"09:00", "21:00"});
   const std::string text = jsonFromObject(Value(regimen));
-  EXPECT_NE(text.find('\n'), std::string::npos);
   EXPECT_NE(text.find("\n  \"name\""), std::string::npos);
   EXPECT_NE(text.find("Фолиевая кислота"), std::string::npos);  // UTF-8, not escaped
-  EXPECT_TRUE(jsonIs(text));
   EXPECT_EQ(jsonToDictionary(text), Value(regimen));
   EXPECT_EQ(jsonToArray(jsonFromObject(Value(List{}))), Value(List{}));
   for (const Value& scalar : {Value(), Value("text"), Value(3)})

@@ -7,7 +7,6 @@ namespace {
 
 TEST(UrlEncoding, QueryValuesKeepNothingStructural) {
   EXPECT_EQ(stringToUrl(std::nullopt), "");
-  EXPECT_EQ(stringToUrl(""), "");
   EXPECT_EQ(stringToUrl("!*'();:@&=+$,/?%#[]"),
             "%21%2A%27%28%29%3B%3A%40%26%3D%2B%24%2C%2F%3F%25%23%5B%5D");
   EXPECT_EQ(stringToUrl("Az09-._~"), "Az09-._~");
@@ -18,7 +17,6 @@ TEST(UrlEncoding, QueryValuesKeepNothingStructural) {
 
 TEST(UrlEncoding, LinksKeepLettersMarksAndDigitsOfAnyScript) {
   EXPECT_EQ(encodeUrl("/mobile/фото 1.jpg?x=y"), "/mobile/фото%201.jpg?x%3Dy");
-  EXPECT_EQ(encodeUrl("http://host"), "http%3A//host");
   EXPECT_EQ(encodeUrl("-._~/?"), "-._~/?");
   EXPECT_EQ(encodeUrl("e\xCC\x81"), "e\xCC\x81");                // a combining mark
   EXPECT_EQ(encodeUrl("\xD9\xA3\xC2\xBD"), "\xD9\xA3\xC2\xBD");  // Arabic-Indic three, one half

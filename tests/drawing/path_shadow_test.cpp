@@ -48,8 +48,6 @@ TEST(PathShadow, CairoBlursTheMovedCoverage) {
   // From the right edge (x 56) it fades out within three boxes of radius 2.
   EXPECT_GT(frame.alpha(56, 34), 80);
   EXPECT_LT(frame.alpha(56, 34), 180);
-  EXPECT_GT(frame.alpha(57, 34), frame.alpha(59, 34));
-  EXPECT_GT(frame.alpha(59, 34), frame.alpha(61, 34));
   EXPECT_GT(frame.alpha(61, 34), 0);
   EXPECT_EQ(frame.alpha(64, 34), 0);
   // Nothing stays at the unmoved left edge.

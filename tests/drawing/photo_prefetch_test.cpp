@@ -4,7 +4,7 @@
 
 #include <fstream>
 
-#include "tests/support/test_files.h"
+#include "tests/drawing/sample_jpeg.h"
 
 namespace lad::draw {
 namespace {
@@ -13,12 +13,8 @@ using testing::TempDir;
 
 // A photo file whose width tells it apart from the others.
 std::string writePhoto(const TempDir& dir, const std::string& name, int width) {
-  Image image{width, 40, std::vector<std::uint8_t>(std::size_t(width) * 40 * 3, 128)};
-  const std::vector<std::uint8_t> jpeg = encodeJpeg(image, 90);
-  const std::string file = (dir.path() / name).string();
-  std::ofstream(file, std::ios::binary)
-      .write(reinterpret_cast<const char*>(jpeg.data()), std::streamsize(jpeg.size()));
-  return file;
+  testing::writeJpeg(dir.path() / name, width, 40);
+  return (dir.path() / name).string();
 }
 
 TEST(PhotoPrefetch, PhotosComeInTheirOrderAndWhatWasPassedOrNotAskedForIsReadByTheCaller) {

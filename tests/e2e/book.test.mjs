@@ -2,34 +2,24 @@
 // book of kind 2 chosen from the menu's covers, its pages arriving as thumbnails, one opened
 // large, the picture page's photos rearranged in another layout, a page added from a photo and
 // deleted again, then the book saved and its PDF downloaded. Screenshots of each step.
-//   node tests/e2e/book.test.mjs --server PATH_TO_SERVER --out SCREENSHOT_DIR
 import assert from 'node:assert/strict';
 import fs from 'node:fs';
 import path from 'node:path';
-import {
-  TABLET,
-  createPregnancy,
-  dayField,
-  openCard,
-  openPastGreeting,
-  runBrowserTest,
-  settled,
-} from './harness.mjs';
+import * as e2e from './harness.mjs';
 
 const NAME = 'Фотокнига Анны';
 
 /** Today with a weight and a photo, and yesterday with a photo alone. */
-async function recordPhotoDays(page, dataDir) {
+async function recordPhotoDays(page) {
   await page.tap('[data-id="menu:8"]');
   await page.tap('.ring-page .diary-add');
   await page.waitForSelector('.day-editor');
-  const weight = page.locator(`${dayField('ne-weight.png')} input`);
+  const weight = page.locator(`${e2e.dayField('ne-weight.png')} input`);
   await weight.fill('61,2');
   await weight.blur();
-  await settled(page);
+  await e2e.settled(page);
   for (const day of ['today', 'yesterday']) {
-    const photo = path.join(dataDir, `${day}.png`);
-    fs.writeFileSync(photo, await page.screenshot());
+    const photo = await e2e.drawnJpeg(page, 640, 480);
     await page.setInputFiles('.day-photo-input:not(:first-child) input', photo);
     await page.waitForSelector('.day-photo-picture[src^="data:image/jpeg"]');
     if (day === 'today') {
@@ -47,19 +37,10 @@ async function recordPhotoDays(page, dataDir) {
 async function openBook(page, outDir, device) {
   await page.tap('[data-id="menu:23"]');
   await page.waitForSelector('[data-id="book:kind:5"]');
-  await page.screenshot({ path: path.join(outDir, `book-kinds-${device}.png`) });
+  await e2e.snap(page, outDir, `book-kinds-${device}`);
   await page.tap('[data-id="book:kind:2"]');
   await page.waitForSelector('.book button[data-id="book:save"]:not([disabled])');
 }
-
-const thumbnails = (page) =>
-  page.$$eval('.book-page', (pages) =>
-    pages.map((p) => ({
-      label: p.querySelector('.book-page-label')?.textContent,
-      picture: p.querySelector('img')?.getAttribute('src'),
-      loaded: (p.querySelector('img')?.naturalWidth ?? 0) > 0,
-    })),
-  );
 
 /** Waits until every thumbnail on the page has its picture. */
 async function thumbnailsLoaded(page) {
@@ -86,8 +67,8 @@ async function rearrange(page, outDir, device) {
   await page.waitForSelector('.book-layout[data-id="book:layout:21"][aria-checked="true"]');
   await page.fill('.book-label', 'Первые снимки');
   await page.locator('.book-label').blur();
-  await settled(page);
-  await page.screenshot({ path: path.join(outDir, `book-edit-${device}.png`) });
+  await e2e.settled(page);
+  await e2e.snap(page, outDir, `book-edit-${device}`);
   await page.tap('.book-editor button[data-id="book:edit-ok"]');
   await page.waitForFunction((b) => {
     const img = document.querySelector('.book-page:has(.book-edit) img');
@@ -96,25 +77,24 @@ async function rearrange(page, outDir, device) {
   await page.waitForSelector('.book button[data-id="book:save"]:not([disabled])');
 }
 
-async function checkPhone(browser, base, outDir, dataDir) {
-  const { context, page, errors } = await openPastGreeting(browser, base);
-  await createPregnancy(page, { name: NAME, daysAgo: 90 });
-  await recordPhotoDays(page, dataDir);
+async function checkPhone(browser, base, outDir) {
+  const { context, page, errors } = await e2e.openPastGreeting(browser, base);
+  await e2e.createPregnancy(page, { name: NAME, daysAgo: 90 });
+  await recordPhotoDays(page);
   await openBook(page, outDir, 'phone');
   await thumbnailsLoaded(page);
-  const pages = await thumbnails(page);
-  assert.deepEqual(
-    pages.slice(0, 3).map((p) => p.label),
-    ['Суперобложка', 'Обложка', 'Страница 1'],
+  const pages = await page.$$eval('.book-page', (all) =>
+    all.map((p) => p.querySelector('.book-page-label')?.textContent),
   );
-  await page.screenshot({ path: path.join(outDir, 'book-pages-phone.png'), fullPage: true });
+  assert.deepEqual(pages.slice(0, 3), ['Суперобложка', 'Обложка', 'Страница 1']);
+  await e2e.snap(page, outDir, 'book-pages-phone', true);
 
   await page.tap('.book-thumb >> nth=1');
   await page.waitForFunction(() => {
     const img = document.querySelector('.book-large-picture');
     return img?.complete && img.naturalWidth > 0;
   });
-  await page.screenshot({ path: path.join(outDir, 'book-large-phone.png') });
+  await e2e.snap(page, outDir, 'book-large-phone');
   await page.tap('.book-large button[data-id="book:large-close"]');
   await page.waitForSelector('.book-large', { state: 'detached' });
 
@@ -122,9 +102,10 @@ async function checkPhone(browser, base, outDir, dataDir) {
   await thumbnailsLoaded(page);
 
   // A page added from a photo comes last; deleted, it goes again.
-  const photo = path.join(dataDir, 'added.png');
-  fs.writeFileSync(photo, await page.screenshot());
-  await page.setInputFiles('.book-body .day-photo-input input', photo);
+  await page.setInputFiles(
+    '.book-body .day-photo-input input',
+    await e2e.drawnJpeg(page, 640, 480),
+  );
   await page.waitForFunction(
     (n) => document.querySelectorAll('.book-page').length === n + 1,
     pages.length,
@@ -138,8 +119,7 @@ async function checkPhone(browser, base, outDir, dataDir) {
 
   await page.tap('.book button[data-id="book:save"]');
   await page.waitForSelector('.report[data-state="done"]');
-  assert.match(await page.textContent('.report'), /Ваша фотокнига сформирована/);
-  await page.screenshot({ path: path.join(outDir, 'book-saved-phone.png') });
+  await e2e.snap(page, outDir, 'book-saved-phone');
   const [download] = await Promise.all([
     page.waitForEvent('download'),
     page.tap('.report a[download]'),
@@ -149,24 +129,24 @@ async function checkPhone(browser, base, outDir, dataDir) {
   const text = fs.readFileSync(pdf, 'latin1');
   assert.ok(text.startsWith('%PDF-'));
   assert.equal(text.match(/\/Type\s*\/Page\b/g)?.length, pages.length, 'a PDF page a book page');
-  assert.deepEqual(errors, [], 'page errors');
-  await context.close();
+  await e2e.closeClean({ context, errors });
 }
 
 async function checkTablet(browser, base, outDir) {
-  const { context, page, errors } = await openPastGreeting(browser, base, { device: TABLET });
-  await openCard(page, NAME);
+  const { context, page, errors } = await e2e.openPastGreeting(browser, base, {
+    device: e2e.TABLET,
+  });
+  await e2e.openCard(page, NAME);
   await openBook(page, outDir, 'tablet');
   await thumbnailsLoaded(page);
-  await page.screenshot({ path: path.join(outDir, 'book-pages-tablet.png') });
+  await e2e.snap(page, outDir, 'book-pages-tablet');
   await rearrange(page, outDir, 'tablet');
   await page.tap('.book button[data-id="book:close"]');
   await page.waitForSelector('.book', { state: 'detached' });
-  assert.deepEqual(errors, [], 'page errors');
-  await context.close();
+  await e2e.closeClean({ context, errors });
 }
 
-await runBrowserTest('book', async ({ browser, base, outDir, dataDir }) => {
-  await checkPhone(browser, base, outDir, dataDir);
+await e2e.runBrowserTest('book', async ({ browser, base, outDir }) => {
+  await checkPhone(browser, base, outDir);
   await checkTablet(browser, base, outDir);
 });

@@ -3,25 +3,12 @@
 // from their badge in the menu, and gone after that. Tablet: the hospital lists of the
 // menu, an item of one ticked and still ticked when the list is opened again. Screenshots of the
 // plan, the editor and a list.
-//   node tests/e2e/checks.test.mjs --server PATH_TO_SERVER --out SCREENSHOT_DIR
 import assert from 'node:assert/strict';
 import fs from 'node:fs';
-import path from 'node:path';
-import {
-  PHONE,
-  TABLET,
-  createPregnancy,
-  openCard,
-  openPastGreeting,
-  runBrowserTest,
-} from './harness.mjs';
-
-async function openProfile(page) {
-  if ((await page.locator('.card[data-id]').count()) > 0) await page.tap('.card[data-id]');
-}
+import * as e2e from './harness.mjs';
 
 async function tickPlanItem(page, shot) {
-  await openProfile(page);
+  await e2e.openCard(page);
   await page.tap('[data-id="menu:7"]');
   const box = page.locator('.content[data-content="doctor"] .content-tick').first();
   await box.waitFor();
@@ -35,8 +22,7 @@ async function tickPlanItem(page, shot) {
   await shot('plan-editor');
   await page.tap('button[data-id="editor:ok"]');
   await page.waitForSelector('.editor', { state: 'detached' });
-  const ticked = page.locator('.content[data-content="doctor"] .content-tick').first();
-  assert.equal(await ticked.getAttribute('aria-pressed'), 'true');
+  assert.equal(await box.getAttribute('aria-pressed'), 'true', 'the item is ticked');
   return text;
 }
 
@@ -61,7 +47,7 @@ async function readWeekNotice(page, shot) {
   const name = `Неделя ${week}`;
   await page.tap('.ring-page .to-menu');
   await page.waitForSelector('.ring', { state: 'detached' });
-  await createPregnancy(page, { name, daysAgo: (week - 1) * 7 });
+  await e2e.createPregnancy(page, { name, daysAgo: (week - 1) * 7 });
   const badge = page.locator('button[data-id="menu:notice:5"]');
   await badge.tap();
   await page.waitForSelector(`.message:has-text("События ${week} недели")`);
@@ -71,7 +57,7 @@ async function readWeekNotice(page, shot) {
   // Closed and opened again, the card shows no notice for this week.
   await page.locator('.card', { hasText: name }).tap();
   await page.waitForSelector('.card.open', { state: 'detached' });
-  await openCard(page, name);
+  await e2e.openCard(page, name);
   assert.equal(await badge.count(), 0);
 }
 
@@ -89,19 +75,16 @@ async function tickHospitalItem(page, shot) {
   assert.equal(await page.locator('.content-check.ticked').count(), 1);
 }
 
-await runBrowserTest('checks', async ({ browser, base, outDir }) => {
-  const shots = (page, device) => (what) =>
-    page.screenshot({ path: path.join(outDir, `checks-${what}-${device}.png`) });
+await e2e.runBrowserTest('checks', async ({ browser, base, outDir }) => {
+  const shots = (page, device) => (what) => e2e.snap(page, outDir, `checks-${what}-${device}`);
 
-  const phone = await openPastGreeting(browser, base, { device: PHONE });
+  const phone = await e2e.openPastGreeting(browser, base, { device: e2e.PHONE });
   const text = await tickPlanItem(phone.page, shots(phone.page, 'phone'));
   await findInDiary(phone.page, text);
   await readWeekNotice(phone.page, shots(phone.page, 'phone'));
-  assert.deepEqual(phone.errors, []);
-  await phone.context.close();
+  await e2e.closeClean(phone);
 
-  const tablet = await openPastGreeting(browser, base, { device: TABLET });
+  const tablet = await e2e.openPastGreeting(browser, base, { device: e2e.TABLET });
   await tickHospitalItem(tablet.page, shots(tablet.page, 'tablet'));
-  assert.deepEqual(tablet.errors, []);
-  await tablet.context.close();
+  await e2e.closeClean(tablet);
 });

@@ -2,19 +2,11 @@
 // typed on the screen, the menu's line that follows it, the copy of the whole diary into the
 // folder after its question, and a second installation started on the same folder that finds
 // it complete. Screenshots of the screen before and after the choice.
-//   node tests/e2e/cloud.test.mjs --server PATH_TO_SERVER --out SCREENSHOT_DIR
 import assert from 'node:assert/strict';
 import fs from 'node:fs';
 import os from 'node:os';
 import path from 'node:path';
-import {
-  PHONE,
-  TABLET,
-  onNewInstallation,
-  openPastGreeting,
-  runBrowserTest,
-  until,
-} from './harness.mjs';
+import * as e2e from './harness.mjs';
 
 const CLOUD_ROW = '[data-id="menu:38"]';
 
@@ -47,39 +39,35 @@ async function copyEverything(page, folder, shot) {
   await page.waitForSelector('.message:has-text("Облако оптимизировано")');
 }
 
-await runBrowserTest('cloud', async ({ browser, base, outDir, executable }) => {
+await e2e.runBrowserTest('cloud', async ({ browser, base, outDir, executable }) => {
   const shared = fs.mkdtempSync(path.join(os.tmpdir(), 'ladaneya-e2e-cloud-'));
   const folder = path.join(shared, 'Ладанея');
   try {
-    const phone = await openPastGreeting(browser, base, { device: PHONE });
+    const phone = await e2e.openPastGreeting(browser, base, { device: e2e.PHONE });
     assert.match(await phone.page.locator(CLOUD_ROW).innerText(), /Отключено/);
     await chooseFolder(phone.page, folder, path.join(outDir, 'cloud-choice-phone.png'));
     assert.ok(fs.statSync(folder).isDirectory(), 'the folder is made');
 
-    const tablet = await openPastGreeting(browser, base, { device: TABLET });
+    const tablet = await e2e.openPastGreeting(browser, base, { device: e2e.TABLET });
     await copyEverything(tablet.page, folder, path.join(outDir, 'cloud-copy-tablet.png'));
-    const files = fs.readdirSync(folder);
-    assert.ok(
-      files.some((f) => /^CLOUD-1-[0-9A-F-]+\.dat$/i.test(f)),
-      `a profile file among ${files}`,
-    );
-    assert.deepEqual([...phone.errors, ...tablet.errors], [], 'page errors');
-    await phone.context.close();
-    await tablet.context.close();
+    const files = fs.readdirSync(folder).join(' ');
+    assert.match(files, /(^| )CLOUD-1-[0-9A-F-]+\.dat( |$)/i, 'a profile file among the copied');
+    await e2e.closeClean(phone);
+    await e2e.closeClean(tablet);
 
     // Another installation on the same folder reads it whole.
-    await onNewInstallation(
+    await e2e.onNewInstallation(
       executable,
       async ({ base: other }) => {
-        const { page, context } = await openPastGreeting(browser, other, { device: PHONE });
-        await until('the second installation has read the folder', async () => {
+        const { page, context } = await e2e.openPastGreeting(browser, other, { device: e2e.PHONE });
+        await e2e.until('the second installation has read the folder', async () => {
           await page.reload();
           await page.waitForSelector(CLOUD_ROW);
           return /100%/.test(await page.locator(CLOUD_ROW).innerText());
         });
         // The menu may be drawn again at any moment as passes run: no handle is kept.
         await page.evaluate((row) => document.querySelector(row)?.scrollIntoView(), CLOUD_ROW);
-        await page.screenshot({ path: path.join(outDir, 'cloud-second-phone.png') });
+        await e2e.snap(page, outDir, 'cloud-second-phone');
         await context.close();
       },
       { extraArgs: ['--cloud', folder], name: 'cloud-second' },

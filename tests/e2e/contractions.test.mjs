@@ -1,10 +1,8 @@
 // Browser test of the contraction counter: opened by its shortcut, three contractions timed on
 // the server's test clock, the charts and the trend message drawn, a row swiped away, and one
 // timed across a locked screen.
-//   node tests/e2e/contractions.test.mjs --server PATH_TO_SERVER --out SCREENSHOT_DIR
 import assert from 'node:assert/strict';
-import path from 'node:path';
-import { advanceClock, boxesOf, openPastGreeting, runBrowserTest } from './harness.mjs';
+import * as e2e from './harness.mjs';
 
 const TOO_FEW =
   'Данных мало. Нужно минимум 4 схватки (3 интервала между ними), чтобы начать определение тенденции.';
@@ -14,42 +12,18 @@ const ALARM_START = 'Внимание! Частота схваток увели�
 const START = '[data-id="contractions:start"]';
 const STOP = '[data-id="contractions:stop"]';
 
-/** Waits until the element's text passes the test; a timeout names what was awaited and what
- *  was shown instead. */
-async function waitForText(page, selector, expected, prefix = false) {
-  await page
-    .waitForFunction(
-      ([sel, text, startsWith]) => {
-        const shown = document.querySelector(sel)?.textContent ?? '';
-        return startsWith ? shown.startsWith(text) : shown === text;
-      },
-      [selector, expected, prefix],
-    )
-    .catch(async () => {
-      const shown = await page.evaluate(
-        (sel) => document.querySelector(sel)?.textContent,
-        selector,
-      );
-      throw new Error(`${selector} shows "${shown}", not "${expected}"`);
-    });
-}
-
-async function trendText(page) {
-  return page.textContent('[data-info="trend"]');
-}
-
 /** Times one contraction of `length` seconds after a pause of `pause` seconds. */
 async function timeOne(page, pause, length) {
-  await advanceClock(page, pause);
+  await e2e.advanceClock(page, pause);
   // The last contraction's time fades out within two ticks and the button moves up with it:
   // a tap before that redraw would land beside the button.
   await page.waitForSelector('.timer[hidden]', { state: 'attached' });
   await page.tap(START);
   await page.waitForSelector(STOP);
-  await advanceClock(page, length);
+  await e2e.advanceClock(page, length);
   // The running time follows the server's clock at the next tick.
   const shown = `${String(Math.floor(length / 60)).padStart(2, '0')}:${String(length % 60).padStart(2, '0')}`;
-  await waitForText(page, '.timer', shown);
+  await e2e.waitForText(page, '.timer', shown);
   await page.tap(STOP);
   await page.waitForSelector(START);
 }
@@ -89,11 +63,11 @@ async function setVisibility(page, state) {
 async function timeAcrossTheLock(page) {
   await page.tap(START);
   await page.waitForSelector(STOP);
-  await advanceClock(page, 25);
+  await e2e.advanceClock(page, 25);
   await setVisibility(page, 'hidden');
-  await advanceClock(page, 35);
+  await e2e.advanceClock(page, 35);
   await setVisibility(page, 'visible');
-  await waitForText(page, '.timer', '01:00');
+  await e2e.waitForText(page, '.timer', '01:00');
   await page.tap(STOP);
   await page.waitForSelector(START);
   await page.waitForFunction(() =>
@@ -103,34 +77,26 @@ async function timeAcrossTheLock(page) {
   );
 }
 
-async function checkCounter(browser, base, outDir) {
-  const { context, page, errors } = await openPastGreeting(browser, base);
+async function checkCounter({ browser, base, outDir }) {
+  const { context, page, errors } = await e2e.openPastGreeting(browser, base);
 
   await page.goto(`${base}/?shortcut=SCHVATKI`);
   await page.waitForSelector('[data-info="trend"]');
-  assert.equal(await trendText(page), NO_DATA, 'an empty counter asks for the first contraction');
-  const charts = (await boxesOf(page, '.ring-page .chart svg')).map((box) => box.width > 0);
+  await e2e.waitForText(page, '[data-info="trend"]', NO_DATA);
+  const charts = (await e2e.boxesOf(page, '.ring-page .chart svg')).map((box) => box.width > 0);
   assert.deepEqual(charts, [true, true], 'both charts are drawn');
 
   await timeOne(page, 0, 40);
   await timeOne(page, 300, 45);
   await timeOne(page, 290, 50);
-  await waitForText(page, '[data-info="trend"]', TOO_FEW);
-  assert.equal(
-    await page.$$eval('.ring-page .list .row', (rows) => rows.length),
-    3,
-    'three rows in the list',
-  );
-  await page.screenshot({ path: path.join(outDir, 'contractions-three.png'), fullPage: true });
+  await e2e.waitForText(page, '[data-info="trend"]', TOO_FEW);
+  assert.equal(await page.locator('.ring-page .list .row').count(), 3, 'three rows in the list');
+  await e2e.snap(page, outDir, 'contractions-three', true);
 
   await timeOne(page, 280, 55);
-  await waitForText(page, '[data-info="trend"]', ALARM_START, true);
-  assert.equal(
-    await page.getAttribute('[data-info="trend"]', 'data-regim'),
-    '3',
-    'the trend is an alarm',
-  );
-  await page.screenshot({ path: path.join(outDir, 'contractions-trend.png'), fullPage: true });
+  await e2e.waitForText(page, '[data-info="trend"]', ALARM_START, 'starts');
+  assert.equal(await page.getAttribute('[data-info="trend"]', 'data-regim'), '3', 'an alarm');
+  await e2e.snap(page, outDir, 'contractions-trend', true);
 
   // A swipe to the left offers the delete button; tapping it removes the row. The running view
   // has faded out first, so no tick redraws the list under the gesture.
@@ -140,29 +106,18 @@ async function checkCounter(browser, base, outDir) {
   assert.equal(await swipe(page, row, -200), '', 'the page stays while a row is swiped');
   await row.locator('button.delete').click();
   await page.waitForFunction(() => document.querySelectorAll('.ring-page .list .row').length === 3);
-  await waitForText(page, '[data-info="trend"]', TOO_FEW);
-  assert.deepEqual(errors, [], 'no uncaught errors in the page');
-  await context.close();
+  await e2e.waitForText(page, '[data-info="trend"]', TOO_FEW);
+  await e2e.closeClean({ context, errors });
+
+  // A second phone times one across its locked screen.
+  const second = await e2e.openPastGreeting(browser, base);
+  await second.page.goto(`${base}/?shortcut=SCHVATKI`);
+  await second.page.waitForSelector(START);
+  await timeAcrossTheLock(second.page);
+  await e2e.closeClean(second);
 }
 
-/** A second phone times a contraction across its locked screen. */
-async function checkLockedScreen(browser, base) {
-  const { context, page, errors } = await openPastGreeting(browser, base);
-  await page.goto(`${base}/?shortcut=SCHVATKI`);
-  await page.waitForSelector(START);
-  await timeAcrossTheLock(page);
-  assert.deepEqual(errors, [], 'no uncaught errors in the page');
-  await context.close();
-}
-
-await runBrowserTest(
-  'contractions',
-  async ({ browser, base, outDir }) => {
-    await checkCounter(browser, base, outDir);
-    await checkLockedScreen(browser, base);
-  },
-  {
-    extraArgs: ['--fake-clock'],
-    env: { ...process.env, LADANEYA_TEST_MODE: '1' },
-  },
-);
+await e2e.runBrowserTest('contractions', checkCounter, {
+  extraArgs: ['--fake-clock'],
+  env: { ...process.env, LADANEYA_TEST_MODE: '1' },
+});

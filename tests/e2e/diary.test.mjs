@@ -3,18 +3,10 @@
 // of the dictionary and a photo; seen in the list under its section; found by search in either
 // case; edited; left for the next day and back; deleted with its photo files. Screenshots of the
 // list and the editor at phone and tablet size.
-//   node tests/e2e/diary.test.mjs --server PATH_TO_SERVER --out SCREENSHOT_DIR
 import assert from 'node:assert/strict';
 import fs from 'node:fs';
 import path from 'node:path';
-import {
-  TABLET,
-  dayField as fieldRow,
-  onNewInstallation,
-  openPastGreeting,
-  runBrowserTest,
-  settled,
-} from './harness.mjs';
+import * as e2e from './harness.mjs';
 
 const EDITIONS = [
   { program: 'ladaneya', pressure: true, dictionaryRow: 'ne-doctor.png', section: /неделя/ },
@@ -31,32 +23,35 @@ async function openDiary(page) {
 
 /** Opens a field's form from the day editor, runs `fill`, and commits it. */
 async function editField(page, icon, fill) {
-  await page.tap(`${fieldRow(icon)}`);
+  await page.tap(e2e.dayField(icon));
   await page.waitForSelector('.editor');
   await fill();
   await page.tap('.editor-ok');
   await page.waitForSelector('.day-editor');
 }
 
-async function recordDay(page, edition, photo) {
+async function recordDay(page, edition) {
   await page.tap('.diary-add');
   await page.waitForSelector('.day-editor');
-  const weight = page.locator(`${fieldRow('ne-weight.png')} input`);
+  const weight = page.locator(`${e2e.dayField('ne-weight.png')} input`);
   await weight.fill('60,5');
   await weight.blur();
-  await settled(page);
+  await e2e.settled(page);
   if (edition.pressure) {
     await editField(page, 'ne-pressure.png', async () => {
       await page.fill('[data-field="field:pressure1"]', '120');
       await page.fill('[data-field="field:pressure2"]', '80');
     });
-    await page.waitForSelector(`${fieldRow('ne-pressure.png')} .day-line`);
+    await page.waitForSelector(`${e2e.dayField('ne-pressure.png')} .day-line`);
   }
   await editField(page, 'ne-notepad.png', () =>
     page.fill('[data-field="field:text"]', 'Первое шевеление'),
   );
   await editField(page, edition.dictionaryRow, () => page.tap('.editor-entry >> nth=0'));
-  await page.setInputFiles('.day-photo-input:not(:first-child) input', photo);
+  await page.setInputFiles(
+    '.day-photo-input:not(:first-child) input',
+    await e2e.drawnJpeg(page, 640, 480),
+  );
   await page.waitForSelector('.day-photo-picture[src^="data:image/jpeg"]');
 }
 
@@ -91,31 +86,20 @@ async function swipeAndDelete(page) {
   }
 }
 
-/** A photo file of the day's, full size or small, kept among the pictures. */
-function dayPictures(dataDir) {
-  const found = [];
-  const walk = (dir) => {
-    for (const entry of fs.readdirSync(dir, { withFileTypes: true })) {
-      const full = path.join(dir, entry.name);
-      if (entry.isDirectory()) walk(full);
-      else if (/\d\d-\d\d-\d{4}(-s)?\.jpg$/.test(entry.name)) found.push(full);
-    }
-  };
-  walk(dataDir);
-  return found;
-}
+/** The photo files of days, full size or small, kept in the data folder. */
+const dayPictures = (dataDir) =>
+  fs.readdirSync(dataDir, { recursive: true }).filter((f) => /\d\d-\d\d-\d{4}(-s)?\.jpg$/.test(f));
 
 async function checkEdition(browser, executable, edition, outDir) {
   const server = path.join(path.dirname(executable), edition.program);
-  await onNewInstallation(
+  await e2e.onNewInstallation(
     server,
     async ({ base, dataDir }) => {
-      const { context, page, errors } = await openPastGreeting(browser, base);
-      const photo = path.join(dataDir, 'photo.png');
-      fs.writeFileSync(photo, await page.screenshot());
+      const { context, page, errors } = await e2e.openPastGreeting(browser, base);
       await openDiary(page);
-      await recordDay(page, edition, photo);
-      await page.screenshot({ path: path.join(outDir, `diary-${edition.program}-editor.png`) });
+      await recordDay(page, edition);
+      const shot = (p, what) => e2e.snap(p, outDir, `diary-${edition.program}-${what}`);
+      await shot(page, 'editor');
       await page.tap('.day-editor .editor-ok');
       await page.waitForSelector('.diary .day-cell.today');
 
@@ -130,7 +114,7 @@ async function checkEdition(browser, executable, edition, outDir) {
       });
       assert.match(section, edition.section);
       assert.equal(dayPictures(dataDir).length, 2, 'the photo and its small copy');
-      await page.screenshot({ path: path.join(outDir, `diary-${edition.program}-list.png`) });
+      await shot(page, 'list');
 
       await searchFinds(page, 'вес');
       await searchFinds(page, 'ВЕС');
@@ -150,11 +134,9 @@ async function checkEdition(browser, executable, edition, outDir) {
         date,
       );
       await page.tap('.day-editor-header button:nth-child(1)');
-      await page.waitForFunction(
-        (d) => document.querySelector('.day-editor-date')?.textContent === d,
-        date,
-      );
-      assert.match(await page.textContent(fieldRow('ne-notepad.png')), /Шевеление стало сильнее/);
+      await e2e.waitForText(page, '.day-editor-date', date);
+      const note = await page.textContent(e2e.dayField('ne-notepad.png'));
+      assert.match(note, /Шевеление стало сильнее/, 'the edit kept');
       await page.tap('.day-editor .editor-ok');
       await page.waitForSelector('.diary .day-cell.today');
 
@@ -165,26 +147,21 @@ async function checkEdition(browser, executable, edition, outDir) {
       await page.waitForFunction(
         () => !/Шевеление/.test(document.querySelector('.day-cell.today')?.textContent ?? ''),
       );
-      assert.deepEqual(dayPictures(dataDir), []);
-      assert.deepEqual(errors, []);
-      await context.close();
+      assert.deepEqual(dayPictures(dataDir), [], 'the photo files go with the day');
+      await e2e.closeClean({ context, errors });
 
-      const tablet = await openPastGreeting(browser, base, { device: TABLET });
+      const tablet = await e2e.openPastGreeting(browser, base, { device: e2e.TABLET });
       await openDiary(tablet.page);
-      await tablet.page.screenshot({
-        path: path.join(outDir, `diary-${edition.program}-list-tablet.png`),
-      });
+      await shot(tablet.page, 'list-tablet');
       await tablet.page.tap('.diary-add');
       await tablet.page.waitForSelector('.day-editor');
-      await tablet.page.screenshot({
-        path: path.join(outDir, `diary-${edition.program}-editor-tablet.png`),
-      });
-      await tablet.context.close();
+      await shot(tablet.page, 'editor-tablet');
+      await e2e.closeClean(tablet);
     },
     { name: edition.program },
   );
 }
 
-await runBrowserTest('diary', async ({ browser, executable, outDir }) => {
+await e2e.runBrowserTest('diary', async ({ browser, executable, outDir }) => {
   for (const edition of EDITIONS) await checkEdition(browser, executable, edition, outDir);
 });

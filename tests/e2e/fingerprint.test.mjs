@@ -1,8 +1,7 @@
 // Browser test of the lock's fingerprint key with the browser's virtual platform authenticator.
-//   node tests/e2e/fingerprint.test.mjs --server PATH_TO_SERVER --out SCREENSHOT_DIR
 import assert from 'node:assert/strict';
 import path from 'node:path';
-import { openPastGreeting, runBrowserTest, typeCode, until } from './harness.mjs';
+import * as e2e from './harness.mjs';
 
 const CODE = '2580';
 const PASSWORD_SWITCH = 'menu:52';
@@ -25,11 +24,11 @@ async function addReader(page) {
   return { cdp, authenticatorId };
 }
 
-await runBrowserTest('fingerprint', async ({ browser, base, outDir, server }) => {
+await e2e.runBrowserTest('fingerprint', async ({ browser, base, outDir, server }) => {
   // Keys are bound to a host name; an address does not take them.
   const site = base.replace('127.0.0.1', 'localhost');
   let reader;
-  const { context, page, errors } = await openPastGreeting(browser, site, {
+  const { context, page, errors } = await e2e.openPastGreeting(browser, site, {
     prepare: async (p) => {
       reader = await addReader(p);
     },
@@ -40,9 +39,9 @@ await runBrowserTest('fingerprint', async ({ browser, base, outDir, server }) =>
 
   // Setting a code registers the reader's key.
   await page.tap(`[data-id="${PASSWORD_SWITCH}"]`);
-  await typeCode(page, CODE + CODE);
+  await e2e.typeCode(page, CODE + CODE);
   await page.waitForSelector('.message');
-  await until('the key to be registered', async () => (await keysOnReader()) === 1);
+  await e2e.until('the key to be registered', async () => (await keysOnReader()) === 1);
   await page.tap('.message button');
 
   // A new browser session is locked; the check that starts at once fails (the finger is not
@@ -51,7 +50,7 @@ await runBrowserTest('fingerprint', async ({ browser, base, outDir, server }) =>
   await context.clearCookies();
   await page.reload();
   await page.waitForSelector(KEY);
-  await until('the first check to fail', () =>
+  await e2e.until('the first check to fail', () =>
     /Authentication Failed|User pressed Cancel button/.test(server.log),
   );
   assert.equal(await page.textContent('.lock-caption'), 'Введите пароль');

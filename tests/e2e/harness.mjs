@@ -1,6 +1,8 @@
 // What the browser tests share: starting and stopping the server, and the browser's settings.
+// Each test runs as: node tests/e2e/NAME.test.mjs --server PATH_TO_SERVER --out OUT_DIR
 import assert from 'node:assert/strict';
 import { spawn } from 'node:child_process';
+import { once } from 'node:events';
 import fs from 'node:fs';
 import net from 'node:net';
 import os from 'node:os';
@@ -18,85 +20,48 @@ export function startServer(
   executable,
   dataDir,
   port,
-  lang = 'ru',
-  extraArgs = [],
-  env = process.env,
-  host = '127.0.0.1',
+  { lang = 'ru', extraArgs = [], env = process.env, host = '127.0.0.1' } = {},
 ) {
-  const args = [
-    'serve',
-    '--data',
-    dataDir,
-    '--listen',
-    `${host}:${port}`,
-    '--lang',
-    lang,
-    ...extraArgs,
-  ];
-  const child = spawn(executable, args, { stdio: ['ignore', 'pipe', 'pipe'], env });
+  const args = ['serve', '--data', dataDir, '--listen', `${host}:${port}`, '--lang', lang];
+  const child = spawn(executable, [...args, ...extraArgs], { stdio: 'pipe', env });
   const server = { child, log: '', exit: null };
   const keep = (chunk) => (server.log = (server.log + chunk).slice(-8000));
   child.stdout.on('data', keep);
   child.stderr.on('data', keep);
   server.exited = new Promise((resolve) => {
-    child.on('error', (error) => {
-      server.exit = { error };
-      resolve(server.exit);
-    });
-    child.on('exit', (code, signal) => {
-      server.exit = { code, signal };
-      resolve(server.exit);
-    });
+    child.on('error', (error) => resolve((server.exit = { error })));
+    child.on('exit', (code, signal) => resolve((server.exit = { code, signal })));
   });
   return server;
 }
 
-export function freePort() {
-  return new Promise((resolve, reject) => {
-    const probe = net.createServer();
-    probe.on('error', reject);
-    probe.listen(0, '127.0.0.1', () => {
-      const { port } = probe.address();
-      probe.close(() => resolve(port));
-    });
-  });
+export async function freePort() {
+  const probe = net.createServer().listen(0, '127.0.0.1');
+  await once(probe, 'listening');
+  const { port } = probe.address();
+  await new Promise((closed) => probe.close(closed));
+  return port;
 }
 
 export const sleep = (ms) => new Promise((resolve) => setTimeout(resolve, ms));
-
-export function describeExit(exit) {
-  return exit.error
-    ? `failed to start: ${exit.error.message}`
-    : `exited (code ${exit.code}, signal ${exit.signal})`;
-}
 
 // Probes with the manifest: the first view of a launch belongs to the browser, which is greeted.
 export async function waitUntilServing(server, base) {
   const deadline = Date.now() + START_TIMEOUT_MS;
   while (Date.now() < deadline) {
-    if (server.exit) throw new Error(`server ${describeExit(server.exit)} before answering`);
-    const status = await fetch(`${base}/manifest.webmanifest`).then(
-      (r) => r.status,
-      () => 0,
-    );
-    if (status === 200) return;
+    const { error, code, signal } = server.exit ?? {};
+    if (error) throw new Error(`server failed to start: ${error.message}`);
+    if (server.exit) throw new Error(`server exited (code ${code}, signal ${signal}) early`);
+    const answer = await fetch(`${base}/manifest.webmanifest`).catch(() => null);
+    if (answer?.status === 200) return;
     await sleep(100);
   }
   throw new Error(`the server did not answer within ${START_TIMEOUT_MS / 1000} s`);
 }
 
-export const PHONE = {
-  viewport: { width: 390, height: 844 },
-  isMobile: true,
-  hasTouch: true,
-  deviceScaleFactor: 2,
-};
-export const TABLET = {
-  viewport: { width: 820, height: 1180 },
-  isMobile: true,
-  hasTouch: true,
-  deviceScaleFactor: 2,
-};
+const TOUCH = { isMobile: true, hasTouch: true, deviceScaleFactor: 2 };
+export const PHONE = { ...TOUCH, viewport: { width: 390, height: 844 } };
+export const TABLET = { ...TOUCH, viewport: { width: 820, height: 1180 } };
 
 export async function stopServer(server) {
   server.child.kill('SIGTERM');
@@ -106,18 +71,15 @@ export async function stopServer(server) {
 }
 
 /**
- * Runs `run({ base, server, dataDir })` against an installation of its own: a server on a fresh
- * data folder and a free port, stopped cleanly afterwards (unless `run` stopped it), its folder
- * removed. A failure carries the server's last output as `serverLog`.
+ * Runs `run({ base, server, dataDir })` against an installation of its own: a server (started
+ * with the `options` of startServer) on a fresh data folder and a free port, stopped cleanly
+ * afterwards (unless `run` stopped it), its folder removed. A failure carries the server's last
+ * output as `serverLog`.
  */
-export async function onNewInstallation(
-  executable,
-  run,
-  { lang = 'ru', extraArgs = [], env = process.env, name = 'second' } = {},
-) {
+export async function onNewInstallation(executable, run, { name = 'second', ...options } = {}) {
   const dataDir = fs.mkdtempSync(path.join(os.tmpdir(), `ladaneya-e2e-${name}-`));
   const port = await freePort();
-  const server = startServer(executable, dataDir, port, lang, extraArgs, env);
+  const server = startServer(executable, dataDir, port, options);
   const cleanup = () => {
     if (!server.exit) server.child.kill('SIGKILL');
     fs.rmSync(dataDir, { recursive: true, force: true });
@@ -164,18 +126,47 @@ export async function openPastGreeting(
   return { context, page, errors };
 }
 
+/** Fails on an uncaught error the page met, and closes its browser context. */
+export async function closeClean({ context, errors }) {
+  assert.deepEqual(errors, [], 'no uncaught errors in the page');
+  await context.close();
+}
+
+/** A screenshot as OUT/<name>.png: what the screen shows, or the whole page. */
+export const snap = (page, outDir, name, fullPage = false) =>
+  page.screenshot({ path: path.join(outDir, `${name}.png`), fullPage });
+
+/** The whole page as OUT/<name>.png at the phone's size, then at the tablet's as <name>-tablet. */
+export async function snapBoth(page, outDir, name) {
+  await snap(page, outDir, name, true);
+  await page.setViewportSize(TABLET.viewport);
+  await snap(page, outDir, `${name}-tablet`, true);
+  await page.setViewportSize(PHONE.viewport);
+}
+
+/** A JPEG file drawn by the page, `width` by `height`: a warm tone with grain, which weighs
+ *  what a camera's photo of that size does. */
+export async function drawnJpeg(page, width, height) {
+  const url = await page.evaluate(
+    ([w, h]) => {
+      const canvas = Object.assign(document.createElement('canvas'), { width: w, height: h });
+      const pixels = new ImageData(w, h);
+      for (let i = 0; i < pixels.data.length; i += 1)
+        pixels.data[i] = i % 4 === 3 ? 255 : 200 - (i % 4) * 50 + Math.random() * 24;
+      canvas.getContext('2d').putImageData(pixels, 0, 0);
+      return canvas.toDataURL('image/jpeg', 0.95);
+    },
+    [width, height],
+  );
+  const buffer = Buffer.from(url.split(',')[1], 'base64');
+  return { name: 'drawn.jpg', mimeType: 'image/jpeg', buffer };
+}
+
 /** Moves the server's test clock (a server started with --fake-clock) on by some seconds. */
 export async function advanceClock(page, seconds) {
-  const status = await page.evaluate(
-    (advance) =>
-      fetch('/api/test/clock', {
-        method: 'POST',
-        headers: { 'Content-Type': 'application/json' },
-        body: JSON.stringify({ advance }),
-      }).then((r) => r.status),
-    seconds,
-  );
-  assert.equal(status, 200, 'the test clock moves');
+  const clock = new URL('/api/test/clock', page.url()).href;
+  const response = await page.request.post(clock, { data: { advance: seconds } });
+  assert.equal(response.status(), 200, 'the test clock moves');
 }
 
 /** Opens the picker of an editor row and turns each wheel to the row with the given text. */
@@ -213,11 +204,8 @@ export async function createPregnancy(page, { name, daysAgo = 0 }) {
   await page.waitForSelector('.editor');
   if (daysAgo > 0) {
     const first = new Date(Date.now() - daysAgo * 86400000);
-    await pickOnWheels(page, 'field:sdat1', [
-      String(first.getDate()),
-      monthOf(first),
-      String(first.getFullYear()),
-    ]);
+    const wheels = [first.getDate(), monthOf(first), first.getFullYear()].map(String);
+    await pickOnWheels(page, 'field:sdat1', wheels);
   }
   await page.fill('input[data-field="field:name"]', name);
   await page.locator('input[data-field="field:name"]').blur();
@@ -226,9 +214,10 @@ export async function createPregnancy(page, { name, daysAgo = 0 }) {
   await openCard(page, name);
 }
 
-/** The card of the pregnancy with that name, opened. */
+/** The card of the pregnancy with that name (the first card unless named), opened. */
 export async function openCard(page, name) {
-  await page.locator('.card', { hasText: name }).tap();
+  const card = page.locator('.card[data-id]', name && { hasText: name });
+  await card.first().tap();
   await page.waitForSelector('.card.open');
 }
 
@@ -268,32 +257,29 @@ export async function typeCode(page, code) {
   for (const digit of code) await page.tap(`button[data-id="lock:${digit}"]`);
 }
 
-/** Waits until the lock's caption reads `text`. */
-export async function captionIs(page, text) {
-  await page.waitForFunction(
-    (t) => document.querySelector('.lock-caption')?.textContent === t,
-    text,
-  );
+/** Waits until the element's text is `text`, or with `how` 'starts' or 'has' starts with it or
+ *  holds it; a timeout says what it showed instead. */
+export async function waitForText(page, selector, text, how = 'is') {
+  const holds = ([s, t, h]) => {
+    const shown = document.querySelector(s)?.textContent ?? '';
+    return h === 'starts' ? shown.startsWith(t) : h === 'has' ? shown.includes(t) : shown === t;
+  };
+  await page.waitForFunction(holds, [selector, text, how]).catch(async () => {
+    const shown = await page.textContent(selector, { timeout: 1000 }).catch(() => null);
+    throw new Error(`${selector} shows "${shown}", not (${how}) "${text}"`);
+  });
 }
 
 /**
- * Runs one browser test file: reads `--server PATH --out DIR`, starts the server on a fresh data
- * folder and a free port, launches the browser, and calls `check({ browser, base, outDir,
- * executable, server, dataDir })`. Reports "<name>: 1 passed, 0 failed" or the failure with the server's
- * last output, stops the server cleanly and removes the data folder.
+ * Runs one browser test file: reads `--server PATH --out DIR`, launches the browser and calls
+ * `check({ browser, base, outDir, executable, server, dataDir })` on a new installation (with the
+ * server's `options` of onNewInstallation). Reports "<name>: 1 passed, 0 failed" or the failure
+ * with the server's last output.
  */
-export async function runBrowserTest(
-  name,
-  check,
-  { lang = 'ru', extraArgs = [], env = process.env } = {},
-) {
+export async function runBrowserTest(name, check, options = {}) {
   const { values } = parseArgs({
     options: { server: { type: 'string' }, out: { type: 'string' } },
   });
-  if (!values.server || !values.out) {
-    console.error(`usage: node tests/e2e/${name}.test.mjs --server PATH --out DIR`);
-    process.exit(2);
-  }
   fs.mkdirSync(values.out, { recursive: true });
   const executable = path.resolve(values.server);
   let browser = null;
@@ -303,7 +289,7 @@ export async function runBrowserTest(
       executable,
       ({ base, server, dataDir }) =>
         check({ browser, base, outDir: values.out, executable, server, dataDir }),
-      { lang, extraArgs, env, name },
+      { ...options, name },
     );
     console.log(`${name}: 1 passed, 0 failed`);
   } catch (error) {

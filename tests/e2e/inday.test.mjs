@@ -2,28 +2,11 @@
 // editor, stands in the schedule; the meal times set in the dialog "Время приема пищи" are kept
 // and redraw it, the dinner's over midnight to the top of the day (the rows' order is the C++
 // suite's). Screenshots of the schedule and the dialog at phone and tablet size.
-//   node tests/e2e/inday.test.mjs --server PATH_TO_SERVER --out SCREENSHOT_DIR
 import assert from 'node:assert/strict';
-import path from 'node:path';
-import {
-  PHONE,
-  TABLET,
-  createPregnancy,
-  openPastGreeting,
-  pickOnWheels,
-  runBrowserTest,
-  settled,
-} from './harness.mjs';
+import * as e2e from './harness.mjs';
 
-const PILLS_ROW = '.day-field:has(img[src$="/ne-pills128.png"])';
+const PILLS_ROW = e2e.dayField('ne-pills128.png');
 const RELATION = 'Перед едой';
-
-async function screenshots(page, name, outDir) {
-  await page.screenshot({ path: path.join(outDir, `${name}.png`), fullPage: true });
-  await page.setViewportSize(TABLET.viewport);
-  await page.screenshot({ path: path.join(outDir, `${name}-tablet.png`), fullPage: true });
-  await page.setViewportSize(PHONE.viewport);
-}
 
 /** Chooses the entry of a dictionary field of the medicine form. */
 async function chooseEntry(page, field, caption) {
@@ -40,7 +23,7 @@ async function writeCourse(page) {
   await page.waitForSelector('.day-editor');
   await page.tap(PILLS_ROW);
   await chooseEntry(page, 'pillname', 'Арбидол');
-  await pickOnWheels(page, 'field:pillinter', ['2', 'раз в день']);
+  await e2e.pickOnWheels(page, 'field:pillinter', ['2', 'раз в день']);
   await chooseEntry(page, 'pilleat', RELATION);
   await page.tap('.editor-ok');
   await page.waitForSelector(`${PILLS_ROW} .day-line:has-text("Арбидол")`);
@@ -49,21 +32,20 @@ async function writeCourse(page) {
   await page.tap('.ring-page .to-menu');
 }
 
-await runBrowserTest('inday', async ({ browser, base, outDir }) => {
-  const { context, page, errors } = await openPastGreeting(browser, base);
-  await createPregnancy(page, { name: 'Вера' });
+await e2e.runBrowserTest('inday', async ({ browser, base, outDir }) => {
+  const { context, page, errors } = await e2e.openPastGreeting(browser, base);
+  await e2e.createPregnancy(page, { name: 'Вера' });
   await writeCourse(page);
   await page.tap('[data-id="menu:2"]');
   await page.waitForSelector('.ring-page .schedule-relation');
-  await screenshots(page, 'inday', outDir);
+  await e2e.snapBoth(page, outDir, 'inday');
 
   await page.tap('.ring-page .schedule-meals');
   await page.waitForSelector('.editor [data-field="field:time1"]');
-  assert.equal(await page.inputValue('[data-field="field:time1"]'), '09:00');
   await page.fill('[data-field="field:time1"]', '07:30');
   await page.fill('[data-field="field:time3"]', '23:58');
-  await settled(page);
-  await screenshots(page, 'inday-meals', outDir);
+  await e2e.settled(page);
+  await e2e.snapBoth(page, outDir, 'inday-meals');
   await page.tap('.editor-ok');
   await page.waitForSelector('.ring-page .schedule');
 
@@ -72,7 +54,7 @@ await runBrowserTest('inday', async ({ browser, base, outDir }) => {
     () =>
       document.querySelector('.ring-page .schedule-meal .schedule-right')?.textContent === 'ужин',
   );
-  await screenshots(page, 'inday-after', outDir);
+  await e2e.snapBoth(page, outDir, 'inday-after');
 
   // The day before has no course; the dialog opens with the times stored.
   await page.tap('.ring-page .diary-year button >> nth=0');
@@ -81,6 +63,5 @@ await runBrowserTest('inday', async ({ browser, base, outDir }) => {
   assert.equal(await page.inputValue('[data-field="field:time1"]'), '07:30');
   assert.equal(await page.inputValue('[data-field="field:time3"]'), '23:58');
   await page.tap('.editor-cancel');
-  assert.deepEqual(errors, []);
-  await context.close();
+  await e2e.closeClean({ context, errors });
 });

@@ -2,38 +2,22 @@
 // create a pregnancy, see its card and state line, swipe to the next page and back to the
 // menu, turn the lock on, reload, try a wrong code and unlock. Before all that, a server
 // listening beyond loopback without a password is refused.
-//   node tests/e2e/journey.test.mjs --server PATH_TO_SERVER --out SCREENSHOT_DIR
 import assert from 'node:assert/strict';
 import fs from 'node:fs';
 import os from 'node:os';
 import path from 'node:path';
-import {
-  PHONE,
-  TABLET,
-  boxesOf,
-  captionIs,
-  freePort,
-  onNewInstallation,
-  openPastGreeting,
-  pickOnWheels,
-  runBrowserTest,
-  startServer,
-  typeCode,
-} from './harness.mjs';
+import * as e2e from './harness.mjs';
 
 const CODE = '2468';
 const NAME = 'Мира';
 
-async function shot(page, outDir, device, step) {
-  await page.screenshot({ path: path.join(outDir, `journey-${device}-${step}.png`) });
-}
+const shot = (page, outDir, device, step) => e2e.snap(page, outDir, `journey-${device}-${step}`);
 
 /** "Новая беременность", its dates, name and sex, saved: the menu shows its card. */
 async function createPregnancy(page, outDir, device) {
   await page.tap('[data-id="menu:31"]');
   await page.waitForSelector('.editor');
-  assert.equal(await page.textContent('.editor .page-title'), 'Новая беременность');
-  await pickOnWheels(page, 'field:sdat1', ['1', 'мая', '2026']);
+  await e2e.pickOnWheels(page, 'field:sdat1', ['1', 'мая', '2026']);
   await page.fill('input[data-field="field:name"]', NAME);
   await page.locator('input[data-field="field:name"]').blur();
   await page.tap('.segment:nth-child(3)');
@@ -49,20 +33,17 @@ async function checkCard(page, outDir, device) {
   await card.waitFor();
   const lines = await card.locator('.card-line').allTextContents();
   assert.equal(lines[0], '01.05.2026 - 05.02.2027', 'the dates line');
-  assert.ok(lines.length >= 2 && lines[1].length > 0, 'a state line under the dates');
-  assert.notEqual(lines[1], 'Срок указан неправильно', 'the dates are sound');
+  assert.ok(lines[1] && lines[1] !== 'Срок указан неправильно', `a sound state line: ${lines[1]}`);
   assert.match(await card.locator('.card-sex').getAttribute('src'), /w-pic\.png/, 'a girl');
-  const overflow = await page.evaluate(
-    () => document.documentElement.scrollWidth - window.innerWidth,
-  );
-  assert.ok(overflow <= 0, `nothing wider than the screen (${overflow}px over)`);
+  // Against the device's width: a phone's page widens to fit what overflows it.
+  const over = (await page.evaluate(() => document.body.scrollWidth)) - page.viewportSize().width;
+  assert.ok(over <= 0, `nothing wider than the screen (${over}px over)`);
   // The first pregnancy and the new one: one above the other on a phone, side by side on a tablet.
-  const tops = (await boxesOf(page, '.card')).map((box) => Math.round(box.top));
-  assert.equal(tops.length, 2, 'two pregnancy cards');
-  assert.equal(
-    tops[0] === tops[1],
-    device === 'tablet',
-    `cards side by side only on a tablet (${tops})`,
+  const tops = (await e2e.boxesOf(page, '.card')).map((box) => Math.round(box.top));
+  assert.deepEqual(
+    [tops.length, tops[0] === tops[1]],
+    [2, device === 'tablet'],
+    `two cards, side by side only on a tablet (${tops})`,
   );
   await shot(page, outDir, device, 'card');
   await card.tap();
@@ -70,11 +51,10 @@ async function checkCard(page, outDir, device) {
 }
 
 async function drag(page, from, to) {
-  const y = (await boxesOf(page, '.ring-page'))[0].top + 300;
+  const y = (await e2e.boxesOf(page, '.ring-page'))[0].top + 300;
   await page.mouse.move(from, y);
   await page.mouse.down();
-  const steps = 6;
-  for (let i = 1; i <= steps; i += 1) await page.mouse.move(from + ((to - from) * i) / steps, y);
+  await page.mouse.move(to, y, { steps: 6 });
   await page.mouse.up();
 }
 
@@ -97,21 +77,20 @@ async function swipeThroughPages(page, outDir, device) {
 
 async function lockAndUnlock(page, outDir, device) {
   await page.tap('[data-id="menu:52"]');
-  await captionIs(page, 'Введите новый пароль');
-  await typeCode(page, CODE);
-  await captionIs(page, 'Введите пароль еще раз');
-  await typeCode(page, CODE);
+  await e2e.waitForText(page, '.lock-caption', 'Введите новый пароль');
+  await e2e.typeCode(page, CODE);
+  await e2e.waitForText(page, '.lock-caption', 'Введите пароль еще раз');
+  await e2e.typeCode(page, CODE);
   await page.tap('.message button');
   await page.waitForSelector('[data-id="menu:52"] .switch[aria-checked="true"]');
   await page.context().clearCookies(); // a browser the installation has not seen yet
   await page.reload();
-  await captionIs(page, 'Введите пароль');
-  assert.equal(await page.$$eval('.lock-dot', (dots) => dots.length), 4, 'four dots');
+  await e2e.waitForText(page, '.lock-caption', 'Введите пароль');
   assert.equal(await page.$('.card'), null, 'nothing of the diary behind the lock');
-  await typeCode(page, '0000');
-  await captionIs(page, 'Пароль указан неправильно');
+  await e2e.typeCode(page, '0000');
+  await e2e.waitForText(page, '.lock-caption', 'Пароль указан неправильно');
   await shot(page, outDir, device, 'lock');
-  await typeCode(page, CODE);
+  await e2e.typeCode(page, CODE);
   await page.locator('.card', { hasText: NAME }).waitFor();
 }
 
@@ -119,17 +98,8 @@ async function lockAndUnlock(page, outDir, device) {
 async function refusedWithoutPassword(executable) {
   const dataDir = fs.mkdtempSync(path.join(os.tmpdir(), 'ladaneya-e2e-open-'));
   try {
-    const server = startServer(
-      executable,
-      dataDir,
-      await freePort(),
-      'ru',
-      [],
-      process.env,
-      '0.0.0.0',
-    );
-    const exit = await server.exited;
-    assert.equal(exit.code, 2, 'a listen beyond loopback without a password is refused');
+    const server = e2e.startServer(executable, dataDir, await e2e.freePort(), { host: '0.0.0.0' });
+    assert.equal((await server.exited).code, 2, 'a listen beyond loopback without a password');
     assert.match(server.log, /password/, 'the refusal says why');
   } finally {
     fs.rmSync(dataDir, { recursive: true, force: true });
@@ -137,19 +107,18 @@ async function refusedWithoutPassword(executable) {
 }
 
 async function journey(browser, base, outDir, device, name) {
-  const { context, page, errors } = await openPastGreeting(browser, base, { device });
+  const { context, page, errors } = await e2e.openPastGreeting(browser, base, { device });
   await createPregnancy(page, outDir, name);
   await checkCard(page, outDir, name);
   await swipeThroughPages(page, outDir, name);
   await lockAndUnlock(page, outDir, name);
-  assert.deepEqual(errors, [], `no uncaught errors in the page (${name})`);
-  await context.close();
+  await e2e.closeClean({ context, errors });
 }
 
-await runBrowserTest('journey', async ({ browser, base, outDir, executable }) => {
+await e2e.runBrowserTest('journey', async ({ browser, base, outDir, executable }) => {
   await refusedWithoutPassword(executable);
-  await journey(browser, base, outDir, PHONE, 'phone');
-  await onNewInstallation(executable, ({ base: tabletBase }) =>
-    journey(browser, tabletBase, outDir, TABLET, 'tablet'),
+  await journey(browser, base, outDir, e2e.PHONE, 'phone');
+  await e2e.onNewInstallation(executable, ({ base: tabletBase }) =>
+    journey(browser, tabletBase, outDir, e2e.TABLET, 'tablet'),
   );
 });

@@ -1,11 +1,10 @@
 // Browser test of the looks at phone and tablet size: the menu takes the colours of the chosen
 // background's theme on translucent surfaces and fits the width; a profile's portrait in the
 // data folder shows on its card.
-//   node tests/e2e/looks.test.mjs --server PATH_TO_SERVER --out SCREENSHOT_DIR
 import assert from 'node:assert/strict';
 import fs from 'node:fs';
 import path from 'node:path';
-import { openPastGreeting, PHONE, runBrowserTest, TABLET } from './harness.mjs';
+import * as e2e from './harness.mjs';
 
 const GUID = '00000000-0000-0000-0001-000000000001'; // the pregnancy of the first launch
 const PORTRAIT = `/doc/portrait/${GUID}`;
@@ -27,9 +26,10 @@ async function chooseBackground(page, id) {
   );
 }
 
-/** Computed colours of the menu's parts, and the size of what lies on the page. */
-function looksOf(page) {
-  return page.evaluate(() => {
+/** Computed colours of the menu's parts, the size of what lies on the page, and the screen's
+ *  width: the device's, as a phone's page widens to fit what overflows it. */
+async function looksOf(page) {
+  const looks = await page.evaluate(() => {
     const style = (selector) => getComputedStyle(document.querySelector(selector));
     const boxes = [...document.querySelectorAll('.row, .card, .page-header')].map((e) =>
       e.getBoundingClientRect(),
@@ -43,12 +43,12 @@ function looksOf(page) {
       card: style('.card').backgroundColor,
       fontSize: parseFloat(style('html').fontSize),
       scrollWidth: document.documentElement.scrollWidth,
-      innerWidth: window.innerWidth,
       widest: Math.max(...boxes.map((b) => b.right)),
       leftmost: Math.min(...boxes.map((b) => b.left)),
       rowWidth: document.querySelector('.row').getBoundingClientRect().width,
     };
   });
+  return { ...looks, screenWidth: page.viewportSize().width };
 }
 
 const channels = (colour) => colour.match(/[\d.]+/g).map(Number);
@@ -59,27 +59,16 @@ function checkReadable(looks, where) {
   const light = brightness(channels(looks.row)) > 127.5;
   for (const surface of ['list', 'card']) {
     const [r, g, b, a = 1] = channels(looks[surface]);
-    assert.ok(
-      a > 0 && a < 1,
-      `${where}: the ${surface} lets the picture through (${looks[surface]})`,
-    );
-    assert.equal(
-      brightness([r, g, b]) < 127.5,
-      light,
-      `${where}: the ${surface} is tinted against the text`,
-    );
+    const seen = `${where}: the ${surface} (${looks[surface]})`;
+    assert.ok(a > 0 && a < 1, `${seen} lets the picture through`);
+    assert.equal(brightness([r, g, b]) < 127.5, light, `${seen} is tinted against the text`);
   }
 }
 
 function checkFits(looks, where) {
-  assert.ok(
-    looks.scrollWidth <= looks.innerWidth,
-    `${where}: no sideways scrolling (${looks.scrollWidth})`,
-  );
-  assert.ok(
-    looks.widest <= looks.innerWidth && looks.leftmost >= 0,
-    `${where}: nothing is cut at the sides`,
-  );
+  const widest = Math.max(looks.scrollWidth, looks.widest);
+  assert.ok(widest <= looks.screenWidth, `${where}: no sideways scrolling (${widest})`);
+  assert.ok(looks.leftmost >= 0, `${where}: nothing is cut at the left`);
 }
 
 /** The portrait on the open card, and the tablet's column and type. */
@@ -92,17 +81,16 @@ async function checkMenu(page, device, name) {
     await chooseBackground(page, theme.id);
     const looks = await looksOf(page);
     const where = `${name}, background ${theme.id}`;
-    assert.deepEqual([looks.body, looks.row], [theme.text, theme.text], `${where}: texts`);
-    assert.equal(looks.title, theme.caption, `${where}: the title`);
-    assert.ok(
-      looks.openCard.includes(theme.accent),
-      `${where}: the open card's mark ${looks.openCard}`,
+    assert.deepEqual(
+      [looks.body, looks.row, looks.title, looks.openCard.includes(theme.accent)],
+      [theme.text, theme.text, theme.caption, true],
+      `${where}: texts, the title and the open card's mark (${looks.openCard})`,
     );
     checkReadable(looks, where);
     checkFits(looks, where);
-    if (device === TABLET) {
+    if (device === e2e.TABLET) {
       assert.ok(looks.fontSize > 16, `${where}: larger type on a tablet`);
-      assert.ok(looks.rowWidth > PHONE.viewport.width, `${where}: the tablet's room is used`);
+      assert.ok(looks.rowWidth > e2e.PHONE.viewport.width, `${where}: the tablet's room is used`);
     } else {
       assert.equal(looks.fontSize, 16, `${where}: phones keep their type`);
     }
@@ -116,7 +104,7 @@ async function checkEveryBackground(page, outDir) {
     await chooseBackground(page, id);
     const looks = await looksOf(page);
     checkReadable(looks, `background ${id}`);
-    await page.screenshot({ path: path.join(outDir, `looks-phone-background-${id}.png`) });
+    await e2e.snap(page, outDir, `looks-phone-background-${id}`);
   }
 }
 
@@ -124,70 +112,48 @@ async function checkEveryBackground(page, outDir) {
 async function checkCounterPage(page, base, outDir) {
   await page.goto(`${base}/?shortcut=SCHVATKI`);
   await page.waitForSelector('.ring-page [data-info="trend"]');
-  const sizes = await page.evaluate(() => ({
+  const { scrollWidth, charts } = await page.evaluate(() => ({
     scrollWidth: document.documentElement.scrollWidth,
     charts: [...document.querySelectorAll('.ring-page .chart')].map(
       (c) => c.getBoundingClientRect().right,
     ),
   }));
-  const width = TABLET.viewport.width;
+  assert.equal(charts.length, 2, 'the counter draws two charts');
   assert.ok(
-    sizes.scrollWidth <= width,
-    `the counter: no sideways scrolling (${sizes.scrollWidth})`,
+    Math.max(scrollWidth, ...charts) <= e2e.TABLET.viewport.width,
+    `the counter and its charts fit (${scrollWidth}, ${charts})`,
   );
-  assert.ok(
-    sizes.charts.length === 2 && sizes.charts.every((right) => right <= width),
-    'the counter: charts fit',
-  );
-  await page.screenshot({ path: path.join(outDir, 'looks-tablet-counter.png'), fullPage: true });
+  await e2e.snap(page, outDir, 'looks-tablet-counter', true);
 }
 
 async function checkLandscapeTablet(page, outDir) {
-  await page.setViewportSize({ width: TABLET.viewport.height, height: TABLET.viewport.width });
-  await page.waitForFunction((w) => window.innerWidth === w, TABLET.viewport.height);
+  const { width, height } = e2e.TABLET.viewport;
+  await page.setViewportSize({ width: height, height: width });
+  await page.waitForFunction((w) => window.innerWidth === w, height);
   const looks = await looksOf(page);
   checkFits(looks, 'tablet landscape');
-  assert.ok(
-    looks.rowWidth <= COLUMN_MAX_PX,
-    `tablet landscape: the column keeps a readable width (${looks.rowWidth})`,
-  );
-  await page.screenshot({ path: path.join(outDir, 'looks-tablet-landscape.png'), fullPage: true });
+  const column = looks.rowWidth;
+  assert.ok(column <= COLUMN_MAX_PX, `tablet landscape: a readable column (${column})`);
+  await e2e.snap(page, outDir, 'looks-tablet-landscape', true);
 }
 
-/** A JPEG drawn by the browser, written where the profile's portrait is kept. */
-async function placePortrait(page, dataDir) {
-  const data = await page.evaluate(() => {
-    const canvas = document.createElement('canvas');
-    canvas.width = canvas.height = 64;
-    const pen = canvas.getContext('2d');
-    pen.fillStyle = '#3a7';
-    pen.fillRect(0, 0, 64, 64);
-    return canvas.toDataURL('image/jpeg');
-  });
+await e2e.runBrowserTest('looks', async ({ browser, base, outDir, dataDir }) => {
+  const phone = await e2e.openPastGreeting(browser, base, { device: e2e.PHONE });
+  // A photo where the profile's portrait is kept.
   const folder = path.join(dataDir, 'Documents', 'picture');
   fs.mkdirSync(folder, { recursive: true });
-  fs.writeFileSync(
-    path.join(folder, `child-${GUID}.jpg`),
-    Buffer.from(data.split(',')[1], 'base64'),
-  );
-}
-
-await runBrowserTest('looks', async ({ browser, base, outDir, dataDir }) => {
-  const phone = await openPastGreeting(browser, base, { device: PHONE });
-  await placePortrait(phone.page, dataDir);
-  await phone.page.tap('.card[data-id]');
-  await phone.page.waitForSelector('.card.open');
-  await checkMenu(phone.page, PHONE, path.join(outDir, 'looks-phone'));
+  fs.writeFileSync(`${folder}/child-${GUID}.jpg`, (await e2e.drawnJpeg(phone.page, 64, 64)).buffer);
+  await e2e.openCard(phone.page);
+  await checkMenu(phone.page, e2e.PHONE, path.join(outDir, 'looks-phone'));
   await checkEveryBackground(phone.page, outDir);
 
-  const tablet = await openPastGreeting(browser, base, { device: TABLET });
-  await tablet.page.tap('.card[data-id]');
-  await tablet.page.waitForSelector('.card.open');
-  await checkMenu(tablet.page, TABLET, path.join(outDir, 'looks-tablet'));
+  const tablet = await e2e.openPastGreeting(browser, base, { device: e2e.TABLET });
+  await e2e.openCard(tablet.page);
+  await checkMenu(tablet.page, e2e.TABLET, path.join(outDir, 'looks-tablet'));
   await checkLandscapeTablet(tablet.page, outDir);
-  await tablet.page.setViewportSize(TABLET.viewport);
+  await tablet.page.setViewportSize(e2e.TABLET.viewport);
   await checkCounterPage(tablet.page, base, outDir);
 
-  assert.deepEqual([...phone.errors, ...tablet.errors], [], 'no uncaught errors in the pages');
-  await Promise.all([phone.context.close(), tablet.context.close()]);
+  await e2e.closeClean(phone);
+  await e2e.closeClean(tablet);
 });

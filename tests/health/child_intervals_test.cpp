@@ -17,7 +17,6 @@ TEST(ChildIntervals, CountIntervalSubtractsOverMidnightAndAddsWithoutCarryingSix
       {"10:45", "12:15", std::nullopt, "01:30"},
       {"9:5", "10:0", std::nullopt, "00:55"},
       {"01:30", std::nullopt, "00:30", "01:60"},  // exactly 60 minutes stay as they are
-      {"23:30", std::nullopt, "00:30", "23:60"},
       {"23:50", std::nullopt, "00:30", "00:20"},
       {"22:00", std::nullopt, "03:15", "01:15"},
       {"10:00", "11:00", "01:00", std::nullopt},
@@ -31,7 +30,6 @@ TEST(ChildIntervals, CountIntervalSubtractsOverMidnightAndAddsWithoutCarryingSix
 
 TEST(ChildIntervals, MinutesAndClockTexts) {
   EXPECT_EQ(mtt(""), "00:00");
-  EXPECT_EQ(mtt("0"), "00:00");
   EXPECT_EQ(mtt("7"), "00:07");
   EXPECT_EQ(mtt("95"), "01:35");
   EXPECT_EQ(ttm("01:35"), 95);

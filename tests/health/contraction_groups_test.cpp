@@ -25,7 +25,6 @@ TEST_F(ContractionGroupsTest, PausesOverAnHourSplitTheGroups) {
   EXPECT_EQ(pauses, (std::vector<std::int64_t>{0, 300, 3600, 0, 200, 0}));
 
   EXPECT_EQ(positionOf(groups, 0, 2), 2u);
-  EXPECT_EQ(positionOf(groups, 1, 1), 4u);
   EXPECT_EQ(positionOf(groups, 2, 0), 5u);
 
   std::vector<Contraction> none;

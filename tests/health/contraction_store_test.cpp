@@ -10,6 +10,12 @@ namespace {
 
 using namespace std::chrono_literals;
 
+std::vector<std::int64_t> idsOf(const std::vector<Contraction>& rows) {
+  std::vector<std::int64_t> out;
+  for (const auto& c : rows) out.push_back(c.schid);
+  return out;
+}
+
 class ContractionStoreTest : public lad::testing::StoreTest {
  protected:
   void SetUp() override {
@@ -31,24 +37,18 @@ TEST_F(ContractionStoreTest, AddLoadAndDelete) {
   for (const auto& c : rows) ids.push_back(addContraction(*store, c, "P1"));
   EXPECT_TRUE(store->changed());
   EXPECT_GT(addContraction(*store, rows[0], "P2"), 0);
-  for (auto id : ids) EXPECT_GT(id, 0);
 
   auto loaded = loadContractions(*store, "P1");
   ASSERT_EQ(loaded.size(), 3u);
-  EXPECT_EQ(loaded[0].schid, ids[2]);
-  EXPECT_EQ(loaded[1].schid, ids[0]);
-  EXPECT_EQ(loaded[2].schid, ids[1]);
+  EXPECT_EQ(idsOf(loaded), (std::vector{ids[2], ids[0], ids[1]}));
   EXPECT_EQ(loaded[1].start, rows[0].start);
   EXPECT_EQ(loaded[1].end, rows[0].end);
-  EXPECT_EQ(loaded[1].len, 50);
   EXPECT_EQ(cell("select startdates from pregschvatki where schid=" + std::to_string(ids[0])),
             "2026-03-30 12:00:00");
 
   EXPECT_TRUE(deleteContraction(*store, ids[0]));
   EXPECT_TRUE(store->changed());
-  loaded = loadContractions(*store, "P1");
-  ASSERT_EQ(loaded.size(), 2u);
-  EXPECT_EQ(loaded[1].schid, ids[1]);
+  EXPECT_EQ(idsOf(loadContractions(*store, "P1")), (std::vector{ids[2], ids[1]}));
   EXPECT_TRUE(loadContractions(*store, "none").empty());
 }
 

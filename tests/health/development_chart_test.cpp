@@ -28,6 +28,9 @@ class DevelopmentChartTest : public testing::HealthTest {
       names.push_back(std::filesystem::path(image.text).filename().string());
     return names;
   }
+  static long count(const draw::RecordingCanvas& c, const std::string& picture) {
+    return std::ranges::count(pictures(c), picture);
+  }
   double xOfDay(int day) const {
     return charts::getPoint(developmentChart(context, input), kFrame, 2, day, 0).x;
   }
@@ -38,10 +41,9 @@ class DevelopmentChartTest : public testing::HealthTest {
 
 TEST_F(DevelopmentChartTest, FlamesOpenTheTrimestersAndTodaysMarkerCarriesTheSizeFromWeek8) {
   const auto early = paint(30);  // week 4: no size yet
-  auto names = pictures(early);
-  EXPECT_EQ(std::count(names.begin(), names.end(), "b-fire.png"), 3);
-  EXPECT_EQ(std::count(names.begin(), names.end(), "b-child-c.png"), 1);
-  EXPECT_EQ(std::count(names.begin(), names.end(), "b-baloon.png"), 0);
+  EXPECT_EQ(count(early, "b-fire.png"), 3);
+  EXPECT_EQ(count(early, "b-child-c.png"), 1);
+  EXPECT_EQ(count(early, "b-baloon.png"), 0);
   const auto flames = early.ofKind(Kind::Image);
   const auto flameAt = [&](int day) {
     return std::ranges::any_of(flames, [&](const draw::Command& c) {
@@ -51,8 +53,7 @@ TEST_F(DevelopmentChartTest, FlamesOpenTheTrimestersAndTodaysMarkerCarriesTheSiz
   EXPECT_TRUE(flameAt(0) && flameAt(91) && flameAt(182)) << "weeks 1, 14 and 27 begin there";
 
   const auto week8 = paint(60);
-  names = pictures(week8);
-  ASSERT_EQ(std::count(names.begin(), names.end(), "b-baloon.png"), 1);
+  ASSERT_EQ(count(week8, "b-baloon.png"), 1);
   const auto images = week8.ofKind(Kind::Image);
   const auto marker =
       std::ranges::find_if(images, [](const auto& c) { return c.text.ends_with("b-child-c.png"); });
@@ -62,18 +63,15 @@ TEST_F(DevelopmentChartTest, FlamesOpenTheTrimestersAndTodaysMarkerCarriesTheSiz
     return t.text == "1.0 гр.\n14.0 мм.";
   })) << "the early length stands in for the curve's";
 
-  const auto late = paint(288);  // week 41: past the balloon's weeks
-  names = pictures(late);
-  EXPECT_EQ(std::count(names.begin(), names.end(), "b-baloon.png"), 0);
+  EXPECT_EQ(count(paint(288), "b-baloon.png"), 0) << "week 41 is past the balloon's weeks";
   const auto balloonSide = paint(280).ofKind(Kind::Text).back();
   EXPECT_LE(balloonSide.rect.right(), kFrame.right()) << "near the end the balloon turns left";
 }
 
 TEST_F(DevelopmentChartTest, AnEarlyBirthEndsThePicture) {
   const auto born = paint(200, 150);
-  auto names = pictures(born);
-  EXPECT_EQ(std::count(names.begin(), names.end(), "b-fire.png"), 2) << "no third trimester";
-  EXPECT_EQ(std::count(names.begin(), names.end(), "b-child-c.png"), 0) << "today is past it";
+  EXPECT_EQ(count(born, "b-fire.png"), 2) << "no third trimester";
+  EXPECT_EQ(count(born, "b-child-c.png"), 0) << "today is past it";
   EXPECT_EQ(developmentChart(context, input)["xAxisMax"].intValue(), 150);
   EXPECT_EQ(pictures(paint(0)).size(), pictures(paint(30)).size() - 1)
       << "before the first day there is no marker";

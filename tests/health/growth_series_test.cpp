@@ -43,24 +43,14 @@ TEST(GrowthCurves, AWeeksSizeComesFromItsOwnPointOfEachCurve) {
     EXPECT_EQ(s.ves, size.first) << week;
     EXPECT_EQ(s.rost, size.second) << week;
   }
-  const WeekSize twenty = getVesRost(20, 2);
-  EXPECT_DOUBLE_EQ(twenty.vespx, 30 + 580.0 / 40 * 20);
-  EXPECT_DOUBLE_EQ(twenty.vespy, 690 + 300 * 180.0 / -3500);
-  EXPECT_DOUBLE_EQ(twenty.rostpy, 430 + 256 * 180.0 / -550);
-  const WeekSize none = getVesRost(5, 2);
-  EXPECT_EQ(none.vespx, 30) << "a week off the curve leaves the marker at the corner";
-  EXPECT_EQ(none.rostpy, 430);
+  EXPECT_DOUBLE_EQ(getVesRost(20, 2).vespx, 30 + 580.0 / 40 * 20);
+  EXPECT_EQ(getVesRost(5, 2).vespx, 30) << "a week off the curve leaves the marker at the corner";
 
-  EXPECT_EQ(fillVes().size(), 36u);
-  EXPECT_EQ(fillRost().size(), 36u);
   std::vector<std::string> labels;
   for (const WeekPoint& p : fillVes())
     if (!p.label.empty()) labels.push_back(std::to_string(p.week) + "=" + p.label);
   EXPECT_EQ(labels.front(), "3=0.0");
   EXPECT_EQ(labels.back(), "40=3462.0") << "the last label stands at week 40";
-
-  EXPECT_EQ(fillWomanVes(2).back().week, 42);
-  EXPECT_TRUE(fillWomanVes(0).empty()) << "an unknown build has no norm";
 
   EXPECT_EQ(shownLength(29, 0), 2);
   EXPECT_EQ(shownLength(56, 0), 5);
@@ -140,7 +130,6 @@ TEST_F(GrowthSeriesTest, TheWeightChartDrawsTheNormAndTheGainUpToDay294) {
   Map unknownBuild = setup("0");
   const Map onlyOwn = weightChart(*store, kPregnancy, unknownBuild, 2);
   EXPECT_TRUE(onlyOwn["Graph1"].asList()->empty()) << "no norm without a build";
-  EXPECT_EQ(onlyOwn["yAxisMin"].doubleValue(), 0) << "the first record is the base";
   EXPECT_DOUBLE_EQ(onlyOwn["yAxisMax"].doubleValue(), 9);
 }
 

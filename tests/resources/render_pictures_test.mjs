@@ -60,61 +60,37 @@ test('the eight frames of a moving picture follow one wave through the loop', as
   assert.notDeepEqual(frames[1], frames[5]);
 });
 
-test('a source that is not well-formed XML is named with its line', async () => {
-  const broken = moving(ball).replace('</g>', '</circle>');
-  const { code, stderr } = await render({ '5w.svg': broken });
-  assert.equal(code, 1);
-  assert.match(stderr, /^error: 5w\.svg:3: /m);
-});
-
-test('a motion that cannot be read, or would not close the loop, is named with its line', async () => {
-  for (const move of ['float 0', 'spin 4 at 1 1', 'turn 4', 'pulse .1 at 320 320 beats 1.5']) {
-    const { code, stderr } = await render({ '5w.svg': moving(ball.replace('float 0 40', move)) });
-    assert.equal(code, 1, move);
-    assert.match(stderr, /^error: 5w\.svg:3: data-move=/m, move);
-  }
-});
-
-test('a moving element that has its own transform is refused', async () => {
-  const svg = moving(ball.replace('<g data-move', '<g transform="scale(2)" data-move'));
-  const { stderr } = await render({ '5w.svg': svg });
-  assert.match(stderr, /5w\.svg:3: .*transform of its own/);
-});
-
-test('a picture of the wrong size is refused', async () => {
-  const { stderr } = await render({ 'wom-1.svg': month1.replace('0 0 640 800', '0 0 640 640') });
-  assert.match(stderr, /wom-1\.svg:1: the viewBox must be "0 0 640 800"/);
-});
-
-test('the hints must be the parts of their month, on a month that has a picture', async () => {
-  const only1 = (list) => JSON.stringify({ 1: list });
+test('a faulty source stops the run with its file and line instead of a wrong picture', async () => {
+  const withHints = (json) => ({ 'wom-1.svg': month1, 'wom-hints.json': json });
+  const only1 = (list) => withHints(JSON.stringify({ 1: list }));
+  const astray = hints[1].map((h) => (h.name === 'Яичник' ? { ...h, x: 620, y: 20 } : h));
+  const moves = ['float 0', 'spin 4 at 1 1', 'turn 4', 'pulse .1 at 320 320 beats 1.5'];
   const cases = [
+    [{ '5w.svg': moving(ball).replace('</g>', '</circle>') }, /^error: 5w\.svg:3: /m],
+    // A motion that cannot be read, or would not close the loop.
+    ...moves.map((move) => [
+      { '5w.svg': moving(ball.replace('float 0 40', move)) },
+      /^error: 5w\.svg:3: data-move=/m,
+    ]),
     [
-      only1([...hints[1], { name: 'Сердце', x: 320, y: 540 }]),
-      /month 1: "Сердце" is not one of its parts/,
+      { '5w.svg': moving(ball.replace('<g data-move', '<g transform="scale(2)" data-move')) },
+      /5w\.svg:3: .*transform of its own/,
     ],
+    [
+      { 'wom-1.svg': month1.replace('0 0 640 800', '0 0 640 640') },
+      /wom-1\.svg:1: the viewBox must be "0 0 640 800"/,
+    ],
+    // The hints must be the parts of their month, on a month that has a picture.
+    [only1([...hints[1], { name: 'Сердце', x: 320, y: 540 }]), /month 1: "Сердце" is not one/],
     [only1(hints[1].slice(1)), /month 1 lacks "Полость матки"/],
     [only1([...hints[1], hints[1][0]]), /month 1: "Полость матки" twice/],
-    [JSON.stringify({ 1: hints[1], 2: hints[2] }), /month 2 has no picture wom-2\.svg/],
+    [withHints(JSON.stringify({ 1: hints[1], 2: hints[2] })), /month 2 has no picture wom-2\.svg/],
+    [only1(astray), /in month 1 "Яичник" \(620, 20\) point at nothing drawn in wom-1\.svg/],
+    [{ 'wom-2.svg': womb('<circle cx="1" cy="1" r="1"/>') }, /wom-hints\.json: not given/],
   ];
-  for (const [json, message] of cases) {
-    const { code, stderr } = await render({ 'wom-1.svg': month1, 'wom-hints.json': json });
-    assert.equal(code, 1);
+  for (const [files, message] of cases) {
+    const { code, stderr } = await render(files);
+    assert.equal(code, 1, String(message));
     assert.match(stderr, message);
   }
-});
-
-test('a hint that points at nothing drawn is refused', async () => {
-  const astray = hints[1].map((h) => (h.name === 'Яичник' ? { ...h, x: 620, y: 20 } : h));
-  const { code, stderr } = await render({
-    'wom-1.svg': month1,
-    'wom-hints.json': JSON.stringify({ 1: astray }),
-  });
-  assert.equal(code, 1);
-  assert.match(stderr, /in month 1 "Яичник" \(620, 20\) point at nothing drawn in wom-1\.svg/);
-});
-
-test('a body picture that is drawn needs its hints', async () => {
-  const { stderr } = await render({ 'wom-2.svg': womb('<circle cx="1" cy="1" r="1"/>') });
-  assert.match(stderr, /wom-hints\.json: not given/);
 });

@@ -35,6 +35,12 @@ std::vector<std::string> filesIn(const std::filesystem::path& folder) {
   return names;
 }
 
+// The run failed, and its output says why.
+void expectFailure(const ToolRun& run, const std::string& message) {
+  EXPECT_NE(run.status, 0) << message;
+  EXPECT_NE(run.output.find(message), std::string::npos) << run.output;
+}
+
 class ResgenTool : public ::testing::Test {
  protected:
   std::string file(const std::string& name, std::string_view text) {
@@ -46,25 +52,13 @@ class ResgenTool : public ::testing::Test {
   TempDir dir_;
 };
 
-TEST_F(ResgenTool, ScriptsRunInOrderIntoANewFile) {
-  const auto schema = file("schema.sql", "create table t (x integer);\n");
-  const auto rows =
-      file("rows.sql", "-- two rows\ninsert into t values (1);\ninsert into t values (2);\n");
-  const ToolRun run = runTool("sql " + out() + " " + schema + " " + rows);
-  ASSERT_EQ(run.status, 0) << run.output;
-  SqliteConnection db(out(), SqliteConnection::Mode::ReadOnly);
-  EXPECT_EQ(firstColumn(db, "select x from t order by x"), (std::vector<std::string>{"1", "2"}));
-}
-
 TEST_F(ResgenTool, AFaultyScriptFailsAtItsLineAndLeavesNoFile) {
   const auto script = file("bad.sql",
                            "create table t (x integer primary key);\n"
                            "\n"
                            "insert into t values (1);\n"
                            "insert into missing values (2);\n");
-  ToolRun run = runTool("sql " + out() + " " + script);
-  EXPECT_NE(run.status, 0);
-  EXPECT_NE(run.output.find("bad.sql:4: no such table: missing"), std::string::npos) << run.output;
+  expectFailure(runTool("sql " + out() + " " + script), "bad.sql:4: no such table: missing");
   EXPECT_EQ(filesIn(dir_.path()), std::vector<std::string>{"bad.sql"});
 
   // A fault that shows only when the statement runs is told at the statement's first line.
@@ -74,10 +68,7 @@ TEST_F(ResgenTool, AFaultyScriptFailsAtItsLineAndLeavesNoFile) {
                            "-- the same key again\n"
                            "insert into t\n"
                            "  values (1);\n");
-  run = runTool("sql " + out() + " " + repeat);
-  EXPECT_NE(run.status, 0);
-  EXPECT_NE(run.output.find("repeat.sql:4: UNIQUE constraint failed"), std::string::npos)
-      << run.output;
+  expectFailure(runTool("sql " + out() + " " + repeat), "repeat.sql:4: UNIQUE constraint failed");
   EXPECT_EQ(filesIn(dir_.path()), (std::vector<std::string>{"bad.sql", "repeat.sql"}));
 }
 
@@ -104,9 +95,7 @@ TEST_F(ResgenTool, FaultyTranslationSourcesAreRefusedByLine) {
       {"Да\tJa\tOui\n", "t.tsv:1: the header"},
   };
   for (auto [text, message] : faults) {
-    const ToolRun run = runTool("translate " + out() + " " + file("t.tsv", text));
-    EXPECT_NE(run.status, 0) << message;
-    EXPECT_NE(run.output.find(message), std::string::npos) << run.output;
+    expectFailure(runTool("translate " + out() + " " + file("t.tsv", text)), message);
     EXPECT_EQ(filesIn(dir_.path()), std::vector<std::string>{"t.tsv"});
   }
 }
@@ -118,18 +107,15 @@ TEST_F(ResgenTool, ContentIsCopiedOnlyWhenEveryFileParses) {
                         "<br>text<val>Да<tr>tp<val>4\n"
                         "<br>text<val>Нет<tr>tp4\n");
   const auto folder = (dir_.path() / "content").string();
-  ToolRun run = runTool("content " + folder + " " + good + " " + bad);
-  EXPECT_NE(run.status, 0);
-  EXPECT_NE(run.output.find("b-u.txt:3: record 2: field without <val>: \"tp4\""), std::string::npos)
-      << run.output;
+  expectFailure(runTool("content " + folder + " " + good + " " + bad),
+                "b-u.txt:3: record 2: field without <val>: \"tp4\"");
   EXPECT_FALSE(std::filesystem::exists(folder));
 
   // A trailing separator leaves an empty field behind, which is a fault too.
-  run = runTool("content " + folder + " " + file("c-u.txt", "text<val>Да<tr>tp<val>4<br>"));
-  EXPECT_NE(run.output.find("c-u.txt:1: record 1: field without <val>"), std::string::npos)
-      << run.output;
+  expectFailure(runTool("content " + folder + " " + file("c-u.txt", "text<val>Да<tr>tp<val>4<br>")),
+                "c-u.txt:1: record 1: field without <val>");
 
-  run = runTool("content " + folder + " " + good);
+  const ToolRun run = runTool("content " + folder + " " + good);
   ASSERT_EQ(run.status, 0) << run.output;
   EXPECT_EQ(filesIn(folder), std::vector<std::string>{"a-u.txt"});
   EXPECT_EQ(readFile(std::filesystem::path(folder) / "a-u.txt"),
@@ -144,11 +130,8 @@ TEST_F(ResgenTool, WeekNoticesFailAtTheRowThatTheMenuCouldNotRead) {
       {"\n4<td>12<td>Скрининг<tr>\nпять<td>13<td>Текст", "warning.txt:3: event id is not"},
       {"4<td>12<td>Скрининг<tr>\n", "warning.txt:2: a notice needs three fields"},
   };
-  for (const auto& [text, message] : faults) {
-    const ToolRun run = runTool("content " + folder + " " + file("warning.txt", text));
-    EXPECT_NE(run.status, 0) << text;
-    EXPECT_NE(run.output.find(message), std::string::npos) << run.output;
-  }
+  for (const auto& [text, message] : faults)
+    expectFailure(runTool("content " + folder + " " + file("warning.txt", text)), message);
   const ToolRun run =
       runTool("content " + folder + " " + file("warning.txt", "4<td>12<td>А<tr>\n5<td>13<td>Б"));
   ASSERT_EQ(run.status, 0) << run.output;

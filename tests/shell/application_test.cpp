@@ -2,6 +2,9 @@
 
 #include <gtest/gtest.h>
 
+#include "core/launch.h"
+#include "shell/app_manifest.h"
+#include "shell/welcome_screen.h"
 #include "tests/shell/application_fixture.h"
 
 namespace lad::shell {
@@ -70,11 +73,73 @@ TEST_F(ApplicationTest, AHandedOverFileIsKeptAndTheMessageNamesWhereToUseIt) {
   MessageBox m = app->openURL("/tmp/scan.pdf");
   EXPECT_EQ(app->context().values().pendingPdf, "/tmp/scan.pdf");
   EXPECT_EQ(m.caption, "Файл PDF");
-  EXPECT_EQ(m.button, "ОК");
   EXPECT_TRUE(m.text.starts_with("Теперь Вам следует перейти в режим редактирования анализов"));
   settings().set("doctorAuthCode", "K-17");
   EXPECT_TRUE(app->openURL("/tmp/scan.pdf")
                   .text.starts_with("Вы можете прикрепить этот файл к сообщению для Вашего врача"));
+}
+
+// The greeting's texts in order, with each row of buttons as "[caption|caption]".
+std::vector<std::string> blocksOf(const Value& view) {
+  std::vector<std::string> out;
+  for (const Value& block : *view["children"].asList()) {
+    if (block["kind"].text() == "text") {
+      out.push_back(block["text"].text());
+      continue;
+    }
+    std::string row = "[";
+    for (const Value& b : *block["buttons"].asList())
+      row += (row.size() > 1 ? "|" : "") + b["caption"].text();
+    out.push_back(row + "]");
+  }
+  return out;
+}
+
+// The update's greeting keeps its text as it has always been, typos and all; a new installation
+// is offered the cloud except in the 3D edition.
+TEST_F(ApplicationTest, TheGreetingsOfAnUpdateAndOfANewInstallation) {
+  launchApp(3);
+  const Value update = WelcomeScreen(app->context(), Greeting::Update).view();
+  EXPECT_EQ(update["caption"].text(), "Луновея");
+  EXPECT_EQ(blocksOf(update).back(),
+            "Если у Вас возникнут сложности или вопросы по программе, к вашимa "
+            "услугам раздел Поддержка на главном экране программе.");
+  for (auto [appid, buttons] : {std::pair{1, "[Настройки|Облако]"}, {14, "[Настройки]"}}) {
+    launchApp(appid);
+    const auto blocks = blocksOf(WelcomeScreen(app->context(), Greeting::NewInstallation).view());
+    ASSERT_EQ(blocks.size(), 5u) << appid;
+    EXPECT_EQ(blocks[4], buttons) << appid;
+  }
+}
+
+Value manifestOf(int appid, int langid) {
+  lad::testing::TempDir dir;
+  Context context(ContextOptions{appid, langid, dir.path(), "1.0", nullptr, {}});
+  launch(context);
+  return webAppManifest(context);
+}
+
+std::vector<std::string> shortcutUrls(const Value& manifest) {
+  std::vector<std::string> urls;
+  for (const Value& s : *manifest["shortcuts"].asList()) urls.push_back(s["url"].text());
+  return urls;
+}
+
+TEST(AppManifest, EachEditionOffersItsShortcutsInItsLanguage) {
+  const std::vector<std::string> both{"/?shortcut=SCHVATKI", "/?shortcut=NEWNOTE"};
+  const struct {
+    int appid, langid;
+    const char* lang;
+    std::vector<std::string> urls;
+  } cases[] = {{1, 1, "ru", both},
+               {14, 1, "ru", both},
+               {2, 3, "fr", {"/?shortcut=NEWNOTE"}},
+               {3, 2, "de", {"/?shortcut=NEWNOTE"}}};
+  for (const auto& c : cases) {
+    const Value manifest = manifestOf(c.appid, c.langid);
+    EXPECT_EQ(manifest["lang"].text(), c.lang) << c.appid;
+    EXPECT_EQ(shortcutUrls(manifest), c.urls) << c.appid;
+  }
 }
 
 }  // namespace

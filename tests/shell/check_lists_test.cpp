@@ -9,32 +9,24 @@
 #include "shell/checks/plan_note.h"
 #include "shell/editor/editor_view.h"
 #include "shell/week_notices.h"
-#include "store/records.h"
 #include "store/selections.h"
-#include "store/store.h"
 #include "tests/fixtures/diary_generator.h"
 #include "tests/shell/application_fixture.h"
 
 namespace lad {
 namespace {
 
-using shell::Screen;
-
-// Keeps what a screen opens over itself.
-struct Host : shell::ScreenHost {
-  void push(std::shared_ptr<Screen> s) override { pushed = std::move(s); }
-  void openPopup(std::unique_ptr<shell::Popup>, PopupAction) override {}
-  void showMessage(shell::MessageBox m) override { message = std::move(m); }
-  std::shared_ptr<Screen> pushed;
-  std::optional<shell::MessageBox> message;
-};
-
-const List& contentRows(const Value& page) {
+const Value& content(const Value& page) {
   for (const Value& child : *page["children"].asList())
-    if (child["kind"].text() == "content") return *child["rows"].asList();
+    if (child["kind"].text() == "content") return child;
   ADD_FAILURE() << "no content";
-  static const List none;
+  static const Value none{Map{}};
   return none;
+}
+const List& contentRows(const Value& page) {
+  static const List none;
+  const List* rows = content(page)["rows"].asList();
+  return rows ? *rows : none;
 }
 
 // The targets of the rows with a tick box, and of the links.
@@ -59,33 +51,26 @@ class CheckListsTest : public testing::ApplicationTest {
     const auto& dates = app->context().dates();
     testing::addPregnancy(app->store(), kGid, dates.addDays(clock->now(), -80), "60");  // week 12
   }
-  std::string diary(const std::string& field) {
-    StoreBracket bracket = app->store().connectToBase();
-    return getDateValue(app->store(), bracket, clock->now(), field, kGid);
-  }
+  std::string diary(const std::string& field) { return dayValue(field, kGid); }
   std::vector<std::string> ticks(int list, const std::string& gid = kGid) {
     return loadCheckData(app->store(), list, gid);
   }
   // Closes the editor that a tick opened with its right or left button.
   void closeEditor(bool keep) {
     ASSERT_TRUE(host.pushed);
-    EXPECT_EQ(host.pushed->view()["kind"].text(), "editor");
     EXPECT_TRUE(host.pushed->tap(keep ? shell::kEditorOk : shell::kEditorCancel).ok());
     EXPECT_TRUE(host.pushed->closed());
     host.pushed.reset();
   }
   static constexpr const char* kGid = "CHECK-PREGNANCY";
-  Host host;
+  testing::RecordingHost host;
 };
 
 TEST_F(CheckListsTest, ATickOfThePlanOffersItsTextForTheDiaryAndUntickingLeavesTheDiary) {
   auto page = shell::checks::doctorPage(*app, host, kGid);
   Value view = page->view();
   // The plan opens on the span of weeks that holds week 12.
-  int highlight = 0;
-  for (const Value& child : *view["children"].asList())
-    if (child["kind"].text() == "content")
-      highlight = static_cast<int>(child["highlight"].intValue());
+  const auto highlight = content(view)["highlight"].intValue();
   EXPECT_GT(highlight, 0);
   EXPECT_LE(highlight, 12);
   const auto boxes = targets(view, "tick");
@@ -93,12 +78,9 @@ TEST_F(CheckListsTest, ATickOfThePlanOffersItsTextForTheDiaryAndUntickingLeavesT
 
   // Ticked, then the editor cancelled: the tick stays, the diary has nothing.
   ASSERT_TRUE(page->tap(boxes[0]).ok());
-  ASSERT_TRUE(host.pushed);
-  EXPECT_FALSE(host.pushed->view()["rows"].asList()->at(1)["source"].text().empty());
   closeEditor(false);
   EXPECT_EQ(ticks(1).size(), 1u);
   EXPECT_EQ(diary("doctor"), "");
-  EXPECT_EQ(tickOf(shell::checks::doctorPage(*app, host, kGid)->view(), boxes[0]), 1);
 
   // Unticking opens nothing; ticking again and keeping the text writes it into today.
   ASSERT_TRUE(page->tap(boxes[0]).ok());
@@ -124,14 +106,12 @@ TEST_F(CheckListsTest, ATickOfThePlanOffersItsTextForTheDiaryAndUntickingLeavesT
 
 TEST_F(CheckListsTest, TheHelpOfAnAnalysisSharesTheTickOfThePlanItem) {
   auto page = shell::checks::doctorPage(*app, host, kGid);
-  const Value view = page->view();
-  const auto links = targets(view, "link");
+  const auto links = targets(page->view(), "link");
   ASSERT_FALSE(links.empty());
   ASSERT_TRUE(page->tap(links[0]).ok());
   ASSERT_TRUE(host.pushed);
   auto help = host.pushed;
   Value helpView = help->view();
-  EXPECT_EQ(helpView["title"].text(), "Анализы");
   const auto helpBoxes = targets(helpView, "tick");
   ASSERT_FALSE(helpBoxes.empty());
   EXPECT_EQ(tickOf(helpView, helpBoxes[0]), 0);
@@ -154,7 +134,6 @@ TEST_F(CheckListsTest, HospitalListsAreSharedByEveryProfileAndKeepTicksOfRemoved
   ASSERT_TRUE(page->tap(links[0]).ok());
   auto list = host.pushed;
   ASSERT_TRUE(list);
-  EXPECT_EQ(list->view()["title"].text(), "Документы");
   const auto boxes = targets(list->view(), "tick");
   ASSERT_FALSE(boxes.empty());
   ASSERT_TRUE(list->tap(boxes[0]).ok());

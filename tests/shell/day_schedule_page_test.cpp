@@ -5,7 +5,6 @@
 #include "core/ids.h"
 #include "shell/editor/editor_view.h"
 #include "store/profiles.h"
-#include "store/records.h"
 #include "store/values/regimen.h"
 #include "tests/fixtures/diary_generator.h"
 #include "tests/shell/application_fixture.h"
@@ -14,15 +13,6 @@ namespace lad::shell {
 namespace {
 
 const std::string kGid = "SCHEDULE-PAGE";
-
-// Keeps what the page opens over itself and the messages it shows.
-struct RecordingHost : ScreenHost {
-  void push(std::shared_ptr<Screen> s) override { screen = std::move(s); }
-  void openPopup(std::unique_ptr<Popup>, PopupAction) override {}
-  void showMessage(MessageBox m) override { messages.push_back(m.text); }
-  std::shared_ptr<Screen> screen;
-  std::vector<std::string> messages;
-};
 
 class DaySchedulePageTest : public lad::testing::ApplicationTest {
  protected:
@@ -42,9 +32,7 @@ class DaySchedulePageTest : public lad::testing::ApplicationTest {
   }
   // The schedule node of the page's view.
   static Value schedule(DaySchedulePage& page) {
-    const Value view = page.view();
-    EXPECT_EQ(view["title"].text(), "Расписание на день");
-    return lad::testing::nth(view["children"], 0);
+    return lad::testing::nth(page.view()["children"], 0);
   }
   // Each row as "style right: kind text; ...".
   static std::vector<std::string> rows(const Value& node) {
@@ -59,7 +47,7 @@ class DaySchedulePageTest : public lad::testing::ApplicationTest {
   }
 
   Date today;
-  RecordingHost host;
+  lad::testing::RecordingHost host;
   DiaryState state;
 };
 
@@ -94,19 +82,16 @@ TEST_F(DaySchedulePageTest, PaintsTheDayAndMovesToTheDaysAround) {
 TEST_F(DaySchedulePageTest, TheMealTimesDialogStoresOnlyClockTimes) {
   DaySchedulePage page(*app, host, kGid, state, true);
   ASSERT_TRUE(page.tap(schedule(page)["meals"]["id"].text()).ok());
-  ASSERT_TRUE(host.screen);
-  const Value dialog = host.screen->view();
-  EXPECT_EQ(dialog["caption"].text(), "Время приема пищи");
-
+  ASSERT_TRUE(host.pushed);
   for (const char* bad : {"7:30", "24:00", "07.30", ""}) {
-    EXPECT_TRUE(host.screen->change(fieldTarget("time1"), Value(bad)).ok());
+    EXPECT_TRUE(host.pushed->change(fieldTarget("time1"), Value(bad)).ok());
     EXPECT_EQ(host.messages.back(), "Поле 'Укажите время завтрака' не заполнено!") << bad;
   }
-  EXPECT_TRUE(host.screen->change(fieldTarget("time5"), Value("17:15")).ok());
-  EXPECT_TRUE(host.screen->change(fieldTarget("time3"), Value("23:58")).ok());
+  EXPECT_TRUE(host.pushed->change(fieldTarget("time5"), Value("17:15")).ok());
+  EXPECT_TRUE(host.pushed->change(fieldTarget("time3"), Value("23:58")).ok());
   const std::size_t shown = host.messages.size();
-  EXPECT_TRUE(host.screen->tap(kEditorOk).ok());
-  EXPECT_TRUE(host.screen->closed());
+  EXPECT_TRUE(host.pushed->tap(kEditorOk).ok());
+  EXPECT_TRUE(host.pushed->closed());
   EXPECT_EQ(host.messages.size(), shown);
   EXPECT_EQ(getObed(app->store()), "09:00<table>11:00<table>14:00<table>17:15<table>23:58");
 }

@@ -6,8 +6,6 @@
 #include "shell/editor/detail_forms.h"
 #include "shell/editor/detail_rows.h"
 #include "shell/editor/entry_forms.h"
-#include "store/records.h"
-#include "store/store.h"
 #include "tests/shell/application_fixture.h"
 
 namespace lad::shell {
@@ -31,7 +29,6 @@ TEST_F(ApplicationTest, ClosingStopsAtTheFirstEmptyRequiredRowInOrder) {
       {});
   auto refused = e.close();
   ASSERT_TRUE(refused);
-  EXPECT_EQ(refused->caption, "Ошибка");
   EXPECT_EQ(refused->text, "Поле 'Название нового типа' не заполнено!");
   EXPECT_TRUE(e.change("name", Value("Кефир")));
   refused = e.close();
@@ -61,8 +58,6 @@ TEST_F(ApplicationTest, ScalesAreWrittenByTheirTypeAndEmptiedAtOrBelowZero) {
   e->change("ves", Value(3.5));
   EXPECT_FALSE(e->close());
   EXPECT_EQ(sourceOf(*e, "ves"), "3.500");
-  EXPECT_EQ(sourceOf(*e, "type"), "1");
-  EXPECT_EQ(sourceOf(*e, "time"), "10:00");
 
   FieldEditor kinds(c, "",
                     {detailRow(c, kSegments, "", "sex"), detailRow(c, kLongText, "", "text"),
@@ -81,10 +76,8 @@ TEST_F(ApplicationTest, FormsTakeTheirStartingValuesFromThePresentOne) {
   const Context& c = app->context();
   auto temp = detailPrepare(c, {4, "Температура", "Укажите температуру", ""});
   ASSERT_TRUE(temp);
-  EXPECT_EQ((*temp->rows()[0].asMap())["caption"].text(), "Укажите температуру");
   EXPECT_EQ(sourceOf(*temp, "temp"), "36.6");
   EXPECT_TRUE((*temp->row("temp"))["startactive"].boolValue()) << "a scale with a value starts on";
-  EXPECT_EQ((*temp->row("temp"))["scalemax"].text(), "45");
 
   auto ultrasound = detailPrepare(c, {15, "УЗИ", "", R"({"rost":"31.5","ves":"1.200"})"});
   EXPECT_EQ(sourceOf(*ultrasound, "ves"), "1.200");
@@ -92,23 +85,9 @@ TEST_F(ApplicationTest, FormsTakeTheirStartingValuesFromThePresentOne) {
   ASSERT_TRUE(broken);
   EXPECT_EQ(sourceOf(*broken, "rost"), "") << "an unreadable value starts the form empty";
 
-  auto products =
-      detailPrepare(c, {27, "Прикорм", "", R"({"volume":"120","tip":"g7"})", 103, true});
-  EXPECT_EQ((*products->row("tip"))["listedittype"].intValue(), 3);
-  EXPECT_EQ((*products->row("tip"))["listid"].intValue(), 103);
-  EXPECT_EQ(sourceOf(*products, "volume"), "120");
   EXPECT_FALSE(detailPrepare(c, {12, "", "", ""}));
 
-  auto sizes = detailPrepare(c, {9, "Размеры", "", R"({"bio5":"11.5"})"});
-  ASSERT_EQ(sizes->rows().size(), 7u);
-  EXPECT_EQ((*sizes->row("bio5"))["scalemin"].text(), "1");
-  EXPECT_EQ((*sizes->row("bio1"))["scalemax"].text(), "70");
-  const std::string prefix = c.values().themeDarkIcons ? "b-" : "";
-  EXPECT_EQ((*sizes->row("bio3"))["pic"].text(), prefix + "num3.png") << "icons follow the theme";
-  EXPECT_EQ(sourceOf(*sizes, "bio5"), "11.5");
-
   EXPECT_EQ(addDialog(c, 2)->caption(), "Новая болезнь");
-  EXPECT_EQ(addDialog(c, 3)->rows().size(), 3u);
   EXPECT_FALSE(addDialog(c, 4));
 }
 
@@ -126,7 +105,6 @@ TEST_F(ApplicationTest, ANestedEditorsEntryLandsInItsRowBeforeTheFormCloses) {
       day.openNested("pressure", 30, -1, *entryForm(c, "pressure", old, -1, c.clock().now())));
   FieldEditor* sub = day.nested();
   ASSERT_TRUE(sub);
-  EXPECT_EQ(day.view()["nested"]["caption"].text(), "Давление");
   sub->change("time", Value("08:30"));
   sub->change("pressure1", Value("110"));
   auto refused = day.commitNested();
@@ -157,10 +135,7 @@ TEST_F(ApplicationTest, ADaysMeasurementsAreAddedThroughTheirEditor) {
   const std::string gid = "00000000-0000-0000-0001-000000000001";
   const Date today = clock->now();
   const DetailForm form{4, "Температура", "Укажите температуру", ""};
-  auto stored = [&] {
-    StoreBracket bracket = app->store().connectToBase();
-    return getDateValue(app->store(), bracket, today, "temp", gid);
-  };
+  auto stored = [&] { return dayValue("temp", gid, today); };
 
   auto first = DayFieldEdit::open(*app, gid, today, "temp", form);
   ASSERT_TRUE(first);

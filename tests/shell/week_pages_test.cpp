@@ -25,7 +25,6 @@ namespace week = shell::week;
 // month turning over, and an organ's wheel before, inside and after its weeks.
 TEST(WeekFacts, TheTablesEdgesFollowTheDay) {
   EXPECT_EQ(week::movieFrames(1).front(), "2w001.jpg");
-  EXPECT_EQ(week::movieFrames(12).size(), 8u);
   EXPECT_EQ(week::movieFrames(50).front(), "37w001.jpg");
   EXPECT_EQ(week::fruitCaption(3), week::fruitCaption(0));
   EXPECT_NE(week::fruitCaption(4), week::fruitCaption(3));
@@ -55,21 +54,22 @@ std::vector<std::string> bodyLines(const std::filesystem::path& folder, const ch
   return lines;
 }
 
-const Value& at(const Value& list, std::size_t i) {
-  return list.asList()->at(i);
-}
-
 // The value shown on fact card `card` of the page's `n`-th cards.
 std::string fact(const Value& page, std::size_t n, std::size_t card, const char* key = "value") {
-  return at(at(page["children"], n)["facts"], card)[key].text();
+  return nth(nth(page["children"], n)["facts"], card)[key].text();
 }
 
+// The first child node of the kind with the key equal to the value.
 const Value* child(const Value& page, std::string_view kind, std::string_view key = "",
-                   std::string_view value = "");
+                   std::string_view value = "") {
+  for (const Value& c : *page["children"].asList())
+    if (c["kind"].text() == kind && (key.empty() || c[std::string(key)].text() == value)) return &c;
+  return nullptr;
+}
 
 // The nodes of the n-th screen of a page made of screens.
 const Value& screen(const Value& page, std::size_t n) {
-  return at((*child(page, "screens"))["screens"], n);
+  return nth((*child(page, "screens"))["screens"], n);
 }
 
 std::vector<std::string> rowTexts(const Value& content) {
@@ -78,38 +78,22 @@ std::vector<std::string> rowTexts(const Value& content) {
   return texts;
 }
 
-// The first child node of the kind with the key equal to the value.
-const Value* child(const Value& page, std::string_view kind, std::string_view key,
-                   std::string_view value) {
-  for (const Value& c : *page["children"].asList())
-    if (c["kind"].text() == kind && (key.empty() || c[std::string(key)].text() == value)) return &c;
-  return nullptr;
-}
-
-// Keeps the screen a page opens over itself.
-struct PushedScreen : shell::ScreenHost {
-  void push(std::shared_ptr<shell::Screen> s) override { screen = std::move(s); }
-  void openPopup(std::unique_ptr<shell::Popup>, PopupAction) override {}
-  void showMessage(shell::MessageBox) override {}
-  std::shared_ptr<shell::Screen> screen;
-};
-
 class WeekPagesTest : public ApplicationTest {
  protected:
   // The text opened over the page: its title, the group marked and the headings shown.
   void expectWeekText(const char* title, int week) {
-    ASSERT_TRUE(host.screen);
-    const Value view = host.screen->view();
+    ASSERT_TRUE(host.pushed);
+    const Value view = host.pushed->view();
     EXPECT_EQ(view["title"].text(), title);
     const Value& text = *child(view, "content", "id", "reading");
     EXPECT_EQ(text["highlight"].intValue(), week);
     EXPECT_THAT(rowTexts(text), ::testing::Contains(StartsWith(std::to_string(week) + " неделя")));
-    EXPECT_FALSE(host.screen->closed());
-    EXPECT_TRUE(host.screen->tap("reading:close").ok());
-    EXPECT_TRUE(host.screen->closed());
-    host.screen.reset();
+    EXPECT_FALSE(host.pushed->closed());
+    EXPECT_TRUE(host.pushed->tap("reading:close").ok());
+    EXPECT_TRUE(host.pushed->closed());
+    host.pushed.reset();
   }
-  PushedScreen host;
+  RecordingHost host;
   // A new pregnancy, on its day `day` today; returns its profile.
   std::string pregnancyOnDay(int day) {
     if (!app) launchApp(1);
@@ -124,19 +108,17 @@ class WeekPagesTest : public ApplicationTest {
 TEST_F(WeekPagesTest, TodayShowsTheCardsPictureAndTextsOfThePresentWeek) {
   shell::TodayPage page(*app, pregnancyOnDay(81), 1);  // week 12
   Value view = page.view();
-  EXPECT_EQ(fact(screen(view, 0), 0, 0), "1");
-  EXPECT_EQ(fact(screen(view, 0), 0, 1), "12");
-  EXPECT_EQ(fact(screen(view, 0), 0, 2), "81");
-  EXPECT_EQ(fact(screen(view, 0), 0, 3), "10");  // counted from conception, two weeks later
+  // Trimester, week, day, and the week counted from conception, two weeks later.
+  for (auto [card, shown] : {std::pair{0, "1"}, {1, "12"}, {2, "81"}, {3, "10"}})
+    EXPECT_EQ(fact(screen(view, 0), 0, card), shown) << card;
   // Eleven whole weeks of the growth table.
   const auto size = health::getVesRost(11, 1);
   EXPECT_EQ(fact(screen(view, 1), 0, 0),
             formatFixed(size.ves, 1) + " гр.\n" + formatFixed(size.rost, 1) + " мм.");
-  EXPECT_EQ(fact(screen(view, 1), 0, 1, "caption"), "Приблизительная дата родов");
   const auto& dates = app->context().dates();
   EXPECT_EQ(fact(screen(view, 1), 0, 1),
             dates.dateToString(dates.addDays(clock->now(), 200), "dd.MM.yyyy"));
-  EXPECT_EQ(at((*child(screen(view, 2), "movie"))["frames"], 7).text(), "12w008.jpg");
+  EXPECT_EQ(nth((*child(screen(view, 2), "movie"))["frames"], 7).text(), "12w008.jpg");
 
   const auto woman = rowTexts(*child(screen(view, 3), "content", "id", "woman"));
   EXPECT_EQ(woman, bodyLines(folder(), "woman-u", 12));
@@ -144,16 +126,11 @@ TEST_F(WeekPagesTest, TodayShowsTheCardsPictureAndTextsOfThePresentWeek) {
   EXPECT_EQ(rowTexts(*child(screen(view, 4), "content", "id", "child")),
             bodyLines(folder(), "child-u", 12));
 
-  // Week 30 of another pregnancy, and one far past its term.
+  // The third trimester, and a pregnancy far past its term.
   view = shell::TodayPage(*app, pregnancyOnDay(204), 1).view();
   EXPECT_EQ(fact(screen(view, 0), 0, 0), "3");
-  EXPECT_EQ(rowTexts(*child(screen(view, 3), "content", "id", "woman")),
-            bodyLines(folder(), "woman-u", 30));
-  EXPECT_EQ(at((*child(screen(view, 2), "movie"))["frames"], 0).text(), "30w001.jpg");
   view = shell::TodayPage(*app, pregnancyOnDay(310), 1).view();
-  EXPECT_EQ(fact(screen(view, 0), 0, 1), "-");
-  EXPECT_EQ(fact(screen(view, 0), 0, 2), "-");
-  EXPECT_EQ(fact(screen(view, 0), 0, 3), "-");
+  for (std::size_t card = 1; card <= 3; ++card) EXPECT_EQ(fact(screen(view, 0), 0, card), "-");
 
   // A child born on day 270: the date of birth, and the week stands where the birth left it.
   const Date first = dates.addDays(clock->now(), -300);
@@ -168,10 +145,8 @@ TEST_F(WeekPagesTest, TodayShowsTheCardsPictureAndTextsOfThePresentWeek) {
 TEST_F(WeekPagesTest, BabyMarksThePresentWeekOfAnOrganAndDimsTheFutureAchievements) {
   shell::BabyPage page(*app, host, pregnancyOnDay(204), 1);  // week 30, 203 days since the start
   Value view = page.view();
-  EXPECT_THAT((*child(view, "svg", "id", "organs"))["svg"].text(), StartsWith("<svg"));
   const List& organs = *(*child(view, "list"))["rows"].asList();
   ASSERT_EQ(organs.size(), 10u);
-  EXPECT_EQ(organs[3]["caption"].text(), "Сердце");
   EXPECT_EQ(organs[3]["badge"].text(), "100%");
   EXPECT_EQ(organs[1]["badge"].text(), std::to_string((203 - 35) * 360 / 189 * 100 / 360) + "%");
 
@@ -188,7 +163,6 @@ TEST_F(WeekPagesTest, BabyMarksThePresentWeekOfAnOrganAndDimsTheFutureAchievemen
 
   ASSERT_TRUE(page.tap("baby:organ:1").ok());
   view = page.view();
-  EXPECT_EQ((*child(view, "section"))["caption"].text(), "Мозг");
   const Value& brain = *child(view, "content", "id", "organ");
   EXPECT_EQ(brain["highlight"].intValue(), 30);
   EXPECT_THAT(rowTexts(brain), ::testing::Contains(HasSubstr("30 неделя")));
@@ -198,27 +172,21 @@ TEST_F(WeekPagesTest, BabyMarksThePresentWeekOfAnOrganAndDimsTheFutureAchievemen
   EXPECT_FALSE(page.tap("baby:organ:x").ok());
 }
 
-TEST_F(WeekPagesTest, WomanShowsTheMonthsBodyTheFruitTheWeightAndTheWheel) {
+TEST_F(WeekPagesTest, WomanShowsTheMonthsBodyAndTheFruitAndOpensTheWeeksTexts) {
   shell::WomanPage page(*app, host, pregnancyOnDay(81), 1);  // month 3, week 12
   Value view = page.view();
   const Value& body = *child(view, "hintPicture");
   EXPECT_EQ(body["picture"].text(), "wom-3.png");
-  EXPECT_EQ(body["width"].doubleValue(), 640);
-  std::vector<std::string> names;
+  // The hints stand inside the picture.
   for (const Value& hint : *body["hints"].asList()) {
-    names.push_back(hint["name"].text());
     EXPECT_GT(hint["x"].doubleValue(), 0);
     EXPECT_LT(hint["y"].doubleValue(), body["height"].doubleValue());
   }
-  EXPECT_EQ(names.size(), 16u);
-  EXPECT_THAT(names, ::testing::Contains("Глазное пятно"));
+  EXPECT_EQ(body["hints"].asList()->size(), 16u);
   const auto length = health::getVesRost(11, 1).rost;
   EXPECT_EQ((*child(view, "text", "id", "fruit"))["text"].text(),
             "Малыш размером с лайм.\nДлина от макушки до копчика составляет " +
                 formatDouble(length) + " мм.");
-  EXPECT_EQ((*child(view, "section"))["caption"].text(), "Прибавка в весе (килограммы)");
-  EXPECT_THAT((*child(view, "svg", "id", "weight"))["svg"].text(), StartsWith("<svg"));
-  EXPECT_GT((*child(view, "svg", "id", "wheel"))["height"].doubleValue(), 300);
 
   ASSERT_TRUE(page.tap("woman:size").ok());
   expectWeekText("Размер малыша", 12);
@@ -226,15 +194,10 @@ TEST_F(WeekPagesTest, WomanShowsTheMonthsBodyTheFruitTheWeightAndTheWheel) {
   expectWeekText("Подробнее", 12);
   EXPECT_FALSE(page.tap("woman:other").ok());
 
-  // Week 3 has no size yet; a long pregnancy keeps the last month and fruit.
+  // Week 3 has no size yet (the month and fruit of other weeks are the tables' edges above).
   view = shell::WomanPage(*app, host, pregnancyOnDay(20), 1).view();
   EXPECT_EQ((*child(view, "text", "id", "fruit"))["text"].text(),
             std::string(week::fruitCaption(0)) + " -");
-  EXPECT_EQ((*child(view, "hintPicture"))["picture"].text(), "wom-1.png");
-  view = shell::WomanPage(*app, host, pregnancyOnDay(320), 1).view();
-  EXPECT_EQ((*child(view, "hintPicture"))["picture"].text(), "wom-9.png");
-  EXPECT_THAT((*child(view, "text", "id", "fruit"))["text"].text(),
-              StartsWith("Малыш достиг размера арбуза."));
 }
 
 }  // namespace

@@ -94,11 +94,6 @@ TEST_F(ConversionReadingTest, OldStructuredValuesReadAsTheirSentences) {
         intervalToRead(context, "9<td>0", false), std::string("Общий анализ крови")})
     EXPECT_NE(sentence.find(part), std::string::npos) << sentence << " lacks " << part;
 
-  EXPECT_EQ(
-      analizyStringToRead(oldValueToJson(kPregnancy, "analizy",
-                                         "1<br>5<br>a.jpg<br>t<tr>1<br>3<br>b.jpg<br>", nullptr),
-                          entries),
-      "Общий анализ крови, Тошнота");
   EXPECT_EQ(biosizeStringToRead(
                 context, oldValueToJson(kPregnancy, "biosize", "1<tr><tr>3<tr><tr>", nullptr)),
             biosizeStringToRead(context, R"({"bio1":"1","bio3":"3"})"));

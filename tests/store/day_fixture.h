@@ -4,7 +4,6 @@
 
 #include "store/day_loader.h"
 #include "store/dictionary.h"
-#include "store/first_launch.h"
 #include "store/records.h"
 #include "tests/fixtures/diary_generator.h"
 #include "tests/store/store_fixture.h"
@@ -21,12 +20,10 @@ class DayTest : public StoreTest {
     context.reset();
     for (const auto& entry : std::filesystem::directory_iterator(dir.path()))
       std::filesystem::remove_all(entry.path());
-    open(appid);
-    fromOldVersion(*store);
+    openDiary(appid);
     listData = loadConstList(*store, 0, std::nullopt);
     recovery = store->boleznId();
   }
-  Date day(int d, int m, int y) const { return context->dates().encodeDate(d, m, y); }
   void put(const std::string& type, const std::string& value, Date on) {
     StoreBracket bracket = store->connectToBase();
     insertValue(*store, bracket, type, value, on, kGid, true, false);

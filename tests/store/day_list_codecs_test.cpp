@@ -25,7 +25,6 @@ TEST(DayListCodecsTest, MeasurementLinesReadBothForms) {
   } const cases[] = {
       {R"([{"time":"08:00","temp":"36.6"},{"time":"21:00","temp":"37.2"}])", 4,
        "1 08:00 36.6; 2 21:00 37.2"},
-      {R"([{"time":"09:00","temp":"Позвонить врачу"}])", 5, "1 09:00 Позвонить врачу"},
       {R"([{"time":"07:30","pressure1":"120","pressure2":"80","comment":"после сна"}])", 30,
        "1 07:30 120/80 - после сна"},
       {R"([{"time":"12:00","pressure1":"110","comment":""}])", 30, "1 12:00 110/"},
@@ -40,17 +39,6 @@ TEST(DayListCodecsTest, MeasurementLinesReadBothForms) {
   EXPECT_TRUE(multiFromString(std::nullopt, 4).empty());
 }
 
-TEST(DayListCodecsTest, LinesWriteBackAsTheStoredList) {
-  const std::string stored = R"([{"time":"08:00","temp":"36.6"},{"time":"21:00","temp":"37.2"}])";
-  EXPECT_EQ(jsonToArray(multiToString(multiFromString(stored, 4))), jsonToArray(stored));
-  List lines;
-  Map line;
-  line.set("source", "{}");
-  line.set("text", "с 10:00 до 11:00 (01:00)");
-  lines.push_back(Value(line));
-  EXPECT_EQ(jsonToArray(multi2ToString(lines)), Value(lines));
-}
-
 TEST(DayListCodecsTest, CoursesAndSpansGiveTheirSentences) {
   testing::TempDir dir;
   Context context{ContextOptions{2, 1, dir.path(), "1.0", nullptr, {}}};
@@ -59,7 +47,6 @@ TEST(DayListCodecsTest, CoursesAndSpansGiveTheirSentences) {
                    29, std::nullopt);
   ASSERT_EQ(target.size(), 1u);
   EXPECT_EQ(target[0]["text"].text(), "с 10:00 до 11:30 (01:30)");
-  EXPECT_EQ(jsonToDictionary(target[0]["source"].text())["end"].text(), "11:30");
 
   multi2FromString(context, target, "старый текст", {}, 29, std::nullopt);
   EXPECT_EQ(target.size(), 1u) << "an old span gives nothing";

@@ -86,11 +86,9 @@ TEST_F(DayRowsTest, ADayThroughItsRowsAndBackIsUnchanged) {
   noteStructToTodayNote(*context, loaded, rows, listData);
   ASSERT_EQ(rows.size(), 15u);
   EXPECT_EQ(rows[4]["source"].text(), "61,5");
-  EXPECT_TRUE(rows[4]["active"].boolValue());
   EXPECT_EQ(rows[12]["source"].text(), R"({"type":"1","rost":"50"})") << "the birth of that day";
   EXPECT_TRUE(rows[14]["isphoto"].boolValue());
   EXPECT_EQ(rows[14]["photopath"], loaded["photopath2"]);
-  EXPECT_EQ(rows[0]["source"].text(), "");
 
   saveNoteData(*store, kNoteFromEditor, rows, listData, kGid, on);
   EXPECT_EQ(storedDay("2026-03-12"), before);

@@ -83,14 +83,12 @@ TEST_F(DayStringsTest, WeightsShowTheirDifferenceFromTheBaseOfTheList) {
   put("rost", "55", day(1, 4, 2025));
   put("ves", "9.5", day(2, 3, 2026));
   put("ves", "10", day(3, 3, 2026));
-  put("rost", "70", day(3, 3, 2026));
   const List year1 = load(5, 1, {});
   const Value* april = find(year1, "2025-04-01");
   EXPECT_EQ((*april)["ves"].text(), "4.250 (+1.050)") << "against the birth weight";
   EXPECT_EQ((*april)["rost"].text(), "55.0 (+5.0)");
   EXPECT_EQ(weights(load(5, 2, {})), "9.500; 10.000 (+0.500); ")
       << "a later year takes its first weighing as the base";
-  EXPECT_EQ((*find(load(5, 2, {}), "2026-03-03"))["rost"].text(), "70.0");
 }
 
 TEST_F(DayStringsTest, EachEditionNamesItsDaysAndSections) {
@@ -100,7 +98,6 @@ TEST_F(DayStringsTest, EachEditionNamesItsDaysAndSections) {
   const List book = load(8, 0, day(1, 3, 2026));
   EXPECT_EQ(book[0]["day"].text(), "15 марта 2026");
   EXPECT_EQ(book[0]["group"].intValue(), 3);
-  EXPECT_EQ(book[0]["weekdatint"].intValue(), 1);
 
   openEdition(2);
   testing::addChild(*store, kGid, day(31, 1, 2025), "3.2", "50");
@@ -109,7 +106,6 @@ TEST_F(DayStringsTest, EachEditionNamesItsDaysAndSections) {
   ASSERT_EQ(report.size(), 1u);
   EXPECT_EQ(report[0]["day"].text(), "01.03.2025 суббота");
   EXPECT_EQ(report[0]["month"].intValue(), 2) << "one whole month from 31 January";
-  EXPECT_EQ(report[0]["group"].intValue(), 2);
   EXPECT_EQ(load(5, 1, {})[29]["day"].text(), "01");
   EXPECT_EQ(load(5, 1, {})[29]["weekday"].text(), "сб");
 
@@ -119,13 +115,11 @@ TEST_F(DayStringsTest, EachEditionNamesItsDaysAndSections) {
   const List woman = load(3, 2025, {});
   ASSERT_EQ(woman.size(), 1u);
   EXPECT_EQ(woman[0]["womantype"].text(), "Первый день месячных");
-  EXPECT_EQ(woman[0]["tp"].intValue(), 2);
   EXPECT_EQ(woman[0]["ves"].text(), "55.500");
   EXPECT_EQ(woman[0]["day"].text(), "03.02.2025 понедельник");
   EXPECT_FALSE(woman[0].asMap()->contains("weekday"));
   const List year = load(4, 2025, {});
   EXPECT_EQ(year[0]["tp"].intValue(), 1);
-  EXPECT_EQ(year[0]["womantype"].text(), "");
   EXPECT_EQ(year[33]["group"].intValue(), 2);
 }
 

@@ -32,8 +32,6 @@ class FoldersTest : public testing::StoreTest {};
 
 TEST_F(FoldersTest, NamedFoldersLieInTheInstallationAndTheCloudFallsBackToTemp) {
   open();
-  EXPECT_EQ(getSystemFolder(*context, "Document"), dir.path() / "Documents");
-  EXPECT_EQ(getSystemFolder(*context, "Library"), dir.path() / "Library");
   EXPECT_EQ(getSystemFolder(*context, "Reserv"), dir.path() / "Documents" / "reserv");
   EXPECT_EQ(getSystemFolder(*context, "Root"), std::filesystem::path(LADANEYA_RESOURCES_DIR));
   EXPECT_EQ(getSystemFolder(*context, "Cloud"), getSystemFolder(*context, "Temp"));

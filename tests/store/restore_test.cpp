@@ -17,10 +17,7 @@ TEST_F(RestoreTest, AFirstStartCopiesTheTemplateOnceAndLaterStartsKeepTheLiveFil
   open();
   EXPECT_TRUE(fromOldVersionNewRestore(*store));
   EXPECT_TRUE(isSoundDatabase(store->liveFile()));
-  {
-    StoreBracket bracket = store->connectToBase();
-    ASSERT_TRUE(bracket.db()->execute("update preg set childname='Мила' where pregid=1"));
-  }
+  execute("update preg set childname='Мила' where pregid=1");
   EXPECT_FALSE(fromOldVersionNewRestore(*store));
   EXPECT_EQ(cell("select childname from preg where pregid=1"), "Мила");
 }
@@ -43,10 +40,7 @@ TEST_F(RestoreTest, DatabasesInBothOldPlacesReplaceTheLiveFileAndEveryReplacedOn
   };
   oldCopy(dir.path() / "Library" / "pregnant.sqlite", "из библиотеки");
   oldCopy(dir.path() / "Documents" / "pregnant.sqlite", "из документов");
-  {
-    StoreBracket bracket = store->connectToBase();
-    ASSERT_TRUE(bracket.db()->execute("update preg set childname='живой' where pregid=1"));
-  }
+  execute("update preg set childname='живой' where pregid=1");
   EXPECT_FALSE(fromOldVersionNewRestore(*store));
   EXPECT_EQ(cell("select childname from preg where pregid=1"), "из документов");
 
@@ -75,10 +69,7 @@ TEST_F(RestoreTest, TheBaseFileTestCallsOnlyAReadableFileWithoutEntriesBad) {
   EXPECT_TRUE(testBaseFile(*store)) << "a missing file counts as good";
   ASSERT_TRUE(fromOldVersionNewRestore(*store));
   EXPECT_TRUE(testBaseFile(*store));
-  {
-    StoreBracket bracket = store->connectToBase();
-    ASSERT_TRUE(bracket.db()->execute("delete from pregconst"));
-  }
+  execute("delete from pregconst");
   EXPECT_FALSE(testBaseFile(*store));
   testing::writeFile(store->liveFile(), "garbage");
   EXPECT_FALSE(testBaseFile(*store));

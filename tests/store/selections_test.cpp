@@ -2,7 +2,6 @@
 
 #include <gtest/gtest.h>
 
-#include "store/first_launch.h"
 #include "tests/store/store_fixture.h"
 
 namespace lad {
@@ -10,23 +9,16 @@ namespace {
 
 using Tags = std::vector<std::string>;
 
-class SelectionsTest : public testing::StoreTest {
- protected:
-  void launchEdition(int appid) {
-    open(appid);
-    fromOldVersion(*store);
-  }
-};
+class SelectionsTest : public testing::StoreTest {};
 
 TEST_F(SelectionsTest, TicksComeAndGoPerListAndProfile) {
   for (int appid : {1, 2}) {
-    launchEdition(appid);
+    openDiary(appid);
     setCheckData(*store, 7, "ITEM-A", true, "MINE");
     setCheckData(*store, 7, "ITEM-A", true, "MINE");
     setCheckData(*store, 7, "ITEM-B", true, "MINE");
     setCheckData(*store, 8, "ITEM-C", true, "MINE");
     setCheckData(*store, 7, "ITEM-A", true, "OTHER");
-    EXPECT_TRUE(store->changed());
     EXPECT_EQ(loadCheckData(*store, 7, "MINE"), (Tags{"ITEM-A", "ITEM-B"}))
         << "a second tick keeps one row; edition " << appid;
 
@@ -39,7 +31,7 @@ TEST_F(SelectionsTest, TicksComeAndGoPerListAndProfile) {
 }
 
 TEST_F(SelectionsTest, TheWomansEditionKeepsNoTicks) {
-  launchEdition(3);
+  openDiary(3);
   setCheckData(*store, 7, "ITEM-A", true, "MINE");
   EXPECT_EQ(loadCheckData(*store, 7, "MINE"), Tags{});
 }

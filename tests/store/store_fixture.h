@@ -8,6 +8,7 @@
 
 #include "core/context.h"
 #include "core/launch.h"
+#include "store/first_launch.h"
 #include "store/store.h"
 #include "tests/support/test_files.h"
 
@@ -28,6 +29,18 @@ class StoreTest : public ::testing::Test {
         ContextOptions{appid, langid, dir.path(), "1.0", clock, resources});
     launch(*context);
     store = std::make_unique<Store>(*context);
+  }
+
+  // An installation whose first launch has set up its diary.
+  void openDiary(int appid = 1) {
+    open(appid);
+    fromOldVersion(*store);
+  }
+  Date day(int d, int m = 3, int y = 2026) const { return context->dates().encodeDate(d, m, y); }
+  // SQL run on the live file in a bracket of its own.
+  void execute(const std::string& sql) {
+    StoreBracket bracket = store->connectToBase();
+    ASSERT_TRUE(bracket.db()->execute(sql)) << sql;
   }
 
   std::filesystem::path reserv() const { return dir.path() / "Documents" / "reserv"; }

@@ -6,6 +6,7 @@
 
 #include "core/ids.h"
 #include "core/json_text.h"
+#include "store/file_names.h"
 
 namespace lad {
 namespace {
@@ -41,8 +42,6 @@ TEST(ValueConversionTest, EachOldKeywordComesToItsCurrentForm) {
       {"biosize", "1<tr>2<tr>3<tr>4<tr>5",
        R"({"bio1":"1","bio2":"2","bio3":"3","bio4":"4","bio5":"5"})"},
       {"temp", "08:00<td>36.6", R"([{"time":"08:00","temp":"36.6"}])"},
-      {"alarm", "07:00<td>1<tr>21:00<td>2",
-       R"([{"time":"07:00","temp":"1"},{"time":"21:00","temp":"2"}])"},
       {"pressure", "09:00<table>120<table>80<table>утро",
        R"([{"time":"09:00","pressure1":"120","pressure2":"80","comment":"утро"}])"},
       {"zhid", "10:00<table>200<table>150<table><end>12:00<table>1<table>2<table>x",
@@ -50,17 +49,12 @@ TEST(ValueConversionTest, EachOldKeywordComesToItsCurrentForm) {
        R"({"time":"12:00","in":"1","out":"2","comment":"x"}])"},
       {"sleep", "22:00<table>06:00<table>08:00",
        R"([{"start":"22:00","end":"06:00","interval":"08:00"}])"},
-      {"walk", "11:00<table>12:30<table>01:30",
-       R"([{"start":"11:00","end":"12:30","interval":"01:30"}])"},
       {"analizy", "1<br>5<br>a.jpg<br>t<tr>2<br>6<br>b.jpg<br>",
        R"([{"tp":"1","captiontype":"5","file":"a.jpg","tag":"t"},)"
        R"({"tp":"2","captiontype":"6","file":"b.jpg","tag":""}])"},
-      {"documents", "3<br>7<br>c.pdf<br>d",
-       R"([{"tp":"3","captiontype":"7","file":"c.pdf","tag":"d"}])"},
       {"changes", "2<tr>3", kG2 + "<tr>" + kG3},
       {"fillings", "5", kG5},
       {"bolezn", "", ""},
-      {"allergen", "11<tr>17", kG11 + "<tr>" + kG17},
       {"kovalue", "1<tr>10<tr>15", R"({"tp":"1","tip":"Грудное молоко","left":"10","right":"15"})"},
       {"kovalue", "2<tr>5<tr>120",
        R"({"tp":"2","tip":")" + kG5 + R"(","volume":"120","measure":"мил."})"},
@@ -93,11 +87,8 @@ TEST(ValueConversionTest, PillsTakeGuidsAndPickerTextsAndTheKeyOfANinthField) {
       "[" + expected + R"(,"key":"K-1"},)" + expected + "}]");
 }
 
-TEST(ValueConversionTest, PickerRowsReadAsTheirTexts) {
-  EXPECT_EQ(oldList("pilldoza", "2<td>0"), "1/2<td>мл.");
-  EXPECT_EQ(oldList("pilldoza", "3<td>2"), "1<td>шт.");
-  EXPECT_EQ(oldList("pillinter", "23<td>0"), "24<td>раз в день");
-  EXPECT_EQ(oldList("pilllength", "0<td>2"), "1<td>месяцы");
+// Rows in range are read against the old readers in the conversion reading tests.
+TEST(ValueConversionTest, PickerRowsOutOfRangeOrIncompleteReadAsNothing) {
   EXPECT_EQ(oldList("pilllength", "100<td>3"), "<td>");
   EXPECT_EQ(oldList("pilldoza", "4"), "2<td>мл.");
   EXPECT_EQ(oldList("pilldoza", ""), "");
@@ -124,6 +115,23 @@ TEST(ValueConversionTest, ChildAttachmentsTakeTheirCurrentNamesOnlyInTheChildDia
             newID2(1, 4) + "-scan.PDF");
   EXPECT_EQ(oldValueToDic(kPregnancy, "documents", "3<br>7<br>4-scan.pdf", nullptr)["file"].text(),
             "4-scan.pdf");
+}
+
+TEST(ValueConversionTest, OnlyOldNumberedFileNamesTakeTheChildGuid) {
+  const std::string g12 = newID2(1, 12), current = "a-" + g12 + "-1.jpg";
+  const std::pair<std::string, std::string> cases[] = {
+      {"d-12-3.PDF", "d-" + g12 + "-3.PDF"},
+      {"12-photo.Jpg", g12 + "-photo.Jpg"},
+      {"12.jpg", g12 + "-.jpg"},
+      {current, current},
+      {"12-photo.png", "12-photo.png"},
+      {"a-x.jpg", "a-x.jpg"},
+      {"photo.jpg", "photo.jpg"},
+      {"12", "12"},
+      {"", ""},
+      {"1234567890123456789-x.jpg", "1234567890123456789-x.jpg"},
+  };
+  for (const auto& [old, expected] : cases) EXPECT_EQ(oldFileNameToNew(old), expected) << old;
 }
 
 }  // namespace

@@ -26,24 +26,15 @@ struct RawResponse {
 
   // The value of the first header of that name (any case), or "".
   std::string header(std::string_view name) const {
-    std::size_t at = head.find("\r\n");
-    while (at != std::string::npos && at + 2 < head.size()) {
-      const std::size_t end = head.find("\r\n", at + 2);
-      const std::string_view line(head.data() + at + 2,
-                                  (end == std::string::npos ? head.size() : end) - at - 2);
-      const std::size_t colon = line.find(':');
-      if (colon == name.size() &&
-          std::equal(name.begin(), name.end(), line.begin(), [](char a, char b) {
-            return std::tolower(static_cast<unsigned char>(a)) ==
-                   std::tolower(static_cast<unsigned char>(b));
-          })) {
-        std::string_view value = line.substr(colon + 1);
-        while (!value.empty() && value.front() == ' ') value.remove_prefix(1);
-        return std::string(value);
-      }
-      at = end;
-    }
-    return {};
+    const auto lower = [](std::string text) {
+      for (char& c : text) c = static_cast<char>(std::tolower(static_cast<unsigned char>(c)));
+      return text;
+    };
+    const std::string key = "\r\n" + lower(std::string(name)) + ":";
+    const std::size_t found = lower(head).find(key);
+    if (found == std::string::npos) return {};
+    const std::size_t at = std::min(head.find_first_not_of(' ', found + key.size()), head.size());
+    return head.substr(at, head.find("\r\n", at) - at);
   }
 };
 
@@ -69,6 +60,8 @@ class LoopbackClient {
   LoopbackClient& operator=(const LoopbackClient&) = delete;
 
   bool connected() const { return connected_; }
+  // True once a receive found the connection closed by the server.
+  bool closedByPeer() const { return closedByPeer_; }
 
   bool send(std::string_view bytes) {
     while (!bytes.empty()) {
@@ -83,6 +76,7 @@ class LoopbackClient {
   std::string receiveOnce() {
     char buffer[65536];
     const ssize_t n = ::recv(fd_, buffer, sizeof buffer, 0);
+    if (n == 0) closedByPeer_ = true;
     return n > 0 ? std::string(buffer, static_cast<std::size_t>(n)) : std::string();
   }
 
@@ -118,6 +112,7 @@ class LoopbackClient {
 
   int fd_ = -1;
   bool connected_ = false;
+  bool closedByPeer_ = false;
   std::string pending_;
 };
 

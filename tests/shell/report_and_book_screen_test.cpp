@@ -1,10 +1,13 @@
-// The photo book on screen, through a browser's session: the kinds, the pages as they come, a
-// picture page edited, one deleted, one added from a photo, and the book saved.
+// Documents made on screen: the report panel's reports, made one at a time on the worker, and
+// the photo book through a browser's session: the kinds, the pages as they come, a picture page
+// edited, one deleted, one added from a photo, and the book saved.
 #include <gmock/gmock.h>
 
 #include <thread>
 
 #include "core/atomic_file.h"
+#include "shell/popup_menu.h"
+#include "shell/report_panel.h"
 #include "store/day_photo.h"
 #include "tests/fixtures/diary_generator.h"
 #include "tests/shell/application_fixture.h"
@@ -12,10 +15,92 @@
 namespace lad::testing {
 namespace {
 
+using shell::ReportJob;
 using ::testing::ElementsAre;
 using ::testing::HasSubstr;
 
-constexpr const char* kGid = "BOOK-PROFILE";
+class ReportPanelTest : public ApplicationTest {
+ protected:
+  void SetUp() override {
+    launchApp(1);
+    const Date first = app->context().dates().encodeDate(5, 1, 2026);
+    addPregnancy(app->store(), kGid, first, "60");
+    generateDiary(app->store(), kGid, first, 10, 0);
+  }
+  report::ReportRequest request(const std::filesystem::path& target) const {
+    report::ReportRequest r;
+    r.gid = kGid;
+    r.target = target;
+    return r;
+  }
+  static void waitFor(const ReportJob& job) {
+    while (!job.finished()) std::this_thread::sleep_for(std::chrono::milliseconds(5));
+  }
+  static constexpr const char* kGid = "REPORT-PROFILE";
+};
+
+TEST_F(ReportPanelTest, EqualRequestsShareOneReportAndOthersWaitTheirTurn) {
+  shell::ReportMaker& maker = app->reports();
+  const auto first = maker.start(request(dir.path() / "a.pdf"));
+  const auto same = maker.start(request(dir.path() / "a.pdf"));
+  const auto other = maker.start(request(dir.path() / "b.pdf"));
+  const auto broken = maker.start(request(dir.path() / "missing" / "c.pdf"));
+  EXPECT_EQ(first, same);
+  EXPECT_NE(first, other);
+  waitFor(*broken);
+  // One worker takes them in turn: by the time the last one ended, all had.
+  EXPECT_EQ(first->state, ReportJob::State::Done);
+  EXPECT_EQ(other->state, ReportJob::State::Done);
+  EXPECT_EQ(broken->state, ReportJob::State::Failed);
+  EXPECT_THAT(broken->error, HasSubstr("c.pdf"));
+  EXPECT_TRUE(std::filesystem::exists(dir.path() / "a.pdf"));
+  EXPECT_FALSE(std::filesystem::exists(dir.path() / "missing"));
+  // A finished report is made again when asked again.
+  EXPECT_NE(maker.start(request(dir.path() / "a.pdf")), first);
+}
+
+TEST_F(ReportPanelTest, TheMenuChoiceTheDayAndThePanelOfTheFinishedReport) {
+  RecordingHost host;
+  shell::ReportPanel panel(*app, host);
+  EXPECT_TRUE(panel.ask(kGid).ok());
+  auto* menu = dynamic_cast<shell::PopupMenu*>(host.popup.get());
+  ASSERT_TRUE(menu);
+  std::vector<std::string> captions;
+  for (const auto& item : menu->items()) captions.push_back(item.caption);
+  EXPECT_THAT(captions, ElementsAre("Вся беременность", "Отчет по давлению", "Отчет по жидкости",
+                                    "Отменить"));
+  EXPECT_TRUE(host.answer(3, "Отменить").ok());
+  EXPECT_FALSE(panel.shown());
+
+  panel.ask(kGid);
+  host.answer(1, "Отчет по давлению");
+  ASSERT_TRUE(host.popup);  // the date's question
+  // Closing the date question makes nothing.
+  EXPECT_TRUE(host.answer(0, "").ok());
+  EXPECT_FALSE(panel.shown());
+
+  panel.ask(kGid);
+  host.answer(1, "Отчет по давлению");
+  follow(host.answer(1, "", Value("06.01.2026")));
+  const Value view = panel.view();
+  EXPECT_EQ(view["state"].text(), "done");
+  EXPECT_EQ(view["file"].text(), "/doc/report/pressure.pdf");
+  EXPECT_EQ(panel.finishedFile("pressure.pdf"), app->context().documentsDir() / "pressure.pdf");
+  EXPECT_FALSE(panel.finishedFile("report.pdf"));
+  EXPECT_FALSE(panel.finishedFile("../pressure.pdf"));
+  panel.close();
+  EXPECT_TRUE(panel.view().isNull());
+  EXPECT_FALSE(panel.finishedFile("pressure.pdf"));
+
+  // The diary report counts its days while it is made.
+  panel.ask(kGid);
+  follow(host.answer(0, "Вся беременность"));
+  EXPECT_EQ(panel.view()["file"].text(), "/doc/report/report.pdf");
+  EXPECT_GT(panel.view()["total"].intValue(), 0);
+  EXPECT_EQ(panel.view()["done"].intValue(), panel.view()["total"].intValue());
+}
+
+constexpr const char* kBookGid = "BOOK-PROFILE";
 
 class BookScreenTest : public ApplicationTest {
  protected:
@@ -23,22 +108,15 @@ class BookScreenTest : public ApplicationTest {
     launchApp(1);
     const DateCodec& dates = app->context().dates();
     const Date first = dates.encodeDate(5, 1, 2026);
-    addPregnancy(app->store(), kGid, first, "60");
+    addPregnancy(app->store(), kBookGid, first, "60");
     // Five days of photos and nothing else: a picture page of four, then one of one.
     for (int d = 1; d <= 5; ++d) {
       const Image image{320, 240, std::vector<std::uint8_t>(320 * 240 * 3, 40 * d)};
-      ASSERT_TRUE(saveDayPhoto(app->context(), dates.addDays(first, d), kGid, encodeJpeg(image, 80),
-                               nullptr));
+      ASSERT_TRUE(saveDayPhoto(app->context(), dates.addDays(first, d), kBookGid,
+                               encodeJpeg(image, 80), nullptr));
     }
     session = greetedSession();
-    ASSERT_TRUE(tap(*session, "card:" + std::string(kGid)).ok());
-  }
-  // Runs the redraws the screen asks for until the pages are drawn.
-  static void follow(shell::EventResult result) {
-    while (result.timer) {
-      std::this_thread::sleep_for(result.timerDelay);
-      result = result.timer();
-    }
+    ASSERT_TRUE(tap(*session, "card:" + std::string(kBookGid)).ok());
   }
   void open(int kind) {
     ASSERT_TRUE(tap(*session, "menu:23").ok());
@@ -70,7 +148,6 @@ TEST_F(BookScreenTest, PagesComeWithSmallCopiesAndPicturePagesAreEditedDeletedAn
   const Value view = session->view();
   EXPECT_EQ(nth(view["pages"], 2)["picture"].text(), "/doc/book/book3-s.jpg?r=0");
   EXPECT_FALSE(nth(view["pages"], 0).asMap()->contains("deleteId"));  // only picture pages go
-  EXPECT_TRUE(view["save"]["enabled"].boolValue());
   for (const char* name : {"book3-s.jpg", "book3.jpg", "photo3-3.jpg"})
     EXPECT_TRUE(app->book()->shownFile(name)) << name;
   for (const char* name :
@@ -98,8 +175,7 @@ TEST_F(BookScreenTest, PagesComeWithSmallCopiesAndPicturePagesAreEditedDeletedAn
   ASSERT_TRUE(tap(*session, "book:earlier:3").ok());
   // The moved photo keeps its own picture: it is named by its place on the saved page.
   EXPECT_EQ(nth(session->view()["edit"]["photos"], 2)["picture"].text(), "/doc/book/photo3-3.jpg");
-  ASSERT_TRUE(tap(*session, "book:layout:22").ok());
-  ASSERT_TRUE(change(*session, "book:label", Value("Первые дни")).ok());
+  ASSERT_TRUE(act(*session, {"book:layout:22", "book:label=Первые дни"}));
   follow(tap(*session, "book:edit-ok"));
   const shell::ShownPage& edited = shown(3);
   EXPECT_EQ(edited.revision, 1);
@@ -124,12 +200,11 @@ TEST_F(BookScreenTest, SavingWritesBookPdfAndTheReportPanelOffersIt) {
   open(1);
   // Another browser opens the same book; closing it there ends it here too.
   auto other = greetedSession();
-  tap(*other, "card:" + std::string(kGid));
+  tap(*other, "card:" + std::string(kBookGid));
   follow(tap(*session, "book:save"));
   EXPECT_FALSE(app->book());
   const Value panel = session->view()["report"];
   EXPECT_EQ(panel["state"].text(), "done");
-  EXPECT_EQ(panel["caption"].text(), "Фотокнига");
   EXPECT_THAT(panel["text"].text(), HasSubstr("Ваша фотокнига сформирована"));
   EXPECT_EQ(panel["file"].text(), "/doc/report/book.pdf");
   const auto pdf = readWholeFile(app->context().documentsDir() / "book.pdf");
