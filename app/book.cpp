@@ -14,18 +14,18 @@ int book(int appid, const BookArgs& args) {
   shell::Application app(
       ContextOptions{appid, 1, args.dataDir, LADANEYA_VERSION, nullptr, args.resourcesDir});
   Store& store = app.store();
-  report::BookRequest request;
-  request.gid = report::defaultReportProfile(store);
+  reports::BookRequest request;
+  request.gid = reports::defaultReportProfile(store);
   if (request.gid.empty())
     return refuse("the diary in " + args.dataDir.string() + " has no profile");
   request.kind = args.kind;
-  request.year = args.year ? args.year : report::defaultReportYear(store, request.gid);
+  request.year = args.year ? args.year : reports::defaultReportYear(store, request.gid);
   request.target = args.output;
-  report::BookOptions options;
+  reports::BookOptions options;
   options.imagesDir = args.imagesDir;
   options.progress = terminalProgress("pages");
   std::string error;
-  if (!report::makeBook(store, request, options, &error)) {
+  if (!reports::makeBook(store, request, options, &error)) {
     std::fprintf(stderr, "%s\n", error.c_str());
     return 1;
   }

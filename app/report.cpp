@@ -10,10 +10,10 @@ namespace lad::app {
 
 namespace {
 
-report::ReportKind kindOf(const std::string& kind) {
-  if (kind == "pressure") return report::ReportKind::Pressure;
-  if (kind == "fluid") return report::ReportKind::Fluid;
-  return report::ReportKind::Diary;
+reports::ReportKind kindOf(const std::string& kind) {
+  if (kind == "pressure") return reports::ReportKind::Pressure;
+  if (kind == "fluid") return reports::ReportKind::Fluid;
+  return reports::ReportKind::Diary;
 }
 
 }  // namespace
@@ -23,9 +23,9 @@ int report(int appid, const ReportArgs& args) {
   shell::Application app(ContextOptions{appid, 1, args.dataDir, "", nullptr, args.resourcesDir});
   Store& store = app.store();
   const Context& context = app.context();
-  report::ReportRequest request;
+  reports::ReportRequest request;
   request.kind = kindOf(args.kind);
-  request.gid = report::defaultReportProfile(store);
+  request.gid = reports::defaultReportProfile(store);
   if (request.gid.empty())
     return refuse("the diary in " + args.dataDir.string() + " has no profile");
   request.date = context.clock().now();
@@ -35,10 +35,10 @@ int report(int appid, const ReportArgs& args) {
       return refuse("--date " + args.date + " is no day of the calendar");
     request.date = *day;
   }
-  request.year = args.year ? args.year : report::defaultReportYear(store, request.gid);
+  request.year = args.year ? args.year : reports::defaultReportYear(store, request.gid);
   request.target = args.output;
   std::string error;
-  if (!report::makeReport(store, request, {args.imagesDir, terminalProgress("days")}, &error)) {
+  if (!reports::makeReport(store, request, {args.imagesDir, terminalProgress("days")}, &error)) {
     std::fprintf(stderr, "%s\n", error.c_str());
     return 1;
   }

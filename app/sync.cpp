@@ -10,14 +10,14 @@ namespace lad::app {
 
 namespace {
 
-void printOutcome(const PassOutcome& outcome, int percent) {
+void printOutcome(const cloud::PassOutcome& outcome, int percent) {
   std::printf("%zu change files applied; the folder is %d%% complete\n",
               outcome.report.applied.size(), percent);
-  for (const SkippedChange& skipped : outcome.report.skipped)
+  for (const cloud::SkippedChange& skipped : outcome.report.skipped)
     std::printf("skipped %s: %s\n", skipped.name.c_str(), skipped.reason.c_str());
   for (const std::string& note : outcome.report.notes) std::printf("note %s\n", note.c_str());
   for (const std::string& error : outcome.importErrors) std::printf("%s\n", error.c_str());
-  for (const CloudNotice& notice : outcome.notices) std::printf("%s\n", notice.text.c_str());
+  for (const cloud::CloudNotice& notice : outcome.notices) std::printf("%s\n", notice.text.c_str());
 }
 
 }  // namespace
@@ -27,15 +27,15 @@ int sync(int appid, const SyncArgs& args) {
   Context& context = app.context();
   if (!args.cloudDir.empty()) {
     context.settings().set("cloudFolder", args.cloudDir.string());
-    chooseCloudSync(context);
+    cloud::chooseCloudSync(context);
   }
   const int mode = context.values().cloudMode;
-  if (mode != kCloudSync && mode != kCloudImport) {
+  if (mode != cloud::kCloudSync && mode != cloud::kCloudImport) {
     std::fprintf(stderr, "this diary does not sync through a cloud folder: give --cloud DIR\n");
     return 2;
   }
-  const PassOutcome outcome =
-      cloudPass(app.store(), {kSettleTime, nullptr, terminalProgress("files")});
+  const cloud::PassOutcome outcome =
+      cloud::cloudPass(app.store(), {cloud::kSettleTime, nullptr, terminalProgress("files")});
   printOutcome(outcome, context.values().cloudPercent);
   context.settings().synchronize();
   return 0;

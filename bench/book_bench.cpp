@@ -18,15 +18,15 @@ lad::bench::PregnancyWithPhotos& diary() {
 }
 
 void BM_PhotoBook(benchmark::State& state) {
-  const auto target = lad::report::bookFile(*diary().context);
+  const auto target = lad::reports::bookFile(*diary().context);
   std::size_t pages = 0;
-  lad::report::BookOptions options;
+  lad::reports::BookOptions options;
   options.imagesDir = LADANEYA_IMAGES_DIR;
   options.progress = [&](std::size_t, std::size_t total) { pages = total; };
   for (auto _ : state) {
     std::string error;
-    if (!lad::report::makeBook(*diary().store, {kGid, static_cast<int>(state.range(0)), 0, target},
-                               options, &error))
+    if (!lad::reports::makeBook(*diary().store, {kGid, static_cast<int>(state.range(0)), 0, target},
+                                options, &error))
       state.SkipWithError(error.c_str());
   }
   state.counters["pages"] = static_cast<double>(pages);
@@ -38,9 +38,9 @@ void BM_PhotoBook(benchmark::State& state) {
 // What the book's screen adds to the making: the thumbnail of every page just drawn.
 void BM_PageThumbnails(benchmark::State& state) {
   std::vector<std::filesystem::path> pages;
-  const auto folder = lad::report::bookFolder(*diary().context);
-  for (int n = 1; std::filesystem::exists(lad::report::bookPageFile(folder, n)); ++n)
-    pages.push_back(lad::report::bookPageFile(folder, n));
+  const auto folder = lad::reports::bookFolder(*diary().context);
+  for (int n = 1; std::filesystem::exists(lad::reports::bookPageFile(folder, n)); ++n)
+    pages.push_back(lad::reports::bookPageFile(folder, n));
   if (pages.empty()) state.SkipWithError("the book's pages are made by BM_PhotoBook first");
   for (auto _ : state) {
     std::string error;

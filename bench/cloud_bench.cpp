@@ -32,7 +32,7 @@ struct Installation {
         lad::ContextOptions{1, 1, dir, "1.0", nullptr, LADANEYA_RESOURCES_DIR});
     lad::launch(*context);
     context->settings().set("cloudFolder", cloud.string());
-    lad::chooseCloudSync(*context);
+    lad::cloud::chooseCloudSync(*context);
     store = std::make_unique<lad::Store>(*context);
     lad::fromOldVersion(*store);
   }
@@ -69,14 +69,15 @@ struct SharedFolder {
 
 void BM_PassOverReceivedFiles(benchmark::State& state) {
   SharedFolder folder;
-  lad::BulkCopy copy(*folder.home.store);
+  lad::cloud::BulkCopy copy(*folder.home.store);
   while (copy.step(100)) {
   }
-  lad::cloudPass(*folder.laptop.store, {std::chrono::milliseconds(0), nullptr, {}});
+  lad::cloud::cloudPass(*folder.laptop.store, {std::chrono::milliseconds(0), nullptr, {}});
   std::size_t applied = 0;
   for (auto _ : state)
-    applied += lad::cloudPass(*folder.laptop.store, {std::chrono::milliseconds(0), nullptr, {}})
-                   .report.applied.size();
+    applied +=
+        lad::cloud::cloudPass(*folder.laptop.store, {std::chrono::milliseconds(0), nullptr, {}})
+            .report.applied.size();
   if (applied != 0) state.SkipWithError("a received file was applied again");
   state.counters["files"] = static_cast<double>(copy.unitCount());
 }
@@ -92,7 +93,7 @@ void BM_BulkCopyOfAPregnancy(benchmark::State& state) {
     lad::testing::generateDiary(*home.store, kGid, first, kDays, 0);
     addPhotos(*home.context, first);
     for (auto _ : state) {
-      lad::BulkCopy copy(*home.store);
+      lad::cloud::BulkCopy copy(*home.store);
       while (copy.step(100)) {
       }
       if (!copy.errors().empty()) state.SkipWithError(copy.errors().front().c_str());

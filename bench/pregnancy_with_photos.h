@@ -23,7 +23,7 @@ inline constexpr int kDays = 294, kPhotos = 60, kPhotoWidth = 4000, kPhotoHeight
 
 // A photo-like picture: soft colour fields with grain, so that it compresses as a photo does.
 inline std::vector<std::uint8_t> photoJpeg() {
-  lad::Image image{kPhotoWidth, kPhotoHeight, {}};
+  lad::platform::Image image{kPhotoWidth, kPhotoHeight, {}};
   image.rgb.resize(std::size_t(kPhotoWidth) * kPhotoHeight * 3);
   std::mt19937 grain(7);
   std::size_t i = 0;
@@ -34,7 +34,7 @@ inline std::vector<std::uint8_t> photoJpeg() {
       image.rgb[i++] = static_cast<std::uint8_t>(90 + y / 30 + noise);
       image.rgb[i++] = static_cast<std::uint8_t>(140 + (x + y) / 80 % 60 + noise);
     }
-  return lad::encodeJpeg(image, 90);
+  return lad::platform::encodeJpeg(image, 90);
 }
 
 struct PregnancyWithPhotos {

@@ -13,12 +13,12 @@ using lad::bench::peakMegabytes;
 
 void BM_DiaryReport(benchmark::State& state) {
   static lad::bench::PregnancyWithPhotos diary;
-  const lad::Map dic = lad::report::diaryReportInput(*diary.store, kGid, 0);
+  const lad::Map dic = lad::reports::diaryReportInput(*diary.store, kGid, 0);
   const auto target = diary.dir / "report.pdf";
   for (auto _ : state) {
     std::string error;
-    if (!lad::report::saveDiaryReport(*diary.store, kGid, 0, dic, target, {LADANEYA_IMAGES_DIR, {}},
-                                      &error))
+    if (!lad::reports::saveDiaryReport(*diary.store, kGid, 0, dic, target,
+                                       {LADANEYA_IMAGES_DIR, {}}, &error))
       state.SkipWithError(error.c_str());
   }
   state.counters["pdf_mb"] = static_cast<double>(std::filesystem::file_size(target)) / 1048576;

@@ -43,7 +43,7 @@ Pregnancy& pregnancy() {
 // Week 20 of the mother's text, from its file, as the today page lays it out.
 void BM_WeekTextLaidOut(benchmark::State& state) {
   const lad::Context& context = pregnancy().app->context();
-  const auto folder = lad::shell::week::contentFolder(context);
+  const auto folder = lad::shell::contentFolder(context);
   for (auto _ : state) {
     lad::content::TextData text(lad::content::contextTools(context));
     text.justGroup(20);

@@ -6,10 +6,10 @@
 namespace lad::charts {
 
 // A rounded rectangle of radius 2s.
-void drawRoundCard(draw::Canvas& c, draw::Rect r, draw::Color color, double s);
+void drawRoundCard(drawing::Canvas& c, drawing::Rect r, drawing::Color color, double s);
 
 // A light rounded card of radius 4s; the corners of a side without its own edge (it joins the
 // next card) are squared off in white. A grey line ends the card.
-void drawChatCard(draw::Canvas& c, draw::Rect r, bool withTop, bool withBottom, double s);
+void drawChatCard(drawing::Canvas& c, drawing::Rect r, bool withTop, bool withBottom, double s);
 
 }  // namespace lad::charts

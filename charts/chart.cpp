@@ -20,7 +20,7 @@ void Chart::prepareChatCard(bool withTop, bool withBottom) {
   mode_ = !withBottom ? Mode::ChatCardNoBottom : withTop ? Mode::ChatCard : Mode::ChatCardNoTop;
 }
 
-void Chart::drawContext(draw::Canvas& c, draw::Rect r) const {
+void Chart::drawContext(drawing::Canvas& c, drawing::Rect r) const {
   switch (mode_) {
     case Mode::RoundCard:
       drawRoundCard(c, r, backColor_, s_);
@@ -38,12 +38,14 @@ void Chart::drawContext(draw::Canvas& c, draw::Rect r) const {
   }
 }
 
-std::string Chart::svg(draw::Size size) const {
-  return draw::renderSvg(size, [&](draw::Canvas& c) { drawContext(c, {0, 0, size.w, size.h}); });
+std::string Chart::svg(drawing::Size size) const {
+  return drawing::renderSvg(size, [&](drawing::Canvas& c) {
+    drawContext(c, {0, 0, size.w, size.h});
+  });
 }
 
-std::optional<std::string> Chart::getContextImage(draw::Size size, double scale) const {
-  return draw::renderPng(size, scale, [&](draw::Canvas& c) {
+std::optional<std::string> Chart::getContextImage(drawing::Size size, double scale) const {
+  return drawing::renderPng(size, scale, [&](drawing::Canvas& c) {
     drawContext(c, {0, 0, size.w, size.h});
   });
 }

@@ -34,17 +34,17 @@ class Chart {
   const Map& dictionary() const { return dic_; }
 
   // Paints the present mode into the rectangle.
-  void drawContext(draw::Canvas& c, draw::Rect r) const;
-  std::string svg(draw::Size size) const;
+  void drawContext(drawing::Canvas& c, drawing::Rect r) const;
+  std::string svg(drawing::Size size) const;
   // A PNG bitmap of the size at the render scale; nullopt when it cannot be made.
-  std::optional<std::string> getContextImage(draw::Size size, double scale) const;
+  std::optional<std::string> getContextImage(drawing::Size size, double scale) const;
 
  private:
   double s_;
   std::filesystem::path imagesDir_;
   Mode mode_ = Mode::None;
   Map dic_;
-  draw::Color backColor_;
+  drawing::Color backColor_;
 };
 
 }  // namespace lad::charts

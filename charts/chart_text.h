@@ -8,11 +8,11 @@
 namespace lad::charts {
 
 // Draws the text centred on cx with its top at top.
-void drawCentredText(draw::Canvas& c, std::string_view text, draw::Font f, draw::Color color,
-                     double cx, double top);
+void drawCentredText(drawing::Canvas& c, std::string_view text, drawing::Font f,
+                     drawing::Color color, double cx, double top);
 
 // Draws the text centred on the point both ways.
-void drawTextAround(draw::Canvas& c, std::string_view text, draw::Font f, draw::Color color,
-                    draw::Point centre);
+void drawTextAround(drawing::Canvas& c, std::string_view text, drawing::Font f,
+                    drawing::Color color, drawing::Point centre);
 
 }  // namespace lad::charts

@@ -8,9 +8,9 @@
 namespace lad::charts {
 
 void drawCaptions(const GraphContext& g) {
-  const draw::Font font{11 * g.scale.z, false};
-  const draw::Color color = colorFrom(g.dic["textColor"]);
-  const draw::Rect& f = g.layout.frame;
+  const drawing::Font font{11 * g.scale.z, false};
+  const drawing::Color color = colorFrom(g.dic["textColor"]);
+  const drawing::Rect& f = g.layout.frame;
   const std::string caption = g.dic["caption"].text();
   if (!caption.empty()) drawCentredText(g.canvas, caption, font, color, f.centre().x, f.y);
   const std::string bottom = g.dic["bottomCaption"].text();
@@ -22,24 +22,24 @@ void drawAxisTicks(const GraphContext& g) {
   const List* ticks = g.dic["xAxisValue"].asList();
   if (!ticks) return;
   const AxisRange range = AxisRange::of(g.dic);
-  const draw::Rect& plot = g.layout.plot;
-  const draw::Font font{9 * g.scale.z, false};
-  const draw::Color text = colorFrom(g.dic["textColor"]);
-  const draw::Color grid = colorFrom(g.dic["backColor"]);
+  const drawing::Rect& plot = g.layout.plot;
+  const drawing::Font font{9 * g.scale.z, false};
+  const drawing::Color text = colorFrom(g.dic["textColor"]);
+  const drawing::Color grid = colorFrom(g.dic["backColor"]);
   const bool setka = g.dic["setka"].boolValue();
   for (const auto& tick : *ticks) {
     const double x = valueToPoint(range, plot, tick["pos"].doubleValue(), range.minY).x;
     const std::string label = tick["label"].text();
     if (!label.empty()) drawCentredText(g.canvas, label, font, text, x, plot.bottom());
     if (setka)
-      g.canvas.strokePath(draw::Path().moveTo({x, plot.bottom()}).lineTo({x, plot.y}), grid, 1);
+      g.canvas.strokePath(drawing::Path().moveTo({x, plot.bottom()}).lineTo({x, plot.y}), grid, 1);
   }
 }
 
 void drawBottomLine(const GraphContext& g) {
   const auto thickness = g.dic["bottomLine"].intValue();
   if (thickness < 1) return;
-  const draw::Rect& plot = g.layout.plot;
+  const drawing::Rect& plot = g.layout.plot;
   const double h = static_cast<double>(thickness) * g.scale.z;
   const double lower = thickness == 1 ? 0.5 : 0;
   g.canvas.fillRect({plot.x, plot.bottom() - h + lower, plot.w, h},

@@ -9,7 +9,7 @@ GraphScale GraphScale::of(const Map& dic, double s) {
   return {s, zoom && !zoom->isNull() ? zoom->doubleValue() : s};
 }
 
-GraphLayout GraphLayout::of(const Map& dic, draw::Rect frame, double s) {
+GraphLayout GraphLayout::of(const Map& dic, drawing::Rect frame, double s) {
   return {frame, dic["isBorders"].boolValue() ? borderedPlot(frame, s) : frame};
 }
 

@@ -13,9 +13,9 @@ struct GraphScale {
 };
 
 struct GraphLayout {
-  draw::Rect frame;  // the whole rectangle
-  draw::Rect plot;   // where values are drawn
-  static GraphLayout of(const Map& dic, draw::Rect frame, double s);
+  drawing::Rect frame;  // the whole rectangle
+  drawing::Rect plot;   // where values are drawn
+  static GraphLayout of(const Map& dic, drawing::Rect frame, double s);
 };
 
 }  // namespace lad::charts

@@ -10,7 +10,7 @@
 namespace lad::charts {
 
 struct GraphContext {
-  draw::Canvas& canvas;
+  drawing::Canvas& canvas;
   const Map& dic;
   GraphLayout layout;
   GraphScale scale;

@@ -6,15 +6,15 @@ namespace {
 
 // Out along one radius and back along the other: no edge reaches the centre, where the many
 // segments of a wheel meet and their antialiased tips would add up to a spot.
-draw::Path ringSegment(draw::Point centre, double rad1, double rad2, double from, double to) {
-  return draw::Path().arc(centre, rad1, from, to).arcNegative(centre, rad2, to, from).close();
+drawing::Path ringSegment(drawing::Point centre, double rad1, double rad2, double from, double to) {
+  return drawing::Path().arc(centre, rad1, from, to).arcNegative(centre, rad2, to, from).close();
 }
 
 }  // namespace
 
-void drawArc(draw::Canvas& c, double start, double end, draw::Color color, double rad1, double rad2,
-             draw::Point center) {
-  c.fillPath(ringSegment(center, rad1, rad2, start, end), color, draw::FillRule::EvenOdd);
+void drawArc(drawing::Canvas& c, double start, double end, drawing::Color color, double rad1,
+             double rad2, drawing::Point center) {
+  c.fillPath(ringSegment(center, rad1, rad2, start, end), color, drawing::FillRule::EvenOdd);
 }
 
 }  // namespace lad::charts

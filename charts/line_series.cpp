@@ -24,11 +24,11 @@ double lineWidth(int type, double z) {
 }
 
 struct Placed {
-  draw::Point at;
+  drawing::Point at;
   std::string label, subtext;
 };
 
-std::vector<Placed> place(const List& points, const AxisRange& range, draw::Rect plot) {
+std::vector<Placed> place(const List& points, const AxisRange& range, drawing::Rect plot) {
   std::vector<Placed> out;
   for (const auto& p : points)
     out.push_back({valueToPoint(range, plot, p["x"].doubleValue(), p["y"].doubleValue()),
@@ -36,9 +36,9 @@ std::vector<Placed> place(const List& points, const AxisRange& range, draw::Rect
   return out;
 }
 
-void strokeCurve(draw::Canvas& c, const std::vector<Placed>& pts, int type,
+void strokeCurve(drawing::Canvas& c, const std::vector<Placed>& pts, int type,
                  const SeriesStyle& style) {
-  draw::Path path;
+  drawing::Path path;
   path.moveTo(pts.front().at);
   for (std::size_t i = 1; i < pts.size(); ++i) path.lineTo(pts[i].at);
   const std::vector<double> dash = type == 8 ? std::vector<double>{5, 5} : std::vector<double>{};
@@ -47,10 +47,10 @@ void strokeCurve(draw::Canvas& c, const std::vector<Placed>& pts, int type,
 
 // The region between the curve and the foot (types 3 and 7) or the top (type 4), with two units
 // of room at both ends, filled with a fading gradient of the series colour.
-void fillUnderCurve(draw::Canvas& c, const std::vector<Placed>& pts, int type, draw::Rect plot,
-                    draw::Color color) {
+void fillUnderCurve(drawing::Canvas& c, const std::vector<Placed>& pts, int type,
+                    drawing::Rect plot, drawing::Color color) {
   const double edge = type == 4 ? plot.y : plot.bottom();
-  draw::Path region;
+  drawing::Path region;
   region.moveTo({pts.front().at.x - 2, edge}).lineTo({pts.front().at.x - 2, pts.front().at.y});
   for (const auto& p : pts) region.lineTo(p.at);
   region.lineTo({pts.back().at.x + 2, pts.back().at.y}).lineTo({pts.back().at.x + 2, edge});
@@ -64,11 +64,11 @@ void fillUnderCurve(draw::Canvas& c, const std::vector<Placed>& pts, int type, d
   }
 }
 
-void fillCircle(draw::Canvas& c, draw::Point at, double r, draw::Color color) {
+void fillCircle(drawing::Canvas& c, drawing::Point at, double r, drawing::Color color) {
   c.fillEllipse({at.x - r, at.y - r, 2 * r, 2 * r}, color);
 }
 
-void drawMark(draw::Canvas& c, const Placed& p, int type, const SeriesStyle& style) {
+void drawMark(drawing::Canvas& c, const Placed& p, int type, const SeriesStyle& style) {
   const double z = style.zoom;
   const bool big = type == 5;
   if (p.label.empty()) {
@@ -80,15 +80,15 @@ void drawMark(draw::Canvas& c, const Placed& p, int type, const SeriesStyle& sty
     fillCircle(c, p.at, radius, style.fore);
     fillCircle(c, p.at, (big ? 2 : 1) * z, style.back);
   }
-  const draw::Font font{8 * z, true};
-  const draw::Color color = style.text.withAlpha(0.7);
+  const drawing::Font font{8 * z, true};
+  const drawing::Color color = style.text.withAlpha(0.7);
   drawCentredText(c, p.label, font, color, p.at.x, p.at.y - radius - 10 * z);
   if (!p.subtext.empty()) drawCentredText(c, p.subtext, font, color, p.at.x, p.at.y + radius);
 }
 
 }  // namespace
 
-void drawNewLine(draw::Canvas& c, const List& points, const AxisRange& range, draw::Rect plot,
+void drawNewLine(drawing::Canvas& c, const List& points, const AxisRange& range, drawing::Rect plot,
                  const SeriesStyle& style) {
   if (points.empty()) return;
   const auto pts = place(points, range, plot);

@@ -8,11 +8,11 @@ namespace lad::charts {
 
 struct SeriesStyle {
   int type = 3;  // 1 to 8; other values paint as the plain line of type 6
-  draw::Color fore, back, text;
+  drawing::Color fore, back, text;
   double zoom = 1;
 };
 
-void drawNewLine(draw::Canvas& c, const List& points, const AxisRange& range, draw::Rect plot,
+void drawNewLine(drawing::Canvas& c, const List& points, const AxisRange& range, drawing::Rect plot,
                  const SeriesStyle& style);
 
 }  // namespace lad::charts

@@ -16,7 +16,7 @@ int seriesType(const Map& dic, const std::string& name) {
   return type ? static_cast<int>(type->intValue()) : 3;
 }
 
-draw::Color seriesColor(const Map& dic, int n) {
+drawing::Color seriesColor(const Map& dic, int n) {
   return colorFrom(n == 1 ? dic["mainColor"] : dic["Graph" + std::to_string(n) + "Color"]);
 }
 
@@ -38,7 +38,7 @@ void drawSeries(const GraphContext& g) {
 
 }  // namespace
 
-void drawNewGraph(draw::Canvas& c, const Map& dic, draw::Rect r, double s,
+void drawNewGraph(drawing::Canvas& c, const Map& dic, drawing::Rect r, double s,
                   const std::filesystem::path& imagesDir) {
   c.clear(r);
   if (dic.contains("backgroundColor")) c.fillRect(r, colorFrom(dic["backgroundColor"]));

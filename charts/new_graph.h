@@ -9,7 +9,7 @@
 namespace lad::charts {
 
 // s is the device scale; pictures are read from imagesDir.
-void drawNewGraph(draw::Canvas& c, const Map& dic, draw::Rect r, double s,
+void drawNewGraph(drawing::Canvas& c, const Map& dic, drawing::Rect r, double s,
                   const std::filesystem::path& imagesDir);
 
 }  // namespace lad::charts

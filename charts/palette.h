@@ -8,14 +8,14 @@
 namespace lad::charts {
 
 // Colour n of the sequence; n outside 2 to 7 gives the first colour.
-draw::Color nextColor(int n);
+drawing::Color nextColor(int n);
 
-Value colorValue(draw::Color c);
+Value colorValue(drawing::Color c);
 // A value that is not such a list reads as transparent, so an unset colour paints nothing.
-draw::Color colorFrom(const Value& v);
+drawing::Color colorFrom(const Value& v);
 
 // The line, grid and text colours of a chart drawn over the theme's background: dark lines and
 // black text with the theme's dark icons (light backgrounds), light ones without.
-void setThemeColors(Map& dic, bool darkIcons, draw::Color gridOnLight);
+void setThemeColors(Map& dic, bool darkIcons, drawing::Color gridOnLight);
 
 }  // namespace lad::charts

@@ -7,16 +7,16 @@ AxisRange AxisRange::of(const Map& dic) {
           dic["yAxisMin"].doubleValue(), dic["yAxisMax"].doubleValue()};
 }
 
-draw::Point valueToPoint(const AxisRange& range, draw::Rect plot, double vx, double vy) {
+drawing::Point valueToPoint(const AxisRange& range, drawing::Rect plot, double vx, double vy) {
   return {plot.x + (vx - range.minX) * plot.w / (range.maxX - range.minX),
           plot.y + plot.h - (vy - range.minY) * plot.h / (range.maxY - range.minY)};
 }
 
-draw::Rect borderedPlot(draw::Rect frame, double s) {
+drawing::Rect borderedPlot(drawing::Rect frame, double s) {
   return {frame.x + 15 * s, frame.y + 18 * s, frame.w - 30 * s, frame.h - 38 * s};
 }
 
-draw::Point getPoint(const Map& dic, draw::Rect frame, double s, double vx, double vy) {
+drawing::Point getPoint(const Map& dic, drawing::Rect frame, double s, double vx, double vy) {
   return valueToPoint(AxisRange::of(dic), borderedPlot(frame, s), vx, vy);
 }
 

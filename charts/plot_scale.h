@@ -11,14 +11,14 @@ struct AxisRange {
   static AxisRange of(const Map& dic);
 };
 
-draw::Point valueToPoint(const AxisRange& range, draw::Rect plot, double vx, double vy);
+drawing::Point valueToPoint(const AxisRange& range, drawing::Rect plot, double vx, double vy);
 
 // The plot of a chart drawn in frame with the bordered inset, whatever `isBorders` says: where
 // a caller puts its own views over a chart.
-draw::Point getPoint(const Map& dic, draw::Rect frame, double s, double vx, double vy);
+drawing::Point getPoint(const Map& dic, drawing::Rect frame, double s, double vx, double vy);
 
 // The plot rectangle inside the frame: inset by 15s at the sides, 18s at the top and 20s at the
 // foot.
-draw::Rect borderedPlot(draw::Rect frame, double s);
+drawing::Rect borderedPlot(drawing::Rect frame, double s);
 
 }  // namespace lad::charts

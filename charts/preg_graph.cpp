@@ -4,7 +4,7 @@
 
 namespace lad::charts {
 
-double drawWomanChart(draw::Canvas& c, draw::Rect r, const PregGraphStyle& style) {
+double drawWomanChart(drawing::Canvas& c, drawing::Rect r, const PregGraphStyle& style) {
   const double wheel = drawPregWheel(c, r, style);
   return wheel + drawPregList(c, {r.x, r.y + wheel, r.w, r.h - wheel}, style);
 }

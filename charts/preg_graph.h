@@ -20,8 +20,8 @@ struct PregListRow {
   enum class Kind { Header, Week, Type };
   Kind kind = Kind::Header;
   std::string_view text;
-  int test = 0;       // the week of a week row, the type of a type row
-  draw::Color color;  // the dot of a type row
+  int test = 0;          // the week of a week row, the type of a type row
+  drawing::Color color;  // the dot of a type row
 };
 
 // The rows in the order shown.
@@ -33,12 +33,12 @@ struct PregGraphStyle {
   const Translator& translator;
   int curweek = 0;  // the present week of the pregnancy
   double s = 1;     // the screen's scale
-  draw::Color textColor;
+  drawing::Color textColor;
   bool darkHeader = true;  // the theme's header is dark
   std::filesystem::path imagesDir;
 };
 
 // Paints the wheel and the list into the width of r from its top; returns the height used.
-double drawWomanChart(draw::Canvas& c, draw::Rect r, const PregGraphStyle& style);
+double drawWomanChart(drawing::Canvas& c, drawing::Rect r, const PregGraphStyle& style);
 
 }  // namespace lad::charts

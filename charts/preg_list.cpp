@@ -25,13 +25,13 @@ constexpr double kCapSide = 22;
 struct PlacedRow {
   const PregListRow& row;
   std::string text;
-  draw::Font font;
-  draw::Rect textBox;
-  draw::Point mark;  // the centre of the row's mark
+  drawing::Font font;
+  drawing::Rect textBox;
+  drawing::Point mark;  // the centre of the row's mark
 };
 
 // Places the rows from top down; returns the y below the last.
-double placeRows(std::vector<PlacedRow>& placed, draw::Rect r, double top,
+double placeRows(std::vector<PlacedRow>& placed, drawing::Rect r, double top,
                  const PregGraphStyle& style) {
   const double s = style.s;
   const double markHeight = 2 * (kWeekDotRadius + kNowRingGap + kNowRingWidth / 2) * s;
@@ -39,11 +39,11 @@ double placeRows(std::vector<PlacedRow>& placed, draw::Rect r, double top,
   for (const auto& row : pregListRows()) {
     const bool header = row.kind == Kind::Header;
     if (header && !placed.empty()) y += kHeaderGap * s;
-    const draw::Font font{(header ? 17 : 12) * s, false};
+    const drawing::Font font{(header ? 17 : 12) * s, false};
     const double x = r.x + (header ? kSide : kTextX) * s;
     const double width = r.right() - kSide * s - x;
     std::string text = style.translator.translate(row.text);
-    const draw::Size size = draw::measureText(text, font, width);
+    const drawing::Size size = drawing::measureText(text, font, width);
     const double height = header ? size.h : std::max(size.h, markHeight);
     placed.push_back({row,
                       std::move(text),
@@ -55,7 +55,7 @@ double placeRows(std::vector<PlacedRow>& placed, draw::Rect r, double top,
   return y;
 }
 
-void drawMark(draw::Canvas& c, const PlacedRow& p, const PregGraphStyle& style) {
+void drawMark(drawing::Canvas& c, const PlacedRow& p, const PregGraphStyle& style) {
   const double s = style.s;
   if (p.row.kind == Kind::Week) {
     drawWeekDot(c, p.mark, p.row.test, p.row.test > style.curweek, s);
@@ -67,24 +67,25 @@ void drawMark(draw::Canvas& c, const PlacedRow& p, const PregGraphStyle& style) 
   if (rowHolds(p.row, style.curweek)) drawNowRing(c, p.mark, r, s);
 }
 
-void drawRow(draw::Canvas& c, const PlacedRow& p, const PregGraphStyle& style) {
+void drawRow(drawing::Canvas& c, const PlacedRow& p, const PregGraphStyle& style) {
   double alpha = 0.8;
   if (p.row.kind != Kind::Header) {
     drawMark(c, p, style);
     alpha = rowHolds(p.row, style.curweek) ? 1 : 0.6;
   }
-  c.drawText(p.text, p.textBox, p.font, style.textColor.withAlpha(alpha), draw::Align::Left);
+  c.drawText(p.text, p.textBox, p.font, style.textColor.withAlpha(alpha), drawing::Align::Left);
 }
 
 }  // namespace
 
-double drawPregList(draw::Canvas& c, draw::Rect r, const PregGraphStyle& style) {
+double drawPregList(drawing::Canvas& c, drawing::Rect r, const PregGraphStyle& style) {
   const double s = style.s;
   const double bandTop = r.y + kBandGap * s;
   std::vector<PlacedRow> placed;
   const double capTop = placeRows(placed, r, bandTop + kPad * s, style);
   const double bandBottom = capTop + (kCapSide + kPad) * s;
-  const draw::Color band = style.darkHeader ? draw::Color{0, 0, 0, 0.1} : draw::Color{1, 1, 1, 0.3};
+  const drawing::Color band =
+      style.darkHeader ? drawing::Color{0, 0, 0, 0.1} : drawing::Color{1, 1, 1, 0.3};
   c.fillRect({r.x, bandTop, r.w, bandBottom - bandTop}, band);
   for (const auto& p : placed) drawRow(c, p, style);
   const double cap = kCapSide * s;

@@ -5,14 +5,14 @@
 
 namespace lad::charts {
 
-void drawWeekDot(draw::Canvas& c, draw::Point centre, int week, bool toCome, double s) {
+void drawWeekDot(drawing::Canvas& c, drawing::Point centre, int week, bool toCome, double s) {
   const double r = kWeekDotRadius * s;
   c.fillEllipse({centre.x - r, centre.y - r, 2 * r, 2 * r}, {0, 0.6, 0, toCome ? 0.4 : 1});
   drawTextAround(c, std::to_string(week), {12 * s, false}, {1, 1, 1, 1}, centre);
 }
 
-void drawNowRing(draw::Canvas& c, draw::Point centre, double markRadius, double s) {
-  c.strokePath(draw::Path().addCircle(centre, markRadius + kNowRingGap * s), {1, 0.5, 0, 1},
+void drawNowRing(drawing::Canvas& c, drawing::Point centre, double markRadius, double s) {
+  c.strokePath(drawing::Path().addCircle(centre, markRadius + kNowRingGap * s), {1, 0.5, 0, 1},
                kNowRingWidth * s);
 }
 

@@ -12,13 +12,13 @@ inline constexpr double kNowRingGap = 2.5;
 inline constexpr double kNowRingWidth = 2;
 
 // The green dot of a week with its number in white, paler while the week is still to come.
-void drawWeekDot(draw::Canvas& c, draw::Point centre, int week, bool toCome, double s);
+void drawWeekDot(drawing::Canvas& c, drawing::Point centre, int week, bool toCome, double s);
 // The orange ring that marks the present week, around a mark of that radius.
-void drawNowRing(draw::Canvas& c, draw::Point centre, double markRadius, double s);
+void drawNowRing(drawing::Canvas& c, drawing::Point centre, double markRadius, double s);
 
 // The wheel with its week numbers in the width of r from its top; returns its height.
-double drawPregWheel(draw::Canvas& c, draw::Rect r, const PregGraphStyle& style);
+double drawPregWheel(drawing::Canvas& c, drawing::Rect r, const PregGraphStyle& style);
 // The list on its band in the width of r from its top, closed by the cap; returns its height.
-double drawPregList(draw::Canvas& c, draw::Rect r, const PregGraphStyle& style);
+double drawPregList(drawing::Canvas& c, drawing::Rect r, const PregGraphStyle& style);
 
 }  // namespace lad::charts

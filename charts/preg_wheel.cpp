@@ -16,7 +16,7 @@ using Kind = PregListRow::Kind;
 constexpr int kWeeks = 40;
 constexpr double kSector = 2 * std::numbers::pi / kWeeks;
 constexpr double kFutureAlpha = 0.35;
-constexpr draw::Color kEmpty{0.9, 0.9, 0.9, 1};
+constexpr drawing::Color kEmpty{0.9, 0.9, 0.9, 1};
 constexpr double kInnerShare = 0.3;  // the white ring's inner radius against its outer one
 // Lengths in units of the scale.
 constexpr double kMaxRadius = 150;  // of the white ring at most
@@ -26,9 +26,9 @@ constexpr double kRingPad = 3;      // white outside and inside the coloured rin
 constexpr double kArcGap = 1.5;     // white between arcs side by side and ring by ring
 
 struct Wheel {
-  draw::Canvas& c;
+  drawing::Canvas& c;
   const PregGraphStyle& style;
-  draw::Point centre;
+  drawing::Point centre;
   double outer = 0, inner = 0;
 };
 
@@ -37,7 +37,7 @@ double weekStart(int week) {
   return -std::numbers::pi / 2 + (week - 1) * kSector;
 }
 
-draw::Point around(draw::Point centre, double radius, double angle) {
+drawing::Point around(drawing::Point centre, double radius, double angle) {
   return {centre.x + radius * std::cos(angle), centre.y + radius * std::sin(angle)};
 }
 
@@ -49,9 +49,10 @@ bool hasWeekRow(int week) {
 
 void drawWhiteRing(const Wheel& w) {
   const double s = w.style.s;
-  const draw::Path ring = draw::Path().addCircle(w.centre, w.outer).addCircle(w.centre, w.inner);
-  w.c.fillPathShadow(ring, draw::FillRule::EvenOdd, {{0, 0, 0, 1.0 / 3}, {3 * s, 3 * s}, 5 * s});
-  w.c.fillPath(ring, {1, 1, 1, 1}, draw::FillRule::EvenOdd);
+  const drawing::Path ring =
+      drawing::Path().addCircle(w.centre, w.outer).addCircle(w.centre, w.inner);
+  w.c.fillPathShadow(ring, drawing::FillRule::EvenOdd, {{0, 0, 0, 1.0 / 3}, {3 * s, 3 * s}, 5 * s});
+  w.c.fillPath(ring, {1, 1, 1, 1}, drawing::FillRule::EvenOdd);
 }
 
 // One arc per type row and week, the rings in the order of the list from the outside in.
@@ -67,7 +68,7 @@ void drawSectors(const Wheel& w) {
       if (row.kind != Kind::Type) continue;
       const double inner = outer - step + kArcGap * s;
       const double gap = kArcGap * s / ((outer + inner) / 2);
-      const draw::Color color = isWomanTypeInWeek(week, row.test) ? row.color : kEmpty;
+      const drawing::Color color = isWomanTypeInWeek(week, row.test) ? row.color : kEmpty;
       drawArc(w.c, weekStart(week) + gap / 2, weekStart(week) + kSector - gap / 2,
               color.withAlpha(alpha), outer, inner, w.centre);
       outer -= step;
@@ -78,7 +79,8 @@ void drawSectors(const Wheel& w) {
 void drawWeekNumbers(const Wheel& w) {
   const double s = w.style.s;
   for (int week = 1; week <= kWeeks; ++week) {
-    const draw::Point p = around(w.centre, w.outer + kNumberGap * s, weekStart(week) + kSector / 2);
+    const drawing::Point p =
+        around(w.centre, w.outer + kNumberGap * s, weekStart(week) + kSector / 2);
     const bool toCome = week > w.style.curweek;
     if (hasWeekRow(week))
       drawWeekDot(w.c, p, week, toCome, s);
@@ -91,7 +93,7 @@ void drawWeekNumbers(const Wheel& w) {
 
 }  // namespace
 
-double drawPregWheel(draw::Canvas& c, draw::Rect r, const PregGraphStyle& style) {
+double drawPregWheel(drawing::Canvas& c, drawing::Rect r, const PregGraphStyle& style) {
   const double s = style.s;
   // From the white ring to the outside of the present week's ring.
   const double rim = (kNumberGap + kWeekDotRadius + kNowRingGap + kNowRingWidth / 2 + kMargin) * s;

@@ -8,7 +8,7 @@ constexpr double kBarWidth = 320, kBarHeight = 11;
 
 }  // namespace
 
-void drawProgressGraph(draw::Canvas& c, draw::Point origin, int days, double s) {
+void drawProgressGraph(drawing::Canvas& c, drawing::Point origin, int days, double s) {
   c.fillRect({origin.x, origin.y + 2 * s, kBarWidth * s, kBarHeight * s}, {1, 0.5, 0, 1});
   const double left = days * 6.0 / 7 + 1;
   c.fillRect({origin.x + left * s, origin.y + 13 * s, kBarWidth * s, kBarHeight * s},

@@ -7,9 +7,9 @@
 namespace lad::charts {
 
 // The frame of the bar, in units of the screen's scale.
-inline constexpr draw::Size kProgressFrame{300, 25};
+inline constexpr drawing::Size kProgressFrame{300, 25};
 
 // Paints the bar for the day count in the frame at the origin, scaled by s.
-void drawProgressGraph(draw::Canvas& c, draw::Point origin, int days, double s);
+void drawProgressGraph(drawing::Canvas& c, drawing::Point origin, int days, double s);
 
 }  // namespace lad::charts

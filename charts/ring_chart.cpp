@@ -15,8 +15,8 @@ namespace {
 
 constexpr double kTwoPi = 2 * std::numbers::pi;
 
-void drawShareLabel(draw::Canvas& c, double share, double mid, draw::Point centre, double outer,
-                    double z) {
+void drawShareLabel(drawing::Canvas& c, double share, double mid, drawing::Point centre,
+                    double outer, double z) {
   if (share * 100 < 3) return;
   char text[16];
   std::snprintf(text, sizeof text, "%.0f%%", share * 100);
@@ -27,14 +27,14 @@ void drawShareLabel(draw::Canvas& c, double share, double mid, draw::Point centr
 
 }  // namespace
 
-void drawNewChart(draw::Canvas& c, const List& points, draw::Rect r, double zoom) {
+void drawNewChart(drawing::Canvas& c, const List& points, drawing::Rect r, double zoom) {
   double total = 0;
   for (const auto& p : points) total += p["x"].doubleValue();
-  const draw::Point centre = r.centre();
+  const drawing::Point centre = r.centre();
   const double outer = (std::min(r.w, r.h) - 20 * zoom) / 2;
   if (outer <= 0) return;
   const double inner = outer / 3;
-  const draw::Point shadow{centre.x + 2 * zoom, centre.y + 2 * zoom};
+  const drawing::Point shadow{centre.x + 2 * zoom, centre.y + 2 * zoom};
   drawArc(c, 0, kTwoPi, {0, 0, 0, 0.2}, outer, inner, shadow);
   if (total <= 0) return;
   double angle = 0;

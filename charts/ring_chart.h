@@ -7,6 +7,6 @@
 namespace lad::charts {
 
 // The values are the points' x; slice n takes colour n of the sequence.
-void drawNewChart(draw::Canvas& c, const List& points, draw::Rect r, double zoom);
+void drawNewChart(drawing::Canvas& c, const List& points, drawing::Rect r, double zoom);
 
 }  // namespace lad::charts

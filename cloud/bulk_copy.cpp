@@ -12,7 +12,7 @@
 #include "store/store.h"
 #include "store/tables.h"
 
-namespace lad {
+namespace lad::cloud {
 
 namespace {
 
@@ -166,4 +166,4 @@ void cloudOptimize(const Store& store, const std::vector<std::string>& keep) {
   for (const auto& file : doomed) std::filesystem::remove(file, error);
 }
 
-}  // namespace lad
+}  // namespace lad::cloud

@@ -13,8 +13,10 @@
 #include "core/value.h"
 
 namespace lad {
-
 class Store;
+}  // namespace lad
+
+namespace lad::cloud {
 
 class BulkCopy {
  public:
@@ -55,4 +57,4 @@ class BulkCopy {
 // format that this program made. Other files, and hidden ones, are left alone.
 void cloudOptimize(const Store& store, const std::vector<std::string>& keep);
 
-}  // namespace lad
+}  // namespace lad::cloud

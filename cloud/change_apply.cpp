@@ -13,7 +13,7 @@
 #include "store/setup_data.h"
 #include "store/store.h"
 
-namespace lad {
+namespace lad::cloud {
 
 namespace {
 
@@ -35,7 +35,7 @@ void applyContent(Store& store, const Map& root) {
   if (root.contains("data"))
     saveNoteData(store, kNoteFromCloud, listOf(root, "data"), listOf(root, "const"), gid, *day);
   if (root.contains("kormdata")) {
-    saveKormForDate(store, listOf(root, "kormdata"), *day, gid);
+    health::saveKormForDate(store, listOf(root, "kormdata"), *day, gid);
     correctConstList(store, listOf(root, "const"));
   }
 }
@@ -63,4 +63,4 @@ ChangeOutcome applyChangeFile(Store& store, const std::filesystem::path& file,
   return outcome;
 }
 
-}  // namespace lad
+}  // namespace lad::cloud

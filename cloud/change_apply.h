@@ -11,8 +11,10 @@
 #include "core/value.h"
 
 namespace lad {
-
 class Store;
+}  // namespace lad
+
+namespace lad::cloud {
 
 struct ChangeOutcome {
   bool applied = false;
@@ -26,4 +28,4 @@ struct ChangeOutcome {
 ChangeOutcome applyChangeFile(Store& store, const std::filesystem::path& file,
                               std::optional<Date> receipt);
 
-}  // namespace lad
+}  // namespace lad::cloud

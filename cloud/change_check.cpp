@@ -5,7 +5,7 @@
 #include "cloud/change_images.h"
 #include "core/context.h"
 
-namespace lad {
+namespace lad::cloud {
 
 namespace {
 
@@ -111,4 +111,4 @@ std::string changeProblem(const Context& context, const Value& root) {
   return problem.empty() ? dayProblem(context, *map) : problem;
 }
 
-}  // namespace lad
+}  // namespace lad::cloud

@@ -10,7 +10,7 @@
 #include "store/store.h"
 #include "store/values/today_note.h"
 
-namespace lad {
+namespace lad::cloud {
 
 namespace {
 
@@ -42,7 +42,7 @@ List dayRecords(Store& store, Date day, const std::string& gid, const List& list
 
 List feedingRows(Store& store, Date day, const std::string& gid) {
   List rows;
-  for (const Value& feeding : loadKormForDate(store, day, gid)) {
+  for (const Value& feeding : health::loadKormForDate(store, day, gid)) {
     Map row;
     for (const char* key : {"kodates", "kotype", "kovalue", "kosum"}) row.set(key, feeding[key]);
     rows.push_back(Value(std::move(row)));
@@ -93,4 +93,4 @@ std::optional<std::string> dataToCloud(Store& store, ChangeKind kind, std::optio
   return name;
 }
 
-}  // namespace lad
+}  // namespace lad::cloud

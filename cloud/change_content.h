@@ -10,8 +10,10 @@
 #include "core/value.h"
 
 namespace lad {
-
 class Store;
+}  // namespace lad
+
+namespace lad::cloud {
 
 // "gid", "setup" and "images" (the profile's portrait, and a child's document files).
 Map profileChange(Store& store, const std::string& gid);
@@ -27,4 +29,4 @@ Map feedingChange(Store& store, Date day, const std::string& gid);
 std::optional<std::string> dataToCloud(Store& store, ChangeKind kind, std::optional<Date> day,
                                        const std::string& gid, std::string* error);
 
-}  // namespace lad
+}  // namespace lad::cloud

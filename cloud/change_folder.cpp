@@ -8,7 +8,7 @@
 #include "core/context.h"
 #include "store/folders.h"
 
-namespace lad {
+namespace lad::cloud {
 
 std::filesystem::path cloudFolderOf(const Context& context) {
   return *getSystemFolder(context, "Cloud");
@@ -46,4 +46,4 @@ bool writeChangeFile(Context& context, const std::string& name, const Map& root,
   return true;
 }
 
-}  // namespace lad
+}  // namespace lad::cloud

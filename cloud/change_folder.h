@@ -9,8 +9,10 @@
 #include "core/value.h"
 
 namespace lad {
-
 class Context;
+}  // namespace lad
+
+namespace lad::cloud {
 
 // Where change files go: the cloud folder, or the temporary folder when none is set or it cannot
 // be made, so that writers go on working and their files simply never travel.
@@ -32,4 +34,4 @@ void setChangeReceipt(Context& context, const std::string& name, Date seen);
 bool writeChangeFile(Context& context, const std::string& name, const Map& root,
                      std::string* error);
 
-}  // namespace lad
+}  // namespace lad::cloud

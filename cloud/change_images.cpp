@@ -9,7 +9,7 @@
 #include "core/json_text.h"
 #include "store/day_photo.h"
 
-namespace lad {
+namespace lad::cloud {
 
 namespace {
 
@@ -68,4 +68,4 @@ List dayImages(const Context& context, Date day, const std::string& gid, const L
   return images;
 }
 
-}  // namespace lad
+}  // namespace lad::cloud

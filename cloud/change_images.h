@@ -7,8 +7,10 @@
 #include "core/value.h"
 
 namespace lad {
-
 class Context;
+}  // namespace lad
+
+namespace lad::cloud {
 
 // A profile's portrait, and for a child the files of its documents.
 List profileImages(const Context& context, const Map& setup, const std::string& gid);
@@ -18,4 +20,4 @@ List dayImages(const Context& context, Date day, const std::string& gid, const L
 // Whether a name from another installation is a bare file name that cannot leave its folder.
 bool isPlainFileName(std::string_view name);
 
-}  // namespace lad
+}  // namespace lad::cloud

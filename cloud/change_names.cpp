@@ -4,7 +4,7 @@
 
 #include "core/context.h"
 
-namespace lad {
+namespace lad::cloud {
 
 namespace {
 
@@ -48,4 +48,4 @@ bool isReservedName(std::string_view name) {
   return name.ends_with(".del");
 }
 
-}  // namespace lad
+}  // namespace lad::cloud

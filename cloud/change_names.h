@@ -8,8 +8,10 @@
 #include "core/value.h"
 
 namespace lad {
-
 class Context;
+}  // namespace lad
+
+namespace lad::cloud {
 
 // The kinds of change file: the number after "CLOUD-".
 enum ChangeKind { kChangeProfile = 1, kChangeDay = 2, kChangeTicks = 3, kChangeFeedings = 4 };
@@ -31,4 +33,4 @@ bool isTicksFileName(std::string_view name);
 // Names ending ".del" are reserved: the scan passes them over and never takes a receipt.
 bool isReservedName(std::string_view name);
 
-}  // namespace lad
+}  // namespace lad::cloud

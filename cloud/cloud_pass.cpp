@@ -4,7 +4,7 @@
 #include "core/context.h"
 #include "store/store.h"
 
-namespace lad {
+namespace lad::cloud {
 
 namespace {
 
@@ -93,4 +93,4 @@ void chooseCloudSync(Context& context) {
   context.settings().synchronize();
 }
 
-}  // namespace lad
+}  // namespace lad::cloud

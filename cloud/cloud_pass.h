@@ -11,8 +11,10 @@
 #include "cloud/cloud_scan.h"
 
 namespace lad {
-
 class Store;
+}  // namespace lad
+
+namespace lad::cloud {
 
 // The modes of the cloud setting that this program acts on.
 enum CloudMode { kCloudOff = 1, kCloudImport = 3, kCloudSync = 11, kCloudRemote = 12 };
@@ -47,4 +49,4 @@ PassOutcome cloudPass(Store& store, const PassOptions& options = {});
 // Sync mode was chosen: the setting is stored and a full pass is owed.
 void chooseCloudSync(Context& context);
 
-}  // namespace lad
+}  // namespace lad::cloud

@@ -10,7 +10,7 @@
 #include "store/folders.h"
 #include "store/store.h"
 
-namespace lad {
+namespace lad::cloud {
 
 namespace {
 
@@ -99,4 +99,4 @@ ScanReport scanCloudFolder(Store& store) {
   return applyPending(store, listCloudFolder(store.context(), {}).pending);
 }
 
-}  // namespace lad
+}  // namespace lad::cloud

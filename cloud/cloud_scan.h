@@ -11,9 +11,11 @@
 #include "core/value.h"
 
 namespace lad {
-
 class Context;
 class Store;
+}  // namespace lad
+
+namespace lad::cloud {
 
 struct PendingChange {
   std::string name;
@@ -61,4 +63,4 @@ ScanReport applyPending(Store& store, const std::vector<PendingChange>& pending,
 // sync tool is writing to.
 ScanReport scanCloudFolder(Store& store);
 
-}  // namespace lad
+}  // namespace lad::cloud

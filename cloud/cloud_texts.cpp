@@ -4,7 +4,7 @@
 #include "cloud/cloud_pass.h"
 #include "core/context.h"
 
-namespace lad {
+namespace lad::cloud {
 
 namespace {
 
@@ -58,4 +58,4 @@ std::string cloudExplanation(const Context& context, int choice, bool folderUsab
   }
 }
 
-}  // namespace lad
+}  // namespace lad::cloud

@@ -8,7 +8,7 @@
 #include "core/context.h"
 #include "store/store.h"
 
-namespace lad {
+namespace lad::cloud {
 
 namespace {
 
@@ -48,4 +48,4 @@ void cloudTickChanged(Store& store, bool ticked, const std::string& tagguid, int
   report(store, name.has_value(), error);
 }
 
-}  // namespace lad
+}  // namespace lad::cloud

@@ -8,8 +8,10 @@
 #include "core/value.h"
 
 namespace lad {
-
 class Store;
+}  // namespace lad
+
+namespace lad::cloud {
 
 // A day saved, or deleted: the whole day is written again (a deleted one with no records).
 void cloudDayChanged(Store& store, Date day, const std::string& gid);
@@ -19,4 +21,4 @@ void cloudProfileChanged(Store& store, const std::string& gid);
 void cloudTickChanged(Store& store, bool ticked, const std::string& tagguid, int seltypeid,
                       const std::string& gid);
 
-}  // namespace lad
+}  // namespace lad::cloud

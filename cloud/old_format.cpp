@@ -13,7 +13,7 @@
 #include "store/folders.h"
 #include "store/store.h"
 
-namespace lad {
+namespace lad::cloud {
 
 namespace {
 
@@ -59,4 +59,4 @@ bool importOldCloudFile(Store& store, const std::filesystem::path& file, std::st
   return true;
 }
 
-}  // namespace lad
+}  // namespace lad::cloud

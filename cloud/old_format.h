@@ -6,8 +6,10 @@
 #include <string>
 
 namespace lad {
-
 class Store;
+}  // namespace lad
+
+namespace lad::cloud {
 
 // This version's name for a file of the old format: databases keep theirs, a portrait
 // "child<N>.<ext>" becomes "child-<guid>.jpg", and the child diary renames its numbered files.
@@ -17,4 +19,4 @@ std::string oldCloudFileName(int appid, std::string_view name);
 // copy is then taken in by the launch steps. False with a reason when the copy failed.
 bool importOldCloudFile(Store& store, const std::filesystem::path& file, std::string* error);
 
-}  // namespace lad
+}  // namespace lad::cloud

@@ -8,7 +8,7 @@
 
 #include "cloud/property_list_shape.h"
 
-namespace lad {
+namespace lad::cloud {
 
 namespace {
 
@@ -211,4 +211,4 @@ std::optional<Value> fromPropertyList(std::span<const std::uint8_t> bytes, std::
   return fromNode(root.get(), error);
 }
 
-}  // namespace lad
+}  // namespace lad::cloud

@@ -9,7 +9,7 @@
 
 #include "core/value.h"
 
-namespace lad {
+namespace lad::cloud {
 
 // The value as a binary property list. Nulls have no form there: a map or list leaves them out,
 // and a null alone comes out as an empty map.
@@ -19,4 +19,4 @@ Bytes toPropertyList(const Value& value);
 // Value (keys, uids) or a nesting deeper than the diary ever writes gives nullopt and a reason.
 std::optional<Value> fromPropertyList(std::span<const std::uint8_t> bytes, std::string* error);
 
-}  // namespace lad
+}  // namespace lad::cloud

@@ -4,7 +4,7 @@
 #include <optional>
 #include <vector>
 
-namespace lad {
+namespace lad::cloud {
 
 namespace {
 
@@ -142,4 +142,4 @@ bool propertyListWithin(std::span<const std::uint8_t> bytes, const PropertyListL
   return false;
 }
 
-}  // namespace lad
+}  // namespace lad::cloud

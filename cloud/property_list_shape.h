@@ -9,7 +9,7 @@
 #include <span>
 #include <string>
 
-namespace lad {
+namespace lad::cloud {
 
 struct PropertyListLimits {
   int deepest = 32;              // containers inside containers
@@ -21,4 +21,4 @@ struct PropertyListLimits {
 bool propertyListWithin(std::span<const std::uint8_t> bytes, const PropertyListLimits& limits,
                         std::string* error);
 
-}  // namespace lad
+}  // namespace lad::cloud

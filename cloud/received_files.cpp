@@ -9,7 +9,7 @@
 #include "core/context.h"
 #include "platform/images.h"
 
-namespace lad {
+namespace lad::cloud {
 
 namespace {
 
@@ -31,10 +31,10 @@ bool writeBytes(const std::filesystem::path& file, const Bytes& bytes, std::stri
 }
 
 // The small copy: the longer side shrunk to 160; a smaller photo is kept at its size.
-Image smallCopy(const Image& photo) {
+platform::Image smallCopy(const platform::Image& photo) {
   const int longer = std::max(photo.width, photo.height);
   if (longer <= kSmallSide) return photo;
-  return scaledToFit(photo, kSmallSide);
+  return platform::scaledToFit(photo, kSmallSide);
 }
 
 void writeOne(const Context& context, const Map& entry, std::vector<std::string>& notes) {
@@ -42,17 +42,17 @@ void writeOne(const Context& context, const Map& entry, std::vector<std::string>
   const auto folder = folderOfType(context, type);
   if (!folder) return notes.push_back("a file of the unknown kind \"" + type + "\" is left out");
   const Bytes& bytes = *entry["data"].asBytes();
-  std::optional<Image> picture;
+  std::optional<platform::Image> picture;
   if (type == "photo") {
     std::string why;
-    picture = decodeImage(bytes, &why);
+    picture = platform::decodeImage(bytes, &why);
     if (!picture) return notes.push_back("the photo " + name + " is not a picture: " + why);
   }
   std::string error;
   if (!writeBytes(*folder / name, bytes, &error)) return notes.push_back(error);
   const Value& small = entry["names"];
   if (!picture || !small.asText()) return;
-  const Bytes jpeg = encodeJpeg(smallCopy(*picture), kBestQuality);
+  const Bytes jpeg = platform::encodeJpeg(smallCopy(*picture), kBestQuality);
   if (!writeBytes(context.documentsDir() / "picture-s" / *small.asText(), jpeg, &error))
     notes.push_back(error);
 }
@@ -64,4 +64,4 @@ void writeReceivedFiles(const Context& context, const List& images,
   for (const Value& entry : images) writeOne(context, *entry.asMap(), notes);
 }
 
-}  // namespace lad
+}  // namespace lad::cloud

@@ -9,7 +9,7 @@
 #include "core/context.h"
 #include "store/selections.h"
 
-namespace lad {
+namespace lad::cloud {
 
 namespace {
 
@@ -84,4 +84,4 @@ void applyTicks(Store& store, const Map& root, std::optional<Date> receipt) {
   }
 }
 
-}  // namespace lad
+}  // namespace lad::cloud

@@ -9,9 +9,11 @@
 #include "core/value.h"
 
 namespace lad {
-
 class Context;
 class Store;
+}  // namespace lad
+
+namespace lad::cloud {
 
 // The states that callers pass: a tick, and its removal.
 enum TickState { kTicked = 1, kUnticked = 2 };
@@ -29,4 +31,4 @@ std::string ticksProblem(const Value& root);
 // Applies the entries of a checked root that are not older than the receipt of the file.
 void applyTicks(Store& store, const Map& root, std::optional<Date> receipt);
 
-}  // namespace lad
+}  // namespace lad::cloud

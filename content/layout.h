@@ -78,7 +78,7 @@ struct GroupFilter {
 // Height of the text wrapped at the width in the type size.
 using Measure = std::function<double(std::string_view text, double size, double width)>;
 // Natural size of a picture by name; nullopt when there is none.
-using ImageSize = std::function<std::optional<draw::Size>(std::string_view name)>;
+using ImageSize = std::function<std::optional<drawing::Size>(std::string_view name)>;
 
 struct LayoutTools {
   const DateCodec* dates = nullptr;  // required

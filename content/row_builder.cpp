@@ -34,7 +34,7 @@ std::optional<double> typeSize(int tp) {
 }
 
 double browserMeasure(std::string_view text, double size, double width) {
-  return draw::measureText(text, draw::Font{size, false}, width).h;
+  return drawing::measureText(text, drawing::Font{size, false}, width).h;
 }
 
 }  // namespace

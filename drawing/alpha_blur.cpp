@@ -4,7 +4,7 @@
 #include <cmath>
 #include <vector>
 
-namespace lad::draw {
+namespace lad::drawing {
 
 namespace {
 
@@ -47,4 +47,4 @@ void blurAlpha(unsigned char* data, int width, int height, std::ptrdiff_t stride
   }
 }
 
-}  // namespace lad::draw
+}  // namespace lad::drawing

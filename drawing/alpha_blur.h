@@ -3,7 +3,7 @@
 
 #include <cstddef>
 
-namespace lad::draw {
+namespace lad::drawing {
 
 // How many pixels the blur of that standard deviation spreads a pixel to each side.
 int blurReach(double sigma);
@@ -12,4 +12,4 @@ int blurReach(double sigma);
 // count as clear.
 void blurAlpha(unsigned char* data, int width, int height, std::ptrdiff_t stride, double sigma);
 
-}  // namespace lad::draw
+}  // namespace lad::drawing

@@ -11,7 +11,7 @@
 #include "drawing/text_layout.h"
 #include "platform/images.h"
 
-namespace lad::draw {
+namespace lad::drawing {
 
 namespace {
 
@@ -22,7 +22,7 @@ bool isJpeg(std::span<const std::uint8_t> bytes) {
   return bytes.size() > 3 && bytes[0] == 0xFF && bytes[1] == 0xD8 && bytes[2] == 0xFF;
 }
 
-cairo_surface_t* surfaceOf(const Image& image) {
+cairo_surface_t* surfaceOf(const platform::Image& image) {
   cairo_surface_t* surface =
       cairo_image_surface_create(CAIRO_FORMAT_RGB24, image.width, image.height);
   cairo_surface_flush(surface);
@@ -221,10 +221,10 @@ cairo_surface_t* CairoCanvas::readImage(const std::string& file, int side, bool 
     cairo_surface_destroy(png);
     return nullptr;
   }
-  const auto image = decodeImageToFit(data, side, nullptr);
+  const auto image = platform::decodeImageToFit(data, side, nullptr);
   if (!image || image->width <= 0 || image->height <= 0) return nullptr;
   cairo_surface_t* surface = surfaceOf(*image);
-  if (print) attachJpeg(surface, encodeJpeg(*image, kPrintJpegQuality));
+  if (print) attachJpeg(surface, platform::encodeJpeg(*image, kPrintJpegQuality));
   return surface;
 }
 
@@ -247,4 +247,4 @@ void CairoCanvas::fillPathShadow(const Path& p, FillRule rule, Shadow s) {
   paintPathShadow(cr_, p, rule, s);
 }
 
-}  // namespace lad::draw
+}  // namespace lad::drawing

@@ -11,7 +11,7 @@
 #include "drawing/canvas.h"
 #include "drawing/photo_prefetch.h"
 
-namespace lad::draw {
+namespace lad::drawing {
 
 class CairoCanvas : public Canvas {
  public:
@@ -52,4 +52,4 @@ class CairoCanvas : public Canvas {
   std::unique_ptr<PhotoPrefetch> prefetch_;
 };
 
-}  // namespace lad::draw
+}  // namespace lad::drawing

@@ -1,6 +1,6 @@
 #include "drawing/cairo_path.h"
 
-namespace lad::draw {
+namespace lad::drawing {
 
 void setCairoPath(cairo_t* cr, const Path& p) {
   cairo_new_path(cr);
@@ -29,4 +29,4 @@ cairo_fill_rule_t cairoFillRule(FillRule rule) {
   return rule == FillRule::EvenOdd ? CAIRO_FILL_RULE_EVEN_ODD : CAIRO_FILL_RULE_WINDING;
 }
 
-}  // namespace lad::draw
+}  // namespace lad::drawing

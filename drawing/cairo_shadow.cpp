@@ -6,7 +6,7 @@
 #include "drawing/alpha_blur.h"
 #include "drawing/cairo_path.h"
 
-namespace lad::draw {
+namespace lad::drawing {
 
 namespace {
 
@@ -81,4 +81,4 @@ void paintPathShadow(cairo_t* cr, const Path& p, FillRule rule, Shadow s) {
   cairo_restore(cr);
 }
 
-}  // namespace lad::draw
+}  // namespace lad::drawing

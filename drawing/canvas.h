@@ -9,7 +9,7 @@
 #include "drawing/geometry.h"
 #include "drawing/path.h"
 
-namespace lad::draw {
+namespace lad::drawing {
 
 enum class FillRule { Winding, EvenOdd };
 
@@ -46,4 +46,4 @@ class Canvas {
   virtual void fillPathShadow(const Path& p, FillRule rule, Shadow s) = 0;
 };
 
-}  // namespace lad::draw
+}  // namespace lad::drawing

@@ -1,7 +1,7 @@
 // Plain value types of the drawing layer: colours, points, rectangles, fonts, text alignment.
 #pragma once
 
-namespace lad::draw {
+namespace lad::drawing {
 
 struct Color {
   double r = 0, g = 0, b = 0, a = 1;
@@ -49,4 +49,4 @@ struct GradientStop {
   bool operator==(const GradientStop&) const = default;
 };
 
-}  // namespace lad::draw
+}  // namespace lad::drawing

@@ -7,7 +7,7 @@
 
 #include "platform/images.h"
 
-namespace lad::draw {
+namespace lad::drawing {
 
 // Only the signature and the header chunk are read: charts ask for the sizes of their pictures
 // at every drawing, and decoding a whole picture for them cost most of a chart's time.
@@ -18,9 +18,9 @@ std::optional<Size> pngSize(const std::string& file) {
   std::ifstream in(file, std::ios::binary);
   if (!in.read(reinterpret_cast<char*>(head.data()), head.size())) return std::nullopt;
   if (!std::equal(kSignature.begin(), kSignature.end(), head.begin())) return std::nullopt;
-  const auto size = imageSize(head);
+  const auto size = platform::imageSize(head);
   if (!size) return std::nullopt;
   return Size{static_cast<double>(size->width), static_cast<double>(size->height)};
 }
 
-}  // namespace lad::draw
+}  // namespace lad::drawing

@@ -6,9 +6,9 @@
 
 #include "drawing/geometry.h"
 
-namespace lad::draw {
+namespace lad::drawing {
 
 // Read from the file's header; nullopt when it is not a PNG.
 std::optional<Size> pngSize(const std::string& file);
 
-}  // namespace lad::draw
+}  // namespace lad::drawing

@@ -2,7 +2,7 @@
 
 #include <numbers>
 
-namespace lad::draw {
+namespace lad::drawing {
 
 Path& Path::moveTo(Point p) {
   ops_.push_back({Kind::Move, p});
@@ -54,4 +54,4 @@ Path& Path::addRoundedRect(Rect r, double radius) {
   return arc({r.x + radius, r.y + radius}, radius, 2 * kQuarter, 3 * kQuarter).close();
 }
 
-}  // namespace lad::draw
+}  // namespace lad::drawing

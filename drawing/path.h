@@ -5,7 +5,7 @@
 
 #include "drawing/geometry.h"
 
-namespace lad::draw {
+namespace lad::drawing {
 
 class Path {
  public:
@@ -36,4 +36,4 @@ class Path {
   std::vector<Op> ops_;
 };
 
-}  // namespace lad::draw
+}  // namespace lad::drawing

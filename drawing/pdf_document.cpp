@@ -4,7 +4,7 @@
 
 #include "core/atomic_file.h"
 
-namespace lad::draw {
+namespace lad::drawing {
 
 PdfDocument::PdfDocument(std::filesystem::path target, Size page, const std::string& title,
                          const std::string& creator)
@@ -45,4 +45,4 @@ bool PdfDocument::finish(std::string* error) {
   return false;
 }
 
-}  // namespace lad::draw
+}  // namespace lad::drawing

@@ -12,7 +12,7 @@
 
 #include "drawing/cairo_canvas.h"
 
-namespace lad::draw {
+namespace lad::drawing {
 
 class PdfDocument {
  public:
@@ -44,4 +44,4 @@ class PdfDocument {
   bool finished_ = false;
 };
 
-}  // namespace lad::draw
+}  // namespace lad::drawing

@@ -4,7 +4,7 @@
 
 #include "core/atomic_file.h"
 
-namespace lad::draw {
+namespace lad::drawing {
 
 namespace {
 
@@ -13,9 +13,9 @@ std::unique_ptr<PrefetchedPhoto> readPhoto(const std::string& file, int side) {
   if (!bytes) return nullptr;
   const std::span<const std::uint8_t> data(reinterpret_cast<const std::uint8_t*>(bytes->data()),
                                            bytes->size());
-  auto image = decodeImageToFit(data, side, nullptr);
+  auto image = platform::decodeImageToFit(data, side, nullptr);
   if (!image || image->width <= 0 || image->height <= 0) return nullptr;
-  std::vector<std::uint8_t> jpeg = encodeJpeg(*image, kPrintJpegQuality);
+  std::vector<std::uint8_t> jpeg = platform::encodeJpeg(*image, kPrintJpegQuality);
   return std::make_unique<PrefetchedPhoto>(PrefetchedPhoto{std::move(*image), std::move(jpeg)});
 }
 
@@ -83,4 +83,4 @@ std::unique_ptr<PrefetchedPhoto> PhotoPrefetch::take(const std::string& file, in
   return photo;
 }
 
-}  // namespace lad::draw
+}  // namespace lad::drawing

@@ -13,13 +13,13 @@
 
 #include "platform/images.h"
 
-namespace lad::draw {
+namespace lad::drawing {
 
 // The quality at which a document keeps its photos.
 inline constexpr int kPrintJpegQuality = 88;
 
 struct PrefetchedPhoto {
-  Image image;                     // shrunk to fit the side
+  platform::Image image;           // shrunk to fit the side
   std::vector<std::uint8_t> jpeg;  // the same pixels as the document keeps them
 };
 
@@ -55,4 +55,4 @@ class PhotoPrefetch {
   static constexpr unsigned kMostWorkers = 2;
 };
 
-}  // namespace lad::draw
+}  // namespace lad::drawing

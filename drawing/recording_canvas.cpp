@@ -1,6 +1,6 @@
 #include "drawing/recording_canvas.h"
 
-namespace lad::draw {
+namespace lad::drawing {
 
 using Kind = Command::Kind;
 
@@ -96,4 +96,4 @@ std::vector<Command> RecordingCanvas::ofKind(Kind kind) const {
   return out;
 }
 
-}  // namespace lad::draw
+}  // namespace lad::drawing

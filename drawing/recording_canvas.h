@@ -7,7 +7,7 @@
 
 #include "drawing/canvas.h"
 
-namespace lad::draw {
+namespace lad::drawing {
 
 struct Command {
   enum class Kind {
@@ -64,4 +64,4 @@ class RecordingCanvas : public Canvas {
   std::vector<Command> commands_;
 };
 
-}  // namespace lad::draw
+}  // namespace lad::drawing

@@ -7,7 +7,7 @@
 #include "drawing/cairo_canvas.h"
 #include "drawing/svg_canvas.h"
 
-namespace lad::draw {
+namespace lad::drawing {
 
 namespace {
 
@@ -66,4 +66,4 @@ std::optional<std::string> renderPdf(Size size, const std::string& title, const 
   return out;
 }
 
-}  // namespace lad::draw
+}  // namespace lad::drawing

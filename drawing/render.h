@@ -7,7 +7,7 @@
 
 #include "drawing/canvas.h"
 
-namespace lad::draw {
+namespace lad::drawing {
 
 using Painter = std::function<void(Canvas&)>;
 
@@ -18,4 +18,4 @@ std::optional<std::string> renderPng(Size size, double scale, const Painter& pai
 // One page of the size in points, with the title and creator in its metadata.
 std::optional<std::string> renderPdf(Size size, const std::string& title, const Painter& paint);
 
-}  // namespace lad::draw
+}  // namespace lad::drawing

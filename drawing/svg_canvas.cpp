@@ -11,7 +11,7 @@
 #include "drawing/svg_writer.h"
 #include "drawing/text_measure.h"
 
-namespace lad::draw {
+namespace lad::drawing {
 
 using svg::appendAttribute;
 using svg::appendPaint;
@@ -295,4 +295,4 @@ std::string SvgCanvas::document() const {
   return withDrawingIds(out);
 }
 
-}  // namespace lad::draw
+}  // namespace lad::drawing

@@ -7,7 +7,7 @@
 
 #include "drawing/canvas.h"
 
-namespace lad::draw {
+namespace lad::drawing {
 
 class SvgCanvas : public Canvas {
  public:
@@ -42,4 +42,4 @@ class SvgCanvas : public Canvas {
   std::uint64_t ids_ = 0;
 };
 
-}  // namespace lad::draw
+}  // namespace lad::drawing

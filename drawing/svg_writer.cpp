@@ -5,7 +5,7 @@
 #include <cmath>
 #include <numbers>
 
-namespace lad::draw::svg {
+namespace lad::drawing::svg {
 
 namespace {
 
@@ -135,4 +135,4 @@ void appendPathData(std::string& out, const Path& p) {
   }
 }
 
-}  // namespace lad::draw::svg
+}  // namespace lad::drawing::svg

@@ -7,7 +7,7 @@
 #include "drawing/geometry.h"
 #include "drawing/path.h"
 
-namespace lad::draw::svg {
+namespace lad::drawing::svg {
 
 // Up to three decimals, without trailing zeros, never in the process locale.
 void appendNumber(std::string& out, double v);
@@ -22,4 +22,4 @@ void appendEscaped(std::string& out, std::string_view text);
 // The `d` attribute of the path, arcs included.
 void appendPathData(std::string& out, const Path& p);
 
-}  // namespace lad::draw::svg
+}  // namespace lad::drawing::svg

@@ -6,7 +6,7 @@
 
 #include "drawing/text_measure.h"
 
-namespace lad::draw {
+namespace lad::drawing {
 
 namespace {
 
@@ -53,4 +53,4 @@ PangoLayout* makeLayout(PangoContext* context, std::string_view text, Font f, do
   return layout;
 }
 
-}  // namespace lad::draw
+}  // namespace lad::drawing

@@ -7,7 +7,7 @@
 
 #include "drawing/geometry.h"
 
-namespace lad::draw {
+namespace lad::drawing {
 
 // Sets the context up once for the layouts made in it: unhinted metrics, so that widths scale
 // with the font size as in the browser.
@@ -18,4 +18,4 @@ void prepareTextContext(PangoContext* context);
 PangoLayout* makeLayout(PangoContext* context, std::string_view text, Font f, double width,
                         Align a);
 
-}  // namespace lad::draw
+}  // namespace lad::drawing

@@ -4,7 +4,7 @@
 
 #include "drawing/text_layout.h"
 
-namespace lad::draw {
+namespace lad::drawing {
 
 namespace {
 
@@ -46,4 +46,4 @@ std::vector<TextLine> breakText(std::string_view text, Font f, double maxWidth) 
   return lines;
 }
 
-}  // namespace lad::draw
+}  // namespace lad::drawing

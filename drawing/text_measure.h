@@ -8,7 +8,7 @@
 
 #include "drawing/geometry.h"
 
-namespace lad::draw {
+namespace lad::drawing {
 
 inline constexpr const char* kFontFamily = "DejaVu Sans";
 
@@ -26,4 +26,4 @@ struct TextLine {
 // end draws the same lines.
 std::vector<TextLine> breakText(std::string_view text, Font f, double maxWidth = 0);
 
-}  // namespace lad::draw
+}  // namespace lad::drawing

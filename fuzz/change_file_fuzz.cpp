@@ -50,9 +50,10 @@ class Installation {
 
   // Applies the file to the installation as launched and returns what came of it. A refusal
   // must leave every file as it was.
-  lad::ChangeOutcome apply(const std::filesystem::path& file) {
+  lad::cloud::ChangeOutcome apply(const std::filesystem::path& file) {
     lad::Store store(*context_);
-    const lad::ChangeOutcome outcome = lad::applyChangeFile(store, file, std::nullopt);
+    const lad::cloud::ChangeOutcome outcome =
+        lad::cloud::applyChangeFile(store, file, std::nullopt);
     std::vector<std::string> changed = launched_->changes();
     if (!outcome.applied) check(changed.empty());
     launched_->restore(std::move(changed));
@@ -73,9 +74,9 @@ Installation& installation(bool child) {
 }
 
 std::string fileName(int kind) {
-  const std::string part = kind == lad::kChangeTicks ? "DEVICE" : "30-03-2026";
-  return kind == lad::kChangeProfile ? lad::changeFileName(kind, kGid)
-                                     : lad::changeFileName(kind, kGid, part);
+  const std::string part = kind == lad::cloud::kChangeTicks ? "DEVICE" : "30-03-2026";
+  return kind == lad::cloud::kChangeProfile ? lad::cloud::changeFileName(kind, kGid)
+                                            : lad::cloud::changeFileName(kind, kGid, part);
 }
 
 }  // namespace
@@ -86,14 +87,14 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
   const std::string_view bytes = input.rest();
 
   std::string error;
-  const auto value = lad::fromPropertyList(
+  const auto value = lad::cloud::fromPropertyList(
       {reinterpret_cast<const std::uint8_t*>(bytes.data()), bytes.size()}, &error);
   check(value.has_value() == error.empty());
 
   Installation& on = installation(choice & 4);
   const auto file = on.incoming() / fileName(choice % 4 + 1);
   lad::testing::writeFile(file, bytes);
-  const lad::ChangeOutcome outcome = on.apply(file);
+  const lad::cloud::ChangeOutcome outcome = on.apply(file);
   check(outcome.applied == outcome.reason.empty());
   return 0;
 }

@@ -21,7 +21,7 @@ constexpr std::int64_t kMostPixels = 50'000'000;
 // Larger pictures are only decoded: encoding them again takes the fuzzer's time for nothing new.
 constexpr std::int64_t kMostPixelsKept = 64 * 64;
 
-bool wellFormed(const lad::Image& image) {
+bool wellFormed(const lad::platform::Image& image) {
   const std::int64_t pixels = std::int64_t{image.width} * image.height;
   return image.width > 0 && image.height > 0 && pixels <= kMostPixels &&
          image.rgb.size() == static_cast<std::size_t>(pixels) * 3;
@@ -34,34 +34,34 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
   const int choice = data[0];
   const std::span<const std::uint8_t> bytes(data + 1, size - 1);
 
-  const int orientation = lad::exifOrientation(bytes);
+  const int orientation = lad::platform::exifOrientation(bytes);
   check(orientation >= 1 && orientation <= 8);
 
   std::string error;
-  const auto image = lad::decodeImage(bytes, &error);
+  const auto image = lad::platform::decodeImage(bytes, &error);
   check(image.has_value() == error.empty());
   if (!image) return 0;
   check(wellFormed(*image));
-  const auto header = lad::imageSize(bytes);
+  const auto header = lad::platform::imageSize(bytes);
   check(header && header->width == image->width && header->height == image->height);
   if (std::int64_t{image->width} * image->height > kMostPixelsKept) return 0;
 
   const int turn = choice % 8 + 1;
-  const lad::Image upright = lad::orientedUpright(*image, turn);
+  const lad::platform::Image upright = lad::platform::orientedUpright(*image, turn);
   check(wellFormed(upright));
   check(turn >= 5 ? upright.width == image->height && upright.height == image->width
                   : upright.width == image->width && upright.height == image->height);
 
   const int side = choice / 8 + 1;
-  const lad::Image small = lad::scaledToFit(*image, side);
+  const lad::platform::Image small = lad::platform::scaledToFit(*image, side);
   check(wellFormed(small) && small.width <= std::max(side, 1) && small.height <= std::max(side, 1));
-  const auto read = lad::decodeImageToFit(bytes, side, nullptr);
+  const auto read = lad::platform::decodeImageToFit(bytes, side, nullptr);
   check(read && wellFormed(*read) && read->width <= side && read->height <= side);
 
   std::string keptError;
-  const auto kept = lad::toJpeg(bytes, 1 + choice % 100, &keptError);
+  const auto kept = lad::platform::toJpeg(bytes, 1 + choice % 100, &keptError);
   check(kept.has_value() && keptError.empty());
-  const auto back = lad::decodeImage(*kept, &keptError);
+  const auto back = lad::platform::decodeImage(*kept, &keptError);
   check(back && back->width == image->width && back->height == image->height);
   return 0;
 }

@@ -127,12 +127,12 @@ void forms(const lad::Context& context, std::string_view value) {
   if (value.find('\\') == std::string_view::npos)
     check(std::count(sizes.begin(), sizes.end(), '\n') < 5);
   // The teeth a record leaves are named once each; any two clock texts make a span.
-  const std::string present = lad::teethText(lad::applyTeeth({}, value));
+  const std::string present = lad::health::teethText(lad::health::applyTeeth({}, value));
   check(present.empty() ||
-        lad::splitOn(present, "<tr>").size() == lad::applyTeeth({}, value).count());
-  const auto span = lad::countInterval(text, text, std::nullopt);
+        lad::splitOn(present, "<tr>").size() == lad::health::applyTeeth({}, value).count());
+  const auto span = lad::health::countInterval(text, text, std::nullopt);
   check(span && span->find(':') != std::string::npos);
-  const std::string feeding = lad::kormToString(context, text, installations().entries);
+  const std::string feeding = lad::health::kormToString(context, text, installations().entries);
   if (!lad::jsonIs(text)) check(feeding.empty());
   const std::string tests = lad::analizyStringToRead(text, installations().entries);
   const std::string checks = lad::checkStringToRead(text, installations().entries);

@@ -7,7 +7,7 @@
 #include "core/json_text.h"
 #include "health/calendar_text.h"
 
-namespace lad {
+namespace lad::health {
 
 namespace {
 
@@ -68,4 +68,4 @@ std::string longBirthResult(const Context& context, const Value& birthresult, st
   return text;
 }
 
-}  // namespace lad
+}  // namespace lad::health

@@ -8,8 +8,10 @@
 #include "core/value.h"
 
 namespace lad {
-
 class Context;
+}  // namespace lad
+
+namespace lad::health {
 
 // "Рост: %@, Вес: %@", or the one of the two that is known; "-" for a value that is no JSON
 // object text.
@@ -19,4 +21,4 @@ std::string shortBirthResult(const Context& context, const Value& birthresult);
 // 2 girl); empty when nothing is known or the value is no JSON object text.
 std::string longBirthResult(const Context& context, const Value& birthresult, std::int64_t sex);
 
-}  // namespace lad
+}  // namespace lad::health

@@ -6,7 +6,7 @@
 #include "core/value.h"
 #include "health/calendar_text.h"
 
-namespace lad {
+namespace lad::health {
 
 namespace {
 
@@ -43,4 +43,4 @@ BodyIndex correctBodyIndex(const Context& context, std::string_view rost, std::s
           bodytype};
 }
 
-}  // namespace lad
+}  // namespace lad::health

@@ -6,8 +6,10 @@
 #include <string_view>
 
 namespace lad {
-
 class Context;
+}  // namespace lad
+
+namespace lad::health {
 
 struct BodyIndex {
   std::string text;  // what the dialogue's field shows
@@ -18,4 +20,4 @@ struct BodyIndex {
 // zero leaves the index undefined, with the average body type.
 BodyIndex correctBodyIndex(const Context& context, std::string_view rost, std::string_view ves);
 
-}  // namespace lad
+}  // namespace lad::health

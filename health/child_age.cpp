@@ -4,7 +4,7 @@
 #include "health/calendar_text.h"
 #include "store/values/calendar_span.h"
 
-namespace lad {
+namespace lad::health {
 
 std::string monthAge(const Context& context, Date from, Date to, bool noempty, bool nodays) {
   const CalendarSpan span = calendarSpan(context.dates(), from, to);
@@ -25,4 +25,4 @@ std::string monthAge(const Context& context, Date from, Date to, bool noempty, b
   return text;
 }
 
-}  // namespace lad
+}  // namespace lad::health

@@ -8,7 +8,7 @@
 #include "store/dictionary.h"
 #include "store/store.h"
 
-namespace lad {
+namespace lad::health {
 
 namespace {
 
@@ -195,4 +195,4 @@ std::vector<std::string> kormTotals(const Context& context, const List& today,
   return lines;
 }
 
-}  // namespace lad
+}  // namespace lad::health

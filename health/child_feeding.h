@@ -10,9 +10,11 @@
 #include "core/value.h"
 
 namespace lad {
-
 class Context;
 class Store;
+}  // namespace lad
+
+namespace lad::health {
 
 // The kinds of feeding ("tp" of the value and "kotype" of the row).
 enum FeedingKind {
@@ -49,4 +51,4 @@ std::string feedingCaption(const Context& context, int kind);
 // no longer, and no sum for other foods.
 std::vector<std::string> kormTotals(const Context& context, const List& today, const List& lastDay);
 
-}  // namespace lad
+}  // namespace lad::health

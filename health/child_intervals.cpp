@@ -1,6 +1,6 @@
 #include "health/child_intervals.h"
 
-namespace lad {
+namespace lad::health {
 
 namespace {
 
@@ -91,4 +91,4 @@ void autocalc(List& rows, std::string_view changedMark) {
   }
 }
 
-}  // namespace lad
+}  // namespace lad::health

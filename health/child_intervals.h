@@ -8,7 +8,7 @@
 
 #include "core/value.h"
 
-namespace lad {
+namespace lad::health {
 
 // The text padded on the left with the mask and cut to the mask's length from the right:
 // inMask("5", "00") is "05".
@@ -32,4 +32,4 @@ std::optional<std::string> countInterval(const std::optional<std::string>& start
 // Nothing happens while any of the three is missing.
 void autocalc(List& rows, std::string_view changedMark);
 
-}  // namespace lad
+}  // namespace lad::health

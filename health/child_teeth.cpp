@@ -5,7 +5,7 @@
 #include "core/text_parts.h"
 #include "store/store.h"
 
-namespace lad {
+namespace lad::health {
 
 namespace {
 
@@ -59,4 +59,4 @@ std::string toothForDay(Store& store, Date day, const std::string& gid) {
   return teethText(state);
 }
 
-}  // namespace lad
+}  // namespace lad::health

@@ -8,8 +8,10 @@
 #include "core/dates.h"
 
 namespace lad {
-
 class Store;
+}  // namespace lad
+
+namespace lad::health {
 
 inline constexpr int kMilkTeeth = 20;
 // A recorded code: a tooth number came through, this plus the number fell out.
@@ -31,4 +33,4 @@ std::string toothChanges(const TeethState& before, const TeethState& after);
 // earlier days in date order, joined by "<tr>".
 std::string toothForDay(Store& store, Date day, const std::string& gid);
 
-}  // namespace lad
+}  // namespace lad::health

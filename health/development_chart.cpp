@@ -23,7 +23,7 @@ std::string picture(const std::filesystem::path& imagesDir, const std::string& n
   return (imagesDir / ((dark ? "b-" : "") + name)).string();
 }
 
-double dayX(const Map& dic, draw::Rect frame, double s, double day) {
+double dayX(const Map& dic, drawing::Rect frame, double s, double day) {
   return charts::getPoint(dic, frame, s, day, 0).x;
 }
 
@@ -36,21 +36,22 @@ std::string sizeText(const Context& context, int day) {
 }
 
 // The balloon with the size beside the marker, on its left when the right has no room.
-void drawBalloon(draw::Canvas& c, draw::Rect plot, double x, const Context& context,
+void drawBalloon(drawing::Canvas& c, drawing::Rect plot, double x, const Context& context,
                  const DevelopmentInput& in, const std::filesystem::path& imagesDir) {
   const double s = in.s;
   const std::string text = sizeText(context, in.day);
-  const draw::Font font{kTextSize * s, true};
-  const draw::Size measured = draw::measureText(text, font);
+  const drawing::Font font{kTextSize * s, true};
+  const drawing::Size measured = drawing::measureText(text, font);
   const double width = kBalloonW * s + 2 * s + measured.w;
   const double left = x + kMarker / 2 * s + width <= plot.right() ? x + kMarker / 2 * s
                                                                   : x - kMarker / 2 * s - width;
   const double top = plot.y + kMarker * s;
   c.drawImage(picture(imagesDir, "baloon.png", in.darkIcons),
               {left, top, kBalloonW * s, kBalloonH * s});
-  const draw::Color ink = in.darkIcons ? draw::Color{0, 0, 0, 0.8} : draw::Color{1, 1, 1, 0.9};
+  const drawing::Color ink =
+      in.darkIcons ? drawing::Color{0, 0, 0, 0.8} : drawing::Color{1, 1, 1, 0.9};
   c.drawText(text, {left + (kBalloonW + 2) * s, top, measured.w, measured.h}, font, ink,
-             draw::Align::Left);
+             drawing::Align::Left);
 }
 
 }  // namespace
@@ -62,14 +63,14 @@ Map developmentChart(const Context& context, const DevelopmentInput& input) {
   return dic;
 }
 
-void drawDevelopment(draw::Canvas& c, draw::Rect frame, const Context& context,
+void drawDevelopment(drawing::Canvas& c, drawing::Rect frame, const Context& context,
                      const DevelopmentInput& input, const std::filesystem::path& imagesDir) {
   const Map dic = developmentChart(context, input);
   charts::Chart chart(input.s, imagesDir);
   chart.prepare(dic);
   chart.drawContext(c, frame);
   const double s = input.s, lastDay = dic["xAxisMax"].doubleValue();
-  const draw::Rect plot = charts::borderedPlot(frame, s);
+  const drawing::Rect plot = charts::borderedPlot(frame, s);
   for (const int start : kTrimesterStartDays) {
     if (start > lastDay) break;
     const double x = dayX(dic, frame, s, start);

@@ -27,7 +27,7 @@ struct DevelopmentInput {
 Map developmentChart(const Context& context, const DevelopmentInput& input);
 
 // Paints the chart and its marks into the frame.
-void drawDevelopment(draw::Canvas& c, draw::Rect frame, const Context& context,
+void drawDevelopment(drawing::Canvas& c, drawing::Rect frame, const Context& context,
                      const DevelopmentInput& input, const std::filesystem::path& imagesDir);
 
 }  // namespace lad::health

@@ -9,7 +9,7 @@
 #include "health/calendar_text.h"
 #include "health/child_age.h"
 
-namespace lad {
+namespace lad::health {
 
 namespace {
 
@@ -261,4 +261,4 @@ std::string pregnancyStateLine(const Context& context, const Map& setup) {
   return fillIn("%@,\n%@", {passed, day});
 }
 
-}  // namespace lad
+}  // namespace lad::health

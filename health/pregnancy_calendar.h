@@ -10,8 +10,10 @@
 #include "core/value.h"
 
 namespace lad {
-
 class Context;
+}  // namespace lad
+
+namespace lad::health {
 
 // The texts of ageString, by the number the screens know them by.
 enum class AgeMode {
@@ -61,4 +63,4 @@ std::string ageString(const Context& context, AgeMode mode, const Map& setup);
 // week, or "Срок указан неправильно" when neither can be said.
 std::string pregnancyStateLine(const Context& context, const Map& setup);
 
-}  // namespace lad
+}  // namespace lad::health

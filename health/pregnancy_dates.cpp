@@ -2,7 +2,7 @@
 
 #include "core/context.h"
 
-namespace lad {
+namespace lad::health {
 
 namespace {
 
@@ -66,4 +66,4 @@ DateCorrection setupCorrectDate(const Context& context, const PregnancyDateTexts
   return {fields, {}};
 }
 
-}  // namespace lad
+}  // namespace lad::health

@@ -5,8 +5,10 @@
 #include <string>
 
 namespace lad {
-
 class Context;
+}  // namespace lad
+
+namespace lad::health {
 
 // The dialogue's date fields as the user sees them, "dd.MM.yyyy".
 struct PregnancyDateTexts {
@@ -39,4 +41,4 @@ PregnancyDateTexts newPregnancyDates(const Context& context);
 DateCorrection setupCorrectDate(const Context& context, const PregnancyDateTexts& fields,
                                 PregnancyDateField changed);
 
-}  // namespace lad
+}  // namespace lad::health

@@ -17,9 +17,9 @@ namespace {
 constexpr int kLastWeek = 42;
 constexpr int kDaysShown = 295;  // days 0 to 294
 constexpr double kBookZoom = 5;
-constexpr draw::Color kGainColor{0.8, 0, 0, 0.6};
-constexpr draw::Color kBlue{0.494, 0.675, 0.8, 1};
-constexpr draw::Color kWhite{1, 1, 1, 1};
+constexpr drawing::Color kGainColor{0.8, 0, 0, 0.6};
+constexpr drawing::Color kBlue{0.494, 0.675, 0.8, 1};
+constexpr drawing::Color kWhite{1, 1, 1, 1};
 
 // A tick at every week, labelled at the even ones.
 List evenWeekTicks() {
@@ -88,8 +88,9 @@ Map weightChart(Store& store, const std::string& pregguid, const Map& setup, dou
   return dic;
 }
 
-std::optional<std::string> bookPageGraph(Store& store, const std::string& pregguid, draw::Size size,
-                                         double scale, const std::filesystem::path& imagesDir) {
+std::optional<std::string> bookPageGraph(Store& store, const std::string& pregguid,
+                                         drawing::Size size, double scale,
+                                         const std::filesystem::path& imagesDir) {
   // The book's own render scale is the zoom, so that the margins hold the larger texts.
   charts::Chart chart(kBookZoom, imagesDir);
   chart.prepare(weightChart(store, pregguid, loadSetupData(store, pregguid), kBookZoom));

@@ -21,7 +21,8 @@ Map weightChart(Store& store, const std::string& pregguid, const Map& setup, dou
 
 // The photo book's page of the chart: a PNG of size × scale pixels drawn at zoom 5, or nullopt
 // when it cannot be made.
-std::optional<std::string> bookPageGraph(Store& store, const std::string& pregguid, draw::Size size,
-                                         double scale, const std::filesystem::path& imagesDir);
+std::optional<std::string> bookPageGraph(Store& store, const std::string& pregguid,
+                                         drawing::Size size, double scale,
+                                         const std::filesystem::path& imagesDir);
 
 }  // namespace lad::health

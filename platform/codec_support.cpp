@@ -1,6 +1,6 @@
 #include "platform/codec_support.h"
 
-namespace lad {
+namespace lad::platform {
 
 namespace {
 
@@ -17,4 +17,4 @@ bool fail(std::string* error, std::string_view text) {
   return false;
 }
 
-}  // namespace lad
+}  // namespace lad::platform

@@ -8,7 +8,7 @@
 #include <string_view>
 #include <vector>
 
-namespace lad {
+namespace lad::platform {
 
 inline constexpr char kTooManyPixels[] = "the image has more than 50 megapixels";
 
@@ -30,4 +30,4 @@ bool tryResize(std::vector<T>& buffer, std::size_t size) {
   }
 }
 
-}  // namespace lad
+}  // namespace lad::platform

@@ -4,7 +4,7 @@
 #include <array>
 #include <optional>
 
-namespace lad {
+namespace lad::platform {
 
 namespace {
 
@@ -60,4 +60,4 @@ int exifOrientation(std::span<const std::uint8_t> app1) {
   return 1;
 }
 
-}  // namespace lad
+}  // namespace lad::platform

@@ -4,10 +4,10 @@
 #include <cstdint>
 #include <span>
 
-namespace lad {
+namespace lad::platform {
 
 // Orientation 1 to 8 from the payload of an APP1 segment ("Exif\0\0" and a TIFF block);
 // 1 (as stored) when the segment is not EXIF, has no orientation, or is malformed.
 int exifOrientation(std::span<const std::uint8_t> app1);
 
-}  // namespace lad
+}  // namespace lad::platform

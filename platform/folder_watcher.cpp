@@ -9,7 +9,7 @@
 #include <cerrno>
 #include <cstdint>
 
-namespace lad {
+namespace lad::platform {
 
 namespace {
 
@@ -50,4 +50,4 @@ void FolderWatcher::run() {
   }
 }
 
-}  // namespace lad
+}  // namespace lad::platform

@@ -7,7 +7,7 @@
 #include <functional>
 #include <thread>
 
-namespace lad {
+namespace lad::platform {
 
 class FolderWatcher {
  public:
@@ -32,4 +32,4 @@ class FolderWatcher {
   std::thread thread_;
 };
 
-}  // namespace lad
+}  // namespace lad::platform

@@ -2,7 +2,7 @@
 
 #include <algorithm>
 
-namespace lad {
+namespace lad::platform {
 
 namespace {
 
@@ -51,4 +51,4 @@ Image orientedUpright(Image image, int orientation) {
   return shown;
 }
 
-}  // namespace lad
+}  // namespace lad::platform

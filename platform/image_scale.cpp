@@ -3,7 +3,7 @@
 
 #include "platform/images.h"
 
-namespace lad {
+namespace lad::platform {
 
 namespace {
 
@@ -69,4 +69,4 @@ Image scaledToFit(const Image& image, int maxSide) {
   return scaled;
 }
 
-}  // namespace lad
+}  // namespace lad::platform

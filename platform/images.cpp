@@ -7,7 +7,7 @@
 #include "platform/jpeg_decode.h"
 #include "platform/png_decode.h"
 
-namespace lad {
+namespace lad::platform {
 
 namespace {
 
@@ -67,4 +67,4 @@ std::optional<std::vector<std::uint8_t>> toJpeg(std::span<const std::uint8_t> by
   return jpeg;
 }
 
-}  // namespace lad
+}  // namespace lad::platform

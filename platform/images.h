@@ -7,7 +7,7 @@
 #include <string>
 #include <vector>
 
-namespace lad {
+namespace lad::platform {
 
 // 8-bit RGB pixels, rows top to bottom, three bytes a pixel, no padding.
 struct Image {
@@ -55,4 +55,4 @@ std::optional<std::vector<std::uint8_t>> toJpeg(std::span<const std::uint8_t> by
 // are.
 Image scaledToFit(const Image& image, int maxSide);
 
-}  // namespace lad
+}  // namespace lad::platform

@@ -7,7 +7,7 @@
 #include "platform/image_orientation.h"
 #include "platform/jpeg_errors.h"
 
-namespace lad {
+namespace lad::platform {
 
 namespace {
 
@@ -122,4 +122,4 @@ std::optional<Image> decodeJpeg(std::span<const std::uint8_t> bytes, std::string
   return orientedUpright(std::move(image), orientation);
 }
 
-}  // namespace lad
+}  // namespace lad::platform

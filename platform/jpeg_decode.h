@@ -5,7 +5,7 @@
 
 #include "platform/images.h"
 
-namespace lad {
+namespace lad::platform {
 
 // The upright width and height of the JPEG, from its header alone; nullopt when libjpeg refuses
 // the header.
@@ -18,4 +18,4 @@ std::optional<ImageSize> jpegSize(std::span<const std::uint8_t> bytes);
 std::optional<Image> decodeJpeg(std::span<const std::uint8_t> bytes, std::string* error,
                                 int fitSide = 0);
 
-}  // namespace lad
+}  // namespace lad::platform

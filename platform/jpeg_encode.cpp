@@ -8,7 +8,7 @@
 // jerror.h needs jpeglib.h first.
 #include <jerror.h>
 
-namespace lad {
+namespace lad::platform {
 
 namespace {
 
@@ -116,4 +116,4 @@ std::vector<std::uint8_t> encodeJpegFromWords(const std::uint8_t* words, int wid
   return out;
 }
 
-}  // namespace lad
+}  // namespace lad::platform

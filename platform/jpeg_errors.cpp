@@ -3,7 +3,7 @@
 // jerror.h needs jpeglib.h first.
 #include <jerror.h>
 
-namespace lad {
+namespace lad::platform {
 
 namespace {
 
@@ -29,4 +29,4 @@ jpeg_error_mgr* useJpegErrors(JpegErrors* errors) {
   return manager;
 }
 
-}  // namespace lad
+}  // namespace lad::platform

@@ -8,7 +8,7 @@
 // jpeglib.h needs size_t and FILE declared before it.
 #include <jpeglib.h>
 
-namespace lad {
+namespace lad::platform {
 
 // The caller sets `jump` with setjmp before its first libjpeg call and keeps only C objects in
 // that frame: any libjpeg error comes back there with its text in `message`.
@@ -21,4 +21,4 @@ struct JpegErrors {
 // Sets up `errors` and returns the manager to put into a codec's `err`.
 jpeg_error_mgr* useJpegErrors(JpegErrors* errors);
 
-}  // namespace lad
+}  // namespace lad::platform

@@ -7,7 +7,7 @@
 
 #include "platform/codec_support.h"
 
-namespace lad {
+namespace lad::platform {
 
 namespace {
 
@@ -109,4 +109,4 @@ std::optional<Image> decodePng(std::span<const std::uint8_t> bytes, std::string*
   return composedOverWhite(pixels);
 }
 
-}  // namespace lad
+}  // namespace lad::platform

@@ -7,7 +7,7 @@
 #include "reports/pdf_settings.h"
 #include "reports/picture_fill.h"
 
-namespace lad::report {
+namespace lad::reports {
 
 namespace {
 
@@ -24,47 +24,47 @@ std::string defaultPicture(int appid, int kind) {
   return dark ? "b-ti-preg.png" : "ti-preg3.png";
 }
 
-void drawRing(draw::Canvas& canvas, draw::Point centre, double outer, double inner,
-              draw::Color colour) {
-  canvas.fillPath(draw::Path().addCircle(centre, outer).addCircle(centre, inner), colour,
-                  draw::FillRule::EvenOdd);
+void drawRing(drawing::Canvas& canvas, drawing::Point centre, double outer, double inner,
+              drawing::Color colour) {
+  canvas.fillPath(drawing::Path().addCircle(centre, outer).addCircle(centre, inner), colour,
+                  drawing::FillRule::EvenOdd);
 }
 
-void drawInCircle(draw::Canvas& canvas, const std::string& file, draw::Point centre,
+void drawInCircle(drawing::Canvas& canvas, const std::string& file, drawing::Point centre,
                   double radius) {
-  const draw::Rect square{centre.x - radius, centre.y - radius, 2 * radius, 2 * radius};
-  drawPictureFilling(canvas, file, square, draw::Path().addCircle(centre, radius));
+  const drawing::Rect square{centre.x - radius, centre.y - radius, 2 * radius, 2 * radius};
+  drawPictureFilling(canvas, file, square, drawing::Path().addCircle(centre, radius));
 }
 
 // A centred line of the column at y; the y of the next line.
-double drawLine(draw::Canvas& canvas, const std::string& text, double y, double x, double width,
-                draw::Font font, draw::Color colour) {
+double drawLine(drawing::Canvas& canvas, const std::string& text, double y, double x, double width,
+                drawing::Font font, drawing::Color colour) {
   if (text.empty()) return y;
   const double h = textHeight(text, font, width);
-  canvas.drawText(text, {x, y, width, h}, font, colour, draw::Align::Center);
+  canvas.drawText(text, {x, y, width, h}, font, colour, drawing::Align::Center);
   return y + h + kGap;
 }
 
 }  // namespace
 
-CoverGeometry coverGeometry(draw::Size page) {
+CoverGeometry coverGeometry(drawing::Size page) {
   if (page.w >= 9838) return {{4974, 0}, 3380, 4854};
   return {{3684, 108}, 3508, 3508};
 }
 
-void drawBookCover(draw::Canvas& canvas, draw::Size page, const Map& dic, int appid,
+void drawBookCover(drawing::Canvas& canvas, drawing::Size page, const Map& dic, int appid,
                    const std::filesystem::path& imagesDir) {
   const CoverGeometry g = coverGeometry(page);
   const int kind = static_cast<int>(dic["booktype"].intValue());
-  const draw::Color type = bookTextColor(kind);
+  const drawing::Color type = bookTextColor(kind);
   const std::string photo = dic["imagepath"].text();
   const std::string picture =
       photo.empty() ? (imagesDir / defaultPicture(appid, kind)).string() : photo;
   const double middle = g.front.x + g.columnWidth / 2;
 
-  const draw::Point centre{middle, g.front.y + kRingTop + kRingOuter};
-  const draw::Color ring =
-      (kind == 3 ? draw::Color{0, 0, 0} : draw::Color{1, 1, 1}).withAlpha(photo.empty() ? 1 : 0.1);
+  const drawing::Point centre{middle, g.front.y + kRingTop + kRingOuter};
+  const drawing::Color ring = (kind == 3 ? drawing::Color{0, 0, 0} : drawing::Color{1, 1, 1})
+                                  .withAlpha(photo.empty() ? 1 : 0.1);
   drawRing(canvas, centre, kRingOuter, kRingInner, ring);
   drawInCircle(canvas, picture, centre, kRingInner);
 
@@ -77,7 +77,7 @@ void drawBookCover(draw::Canvas& canvas, draw::Size page, const Map& dic, int ap
   const double bottom = page.h - 160;
   drawLine(canvas, dic["labelbottom"].text(), bottom, g.front.x, g.columnWidth,
            {kBottomSize, false}, type);
-  const draw::Point emblem{middle, bottom - kGap - kEmblemOuter};
+  const drawing::Point emblem{middle, bottom - kGap - kEmblemOuter};
   drawRing(canvas, emblem, kEmblemOuter, kEmblemInner, ring);
   drawInCircle(canvas, picture, emblem, kEmblemPicture);
 
@@ -85,7 +85,7 @@ void drawBookCover(draw::Canvas& canvas, draw::Size page, const Map& dic, int ap
   const std::string root = dic["labelroot"].text();
   const double h = textHeight(root, {kSpineSize, false}, page.h);
   canvas.drawTurnedText(root, {g.spineX - page.h / 2, page.h / 2 - h / 2, page.h, h},
-                        {kSpineSize, false}, type, draw::Align::Center, std::numbers::pi / 2);
+                        {kSpineSize, false}, type, drawing::Align::Center, std::numbers::pi / 2);
 }
 
-}  // namespace lad::report
+}  // namespace lad::reports

@@ -8,18 +8,18 @@
 #include "core/value.h"
 #include "drawing/canvas.h"
 
-namespace lad::report {
+namespace lad::reports {
 
 // Where the front's column and the spine lie on a page of that width.
 struct CoverGeometry {
-  draw::Point front;   // top left of the front's column
-  double columnWidth;  // the column the texts are centred in
-  double spineX;       // the spine's text is centred on it
+  drawing::Point front;  // top left of the front's column
+  double columnWidth;    // the column the texts are centred in
+  double spineX;         // the spine's text is centred on it
 };
-CoverGeometry coverGeometry(draw::Size page);
+CoverGeometry coverGeometry(drawing::Size page);
 
 // bookOblozhka: draws the front and the spine from the book dictionary over the page's ground.
-void drawBookCover(draw::Canvas& canvas, draw::Size page, const Map& dic, int appid,
+void drawBookCover(drawing::Canvas& canvas, drawing::Size page, const Map& dic, int appid,
                    const std::filesystem::path& imagesDir);
 
-}  // namespace lad::report
+}  // namespace lad::reports

@@ -9,7 +9,7 @@
 #include "store/setup_data.h"
 #include "store/store.h"
 
-namespace lad::report {
+namespace lad::reports {
 
 namespace {
 
@@ -27,7 +27,7 @@ void pregnancyLines(const Context& context, const Map& setup, Map& dic) {
   if (setup["birthdate2"].asDate()) {
     dic.set("label1", labelled(context, "Дата родов:", dayText(context, setup["birthdate2"])));
     dic.set("label2", labelled(context, "Продолжительность беременности:",
-                               ageString(context, AgeMode::ObstetricAge, setup)));
+                               health::ageString(context, health::AgeMode::ObstetricAge, setup)));
   } else {
     dic.set("label1",
             labelled(context, "Приблизительная дата родов:", dayText(context, setup["birthdate"])));
@@ -67,4 +67,4 @@ Map bookDictionary(Store& store, const std::string& gid, int kind, int year) {
   return dic;
 }
 
-}  // namespace lad::report
+}  // namespace lad::reports

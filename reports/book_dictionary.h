@@ -10,10 +10,10 @@ namespace lad {
 class Store;
 }
 
-namespace lad::report {
+namespace lad::reports {
 
 // The book dictionary of the profile for a book of the kind; `year` is the child's year of
 // life from 1 (child edition) or the calendar year (cycle edition).
 Map bookDictionary(Store& store, const std::string& gid, int kind, int year);
 
-}  // namespace lad::report
+}  // namespace lad::reports

@@ -16,7 +16,7 @@
 #include "store/dictionary.h"
 #include "store/store.h"
 
-namespace lad::report {
+namespace lad::reports {
 
 namespace {
 
@@ -41,11 +41,11 @@ void keep(BookPage page, std::vector<BookPage>& pages, const BookOptions& option
 // The jacket (page 1) or the cover (page 2).
 std::optional<BookPage> coverPage(const Context& context, const Map& dic, int number,
                                   const std::filesystem::path& folder, std::string* error) {
-  const draw::Size size = number == 1 ? kJacketPage : kCoverPage;
+  const drawing::Size size = number == 1 ? kJacketPage : kCoverPage;
   const PageGround ground{static_cast<int>(dic["booktype"].intValue()), number, 0};
   BookPage page{number, false, {}, bookPageFile(folder, number)};
   const bool written = PageRaster(size).write(
-      [&](draw::Canvas& canvas) {
+      [&](drawing::Canvas& canvas) {
         paintBookGround(canvas, size, ground, bookPictures(context));
         drawBookCover(canvas, size, dic, context.values().appid, bookPictures(context));
       },
@@ -167,4 +167,4 @@ bool makeBook(Store& store, const BookRequest& request, const BookOptions& optio
   return saveBook(files, request.target, bookCreator(store.context()), error);
 }
 
-}  // namespace lad::report
+}  // namespace lad::reports

@@ -14,7 +14,7 @@ class Context;
 class Store;
 }  // namespace lad
 
-namespace lad::report {
+namespace lad::reports {
 
 struct BookRequest {
   std::string gid;
@@ -53,4 +53,4 @@ bool redrawPicturePage(Store& store, int kind, const BookOptions& options, BookP
 bool makeBook(Store& store, const BookRequest& request, const BookOptions& options,
               std::string* error);
 
-}  // namespace lad::report
+}  // namespace lad::reports

@@ -2,11 +2,11 @@
 
 #include <algorithm>
 
-namespace lad::report {
+namespace lad::reports {
 
 namespace {
 
-using draw::Rect;
+using drawing::Rect;
 
 bool framedKind(int kind) {
   return kind == 2 || kind == 4 || kind == 5;
@@ -120,7 +120,7 @@ int snapLayout(int layout, int count) {
   return choices.front();
 }
 
-std::optional<Rect> layoutRect(int layout, int pos, draw::Size page, double ot) {
+std::optional<Rect> layoutRect(int layout, int pos, drawing::Size page, double ot) {
   const double W = page.w, H = page.h;
   switch (layout) {
     case 10:
@@ -158,4 +158,4 @@ bool layoutHasFrame(int layout, int kind) {
   return passePartout && framedKind(kind);
 }
 
-}  // namespace lad::report
+}  // namespace lad::reports

@@ -8,7 +8,7 @@
 
 #include "drawing/geometry.h"
 
-namespace lad::report {
+namespace lad::reports {
 
 // The layout that a picture page of that many photos takes in the book kind.
 int chooseLayout(int count, int kind);
@@ -26,9 +26,9 @@ int snapLayout(int layout, int count);
 
 // The rectangle of the position (from 1) in the layout on a page of the size; nullopt for a
 // position the layout does not have, and for every position of a layout that places nothing.
-std::optional<draw::Rect> layoutRect(int layout, int pos, draw::Size page, double ot);
+std::optional<drawing::Rect> layoutRect(int layout, int pos, drawing::Size page, double ot);
 
 // The layouts with a white passe-partout around each photo, in the kinds that have it.
 bool layoutHasFrame(int layout, int kind);
 
-}  // namespace lad::report
+}  // namespace lad::reports

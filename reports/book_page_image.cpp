@@ -6,7 +6,7 @@
 #include "drawing/cairo_canvas.h"
 #include "platform/images.h"
 
-namespace lad::report {
+namespace lad::reports {
 
 namespace {
 
@@ -14,7 +14,7 @@ constexpr int kBestQuality = 100;
 
 }  // namespace
 
-PageRaster::PageRaster(draw::Size size)
+PageRaster::PageRaster(drawing::Size size)
     : surface_(cairo_image_surface_create(CAIRO_FORMAT_RGB24, static_cast<int>(std::ceil(size.w)),
                                           static_cast<int>(std::ceil(size.h)))) {}
 
@@ -22,11 +22,11 @@ PageRaster::~PageRaster() {
   cairo_surface_destroy(surface_);
 }
 
-bool PageRaster::write(const draw::Painter& paint, const std::filesystem::path& file,
+bool PageRaster::write(const drawing::Painter& paint, const std::filesystem::path& file,
                        std::string* error) const {
   cairo_t* cr = cairo_create(surface_);
   {
-    draw::CairoCanvas canvas(cr);
+    drawing::CairoCanvas canvas(cr);
     paint(canvas);
   }
   const bool painted = cairo_status(cr) == CAIRO_STATUS_SUCCESS;
@@ -34,7 +34,7 @@ bool PageRaster::write(const draw::Painter& paint, const std::filesystem::path& 
   cairo_surface_flush(surface_);
   std::vector<std::uint8_t> jpeg;
   if (painted && cairo_surface_status(surface_) == CAIRO_STATUS_SUCCESS)
-    jpeg = encodeJpegFromWords(
+    jpeg = platform::encodeJpegFromWords(
         cairo_image_surface_get_data(surface_), cairo_image_surface_get_width(surface_),
         cairo_image_surface_get_height(surface_),
         static_cast<std::size_t>(cairo_image_surface_get_stride(surface_)), kBestQuality);
@@ -52,4 +52,4 @@ bool PageRaster::write(const draw::Painter& paint, const std::filesystem::path& 
   return true;
 }
 
-}  // namespace lad::report
+}  // namespace lad::reports

@@ -10,22 +10,22 @@
 
 #include "drawing/render.h"
 
-namespace lad::report {
+namespace lad::reports {
 
 class PageRaster {
  public:
-  explicit PageRaster(draw::Size size);
+  explicit PageRaster(drawing::Size size);
   ~PageRaster();
   PageRaster(const PageRaster&) = delete;
   PageRaster& operator=(const PageRaster&) = delete;
 
   // Paints the page, which the painter covers whole, and writes it to the file in place of an
   // old one; false with *error filled when it could not be painted or written.
-  bool write(const draw::Painter& paint, const std::filesystem::path& file,
+  bool write(const drawing::Painter& paint, const std::filesystem::path& file,
              std::string* error) const;
 
  private:
   cairo_surface_t* surface_;
 };
 
-}  // namespace lad::report
+}  // namespace lad::reports

@@ -5,7 +5,7 @@
 #include "core/text_fill.h"
 #include "reports/book_page_image.h"
 
-namespace lad::report {
+namespace lad::reports {
 
 namespace {
 
@@ -50,7 +50,7 @@ std::optional<BookPage> BookPageMaker::make(std::span<const BookCommand> command
 bool BookPageMaker::drawPicturePage(BookPage& page, std::string* error) const {
   const PageGround ground{kind_, page.page, 0};
   return raster_.write(
-      [&](draw::Canvas& canvas) {
+      [&](drawing::Canvas& canvas) {
         paintBookGround(canvas, s_.page, ground, picturesDir_);
         page.picture.tp = buildImagePage(canvas, page.picture, s_.page, kind_, s_.ot);
       },
@@ -62,7 +62,7 @@ std::optional<BookPage> BookPageMaker::textPage(std::span<const BookCommand> com
   BookPage page{commands.front().page, false, {}, bookPageFile(folder_, commands.front().page)};
   const PageGround ground{kind_, page.page, openedGroup(commands)};
   const bool written = raster_.write(
-      [&](draw::Canvas& canvas) {
+      [&](drawing::Canvas& canvas) {
         paintBookGround(canvas, s_.page, ground, picturesDir_);
         for (const BookCommand& c : commands) {
           if (c.func == "pdfDrawDayCap")
@@ -76,4 +76,4 @@ std::optional<BookPage> BookPageMaker::textPage(std::span<const BookCommand> com
   return page;
 }
 
-}  // namespace lad::report
+}  // namespace lad::reports

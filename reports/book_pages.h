@@ -11,7 +11,7 @@
 #include "reports/book_recorder.h"
 #include "reports/day_caps.h"
 
-namespace lad::report {
+namespace lad::reports {
 
 // A page of the book as the screen shows it.
 struct BookPage {
@@ -50,4 +50,4 @@ class BookPageMaker {
   PageRaster raster_;  // the pixels every inner page is painted on in turn
 };
 
-}  // namespace lad::report
+}  // namespace lad::reports

@@ -5,7 +5,7 @@
 #include "core/atomic_file.h"
 #include "platform/images.h"
 
-namespace lad::report {
+namespace lad::reports {
 
 namespace {
 
@@ -19,8 +19,8 @@ bool addPage(cairo_surface_t* pdf, cairo_t* cr, const std::filesystem::path& fil
              std::string* error) {
   auto jpeg = std::make_unique<std::string>();
   if (auto bytes = readWholeFile(file)) *jpeg = std::move(*bytes);
-  const auto size =
-      imageSize(std::span(reinterpret_cast<const std::uint8_t*>(jpeg->data()), jpeg->size()));
+  const auto size = platform::imageSize(
+      std::span(reinterpret_cast<const std::uint8_t*>(jpeg->data()), jpeg->size()));
   if (!size || size->width <= 0 || size->height <= 0) {
     *error = "cannot read " + file.string();
     return false;
@@ -74,4 +74,4 @@ bool saveBook(const std::vector<std::filesystem::path>& pages, const std::filesy
   return ok;
 }
 
-}  // namespace lad::report
+}  // namespace lad::reports

@@ -6,7 +6,7 @@
 #include <string>
 #include <vector>
 
-namespace lad::report {
+namespace lad::reports {
 
 // Pixels of the book's pictures per PDF point.
 inline constexpr double kPixelsPerPoint = 4.1667;
@@ -16,4 +16,4 @@ inline constexpr double kPixelsPerPoint = 4.1667;
 bool saveBook(const std::vector<std::filesystem::path>& pages, const std::filesystem::path& target,
               const std::string& creator, std::string* error);
 
-}  // namespace lad::report
+}  // namespace lad::reports

@@ -7,23 +7,23 @@
 #include "reports/picture_fill.h"
 #include "reports/picture_size.h"
 
-namespace lad::report {
+namespace lad::reports {
 
 namespace {
 
 constexpr double kLabelSize = 70;
-const draw::Color kFrameLine{0.8, 0.8, 0.8};
+const drawing::Color kFrameLine{0.8, 0.8, 0.8};
 
 // The white passe-partout around a photo's rectangle.
-void drawFrame(draw::Canvas& canvas, draw::Rect r, double ot) {
-  const draw::Rect frame{r.x - ot, r.y - ot, r.w + 2 * ot, r.h + 2 * ot};
+void drawFrame(drawing::Canvas& canvas, drawing::Rect r, double ot) {
+  const drawing::Rect frame{r.x - ot, r.y - ot, r.w + 2 * ot, r.h + 2 * ot};
   canvas.fillRect(frame, {1, 1, 1});
-  canvas.strokePath(draw::Path().addRect(frame), kFrameLine, 3);
+  canvas.strokePath(drawing::Path().addRect(frame), kFrameLine, 3);
 }
 
 // putImageToPage: the photo filling its position; false when it cannot be read.
-bool putImageToPage(draw::Canvas& canvas, const std::string& file, int pos, int layout,
-                    draw::Size size, int kind, double ot) {
+bool putImageToPage(drawing::Canvas& canvas, const std::string& file, int pos, int layout,
+                    drawing::Size size, int kind, double ot) {
   const auto rect = layoutRect(layout, pos, size, ot);
   if (!rect || rect->w <= 0 || rect->h <= 0) return true;
   if (!pictureSize(file)) return false;
@@ -45,7 +45,7 @@ std::vector<BookImage> readableImages(const std::vector<BookImage>& images) {
   return out;
 }
 
-int buildImagePage(draw::Canvas& canvas, const PicturePage& page, draw::Size size, int kind,
+int buildImagePage(drawing::Canvas& canvas, const PicturePage& page, drawing::Size size, int kind,
                    double ot) {
   const int layout = page.tp ? page.tp : chooseLayout(usedCount(page.images), kind);
   int pos = 1;
@@ -55,8 +55,8 @@ int buildImagePage(draw::Canvas& canvas, const PicturePage& page, draw::Size siz
   }
   if (layout != 31 && !page.pagelabelbottom.empty())
     canvas.drawText(page.pagelabelbottom, {10 * ot, size.h - 8 * ot, size.w - 20 * ot, 3 * ot},
-                    {kLabelSize, false}, bookTextColor(kind), draw::Align::Center);
+                    {kLabelSize, false}, bookTextColor(kind), drawing::Align::Center);
   return layout;
 }
 
-}  // namespace lad::report
+}  // namespace lad::reports

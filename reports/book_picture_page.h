@@ -7,7 +7,7 @@
 
 #include "drawing/canvas.h"
 
-namespace lad::report {
+namespace lad::reports {
 
 // One photo offered to a picture page; only those in use are placed.
 struct BookImage {
@@ -31,7 +31,7 @@ std::vector<BookImage> readableImages(const std::vector<BookImage>& images);
 // buildImagePage: places the photos in use in the layout, in order, until it is full; a photo
 // that cannot be read leaves its place to the next. The page's line stands under them, unless
 // the layout is 31. Gives the layout used.
-int buildImagePage(draw::Canvas& canvas, const PicturePage& page, draw::Size size, int kind,
+int buildImagePage(drawing::Canvas& canvas, const PicturePage& page, drawing::Size size, int kind,
                    double ot);
 
-}  // namespace lad::report
+}  // namespace lad::reports

@@ -2,7 +2,7 @@
 
 #include "reports/day_caps.h"
 
-namespace lad::report {
+namespace lad::reports {
 
 namespace {
 
@@ -49,7 +49,7 @@ double BookRecorder::row(double y, const ReportRow& row, std::optional<Date> dat
 }
 
 bool BookRecorder::photo(const std::string& file,
-                         const std::function<std::optional<draw::Rect>()>&) {
+                         const std::function<std::optional<drawing::Rect>()>&) {
   pending_.push_back({file, true});
   if (pending_.size() < kImagesAPage) return false;
   flushImages();
@@ -76,4 +76,4 @@ void BookRecorder::flushImages() {
   ++page_;
 }
 
-}  // namespace lad::report
+}  // namespace lad::reports

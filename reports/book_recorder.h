@@ -12,7 +12,7 @@
 #include "reports/book_style.h"
 #include "reports/page_output.h"
 
-namespace lad::report {
+namespace lad::reports {
 
 struct BookCommand {
   // "pdfDrawDayCap", "drawPDFPart", "drawPDFPartMulti", "drawPDFPartMulti2", "bookSavePage"
@@ -38,7 +38,7 @@ class BookRecorder : public PageOutput {
   double dayCap(double y, const Map& day, bool big, bool small) override;
   double row(double y, const ReportRow& row, std::optional<Date> date) override;
   bool photo(const std::string& file,
-             const std::function<std::optional<draw::Rect>()>& place) override;
+             const std::function<std::optional<drawing::Rect>()>& place) override;
   void endPages() override;
 
   // bookPageData: the commands in the order recorded.
@@ -57,4 +57,4 @@ class BookRecorder : public PageOutput {
   std::vector<BookCommand> commands_;
 };
 
-}  // namespace lad::report
+}  // namespace lad::reports

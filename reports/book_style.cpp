@@ -5,7 +5,7 @@
 #include "core/text_fill.h"
 #include "reports/picture_fill.h"
 
-namespace lad::report {
+namespace lad::reports {
 
 namespace {
 
@@ -40,11 +40,11 @@ bool isLightBook(int kind) {
   return kind == 2 || kind == 3;
 }
 
-draw::Color bookTextColor(int kind) {
-  return isLightBook(kind) ? draw::Color{0, 0, 0} : draw::Color{1, 1, 1};
+drawing::Color bookTextColor(int kind) {
+  return isLightBook(kind) ? drawing::Color{0, 0, 0} : drawing::Color{1, 1, 1};
 }
 
-PdfSettings bookSettings(const Context& context, draw::Size page, int kind) {
+PdfSettings bookSettings(const Context& context, drawing::Size page, int kind) {
   PdfSettings s;
   s.page = page;
   s.ot = 30;
@@ -53,7 +53,7 @@ PdfSettings bookSettings(const Context& context, draw::Size page, int kind) {
   s.weekfontsize = 90;
   s.yearfontsize = 100;
   s.iconsize = 80;
-  const draw::Color type = bookTextColor(kind);
+  const drawing::Color type = bookTextColor(kind);
   s.textcolor = type;
   s.text2color = type.withAlpha(0.6);
   s.captioncolor = type.withAlpha(0.9);
@@ -62,18 +62,19 @@ PdfSettings bookSettings(const Context& context, draw::Size page, int kind) {
   return s;
 }
 
-draw::Size bookSizeForType(int type, double ot) {
+drawing::Size bookSizeForType(int type, double ot) {
   if (type == 11) return {kInnerPage.w, kInnerPage.h - 40 * ot};
   if (type == 12) return {kInnerPage.w - 20 * ot, kInnerPage.h - 40 * ot};
   return kInnerPage;
 }
 
-void paintBookGround(draw::Canvas& canvas, draw::Size size, const PageGround& ground,
+void paintBookGround(drawing::Canvas& canvas, drawing::Size size, const PageGround& ground,
                      const std::filesystem::path& imagesDir) {
-  const draw::Rect page{0, 0, size.w, size.h};
-  canvas.fillRect(page, isLightBook(ground.kind) ? draw::Color{1, 1, 1} : draw::Color{0, 0, 0});
+  const drawing::Rect page{0, 0, size.w, size.h};
+  canvas.fillRect(page,
+                  isLightBook(ground.kind) ? drawing::Color{1, 1, 1} : drawing::Color{0, 0, 0});
   const std::string picture = groundPicture(ground);
   if (!picture.empty()) drawPictureFilling(canvas, (imagesDir / picture).string(), page);
 }
 
-}  // namespace lad::report
+}  // namespace lad::reports

@@ -4,7 +4,7 @@
 #include "core/date_names.h"
 #include "core/text_fill.h"
 
-namespace lad::report {
+namespace lad::reports {
 
 double dayCapEnd(const PdfSettings& s, double y, bool big, bool small) {
   if (big) y += s.wh + 3 * s.ot;
@@ -25,16 +25,16 @@ std::string DayCapPainter::groupHeading(const Map& day) const {
   return fillIn(context_.translate("%d неделя"), day["group"].intValue());
 }
 
-double DayCapPainter::draw(draw::Canvas& canvas, double y, const Map& day, bool big,
+double DayCapPainter::draw(drawing::Canvas& canvas, double y, const Map& day, bool big,
                            bool small) const {
   const double width = s_.page.w - 20 * s_.ot;
   if (big)
     canvas.drawText(groupHeading(day), {10 * s_.ot, y, width, s_.wh}, {s_.weekfontsize, true},
-                    s_.captioncolor, draw::Align::Left);
+                    s_.captioncolor, drawing::Align::Left);
   if (small)
     canvas.drawText(day["day"].text(), {10 * s_.ot, dayCapEnd(s_, y, big, false), width, s_.dh},
-                    {s_.fontsize, true}, s_.caption2color, draw::Align::Left);
+                    {s_.fontsize, true}, s_.caption2color, drawing::Align::Left);
   return dayCapEnd(s_, y, big, small);
 }
 
-}  // namespace lad::report
+}  // namespace lad::reports

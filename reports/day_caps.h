@@ -6,7 +6,7 @@
 #include "drawing/canvas.h"
 #include "reports/pdf_settings.h"
 
-namespace lad::report {
+namespace lad::reports {
 
 // The y behind the headings the flags ask for, drawn from y.
 double dayCapEnd(const PdfSettings& s, double y, bool big, bool small);
@@ -16,7 +16,7 @@ class DayCapPainter {
   DayCapPainter(const Context& context, const PdfSettings& settings);
 
   // pdfDrawDayCap: the headings the flags ask for, at y; the y behind them.
-  double draw(draw::Canvas& canvas, double y, const Map& day, bool big, bool small) const;
+  double draw(drawing::Canvas& canvas, double y, const Map& day, bool big, bool small) const;
 
  private:
   std::string groupHeading(const Map& day) const;
@@ -25,4 +25,4 @@ class DayCapPainter {
   const PdfSettings& s_;
 };
 
-}  // namespace lad::report
+}  // namespace lad::reports

@@ -2,7 +2,7 @@
 
 #include "reports/picture_size.h"
 
-namespace lad::report {
+namespace lad::reports {
 
 DiaryPages::DiaryPages(PageOutput& output, const PdfSettings& settings, const RowPainter& rows)
     : output_(output), s_(settings), rows_(rows) {}
@@ -107,7 +107,7 @@ void DiaryPages::splitRow(const ReportDay& day, const ReportRow& row, Flags& f) 
 
 // The box of the day's photo under its headings, on a new page when it does not fit; nullopt
 // when the photo cannot be read.
-std::optional<draw::Rect> DiaryPages::photoBox(const ReportDay& day, Flags& f) {
+std::optional<drawing::Rect> DiaryPages::photoBox(const ReportDay& day, Flags& f) {
   const auto size = pictureSize(day.photo);
   if (!size) return std::nullopt;
   const double w = size->width, h = size->height;
@@ -116,7 +116,7 @@ std::optional<draw::Rect> DiaryPages::photoBox(const ReportDay& day, Flags& f) {
   if (f.extra + y_ + drawnH + 10 * s_.ot > s_.page.h) newPage();
   const double top = drawDayCap(y_, day.day, f) + s_.ot;
   y_ = top + drawnH;
-  return draw::Rect{10 * s_.ot, top, drawnW, drawnH};
+  return drawing::Rect{10 * s_.ot, top, drawnW, drawnH};
 }
 
-}  // namespace lad::report
+}  // namespace lad::reports

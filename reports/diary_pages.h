@@ -10,7 +10,7 @@
 #include "reports/page_output.h"
 #include "reports/pdf_rows.h"
 
-namespace lad::report {
+namespace lad::reports {
 
 // One day as the pages draw it.
 struct ReportDay {
@@ -43,7 +43,7 @@ class DiaryPages {
   void drawLines(const ReportDay& day, const ReportRow& row, Flags& f);
   void drawPlain(const ReportDay& day, const ReportRow& row, Flags& f);
   void splitRow(const ReportDay& day, const ReportRow& row, Flags& f);
-  std::optional<draw::Rect> photoBox(const ReportDay& day, Flags& f);
+  std::optional<drawing::Rect> photoBox(const ReportDay& day, Flags& f);
   bool fits(const Flags& f, double bottom) const;
 
   PageOutput& output_;
@@ -53,4 +53,4 @@ class DiaryPages {
   double y_ = 0;
 };
 
-}  // namespace lad::report
+}  // namespace lad::reports

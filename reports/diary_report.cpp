@@ -9,7 +9,7 @@
 #include "store/dictionary.h"
 #include "store/store.h"
 
-namespace lad::report {
+namespace lad::reports {
 
 namespace {
 
@@ -41,7 +41,7 @@ bool saveDiaryReport(Store& store, const std::string& gid, int year, const Map& 
   const std::vector<ReportDay> days = loadReportDays(
       store, gid, reportRegim(dayEdition(context.values().appid)), year, from, listData);
   const std::string caption = dic["caption"].text();
-  draw::PdfDocument pdf(target, kReportPage, caption, caption);
+  drawing::PdfDocument pdf(target, kReportPage, caption, caption);
   const PdfSettings settings = pdfPrepare(context, kReportPage);
   drawTitlePage(pdf.canvas(), context, settings, options.imagesDir, dic);
   pdf.endPage();
@@ -61,4 +61,4 @@ double getReportSize(const std::filesystem::path& file) {
   return error ? 0 : static_cast<double>(bytes / 1048576);
 }
 
-}  // namespace lad::report
+}  // namespace lad::reports

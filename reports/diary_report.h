@@ -13,7 +13,7 @@ class Context;
 class Store;
 }  // namespace lad
 
-namespace lad::report {
+namespace lad::reports {
 
 struct ReportOptions {
   std::filesystem::path imagesDir;  // the program's pictures: title page, frame, row icons
@@ -34,4 +34,4 @@ bool saveDiaryReport(Store& store, const std::string& gid, int year, const Map& 
 // getReportSize: the size of the file in whole megabytes, 0 when it is not there.
 double getReportSize(const std::filesystem::path& file);
 
-}  // namespace lad::report
+}  // namespace lad::reports

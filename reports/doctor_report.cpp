@@ -12,7 +12,7 @@
 #include "store/store.h"
 #include "store/values/value_conversion.h"
 
-namespace lad::report {
+namespace lad::reports {
 
 namespace {
 
@@ -50,8 +50,8 @@ const Kind& kindOf(DoctorReport kind) {
 constexpr double kIconSide = 160;
 constexpr double kHeadingSize = 40;
 constexpr double kTableSize = 30;
-const draw::Color kHeadingColor{0, 0, 0, 0.8};
-const draw::Color kBlack{0, 0, 0};
+const drawing::Color kHeadingColor{0, 0, 0, 0.8};
+const drawing::Color kBlack{0, 0, 0};
 
 // The day's entries of the field in the current form, also when they were stored in the old one.
 List entriesOf(Store& store, DoctorReport kind, Date date, const std::string& gid) {
@@ -67,7 +67,7 @@ List entriesOf(Store& store, DoctorReport kind, Date date, const std::string& gi
 
 class DoctorPage {
  public:
-  DoctorPage(draw::Canvas& canvas, const Context& context, DoctorReport kind)
+  DoctorPage(drawing::Canvas& canvas, const Context& context, DoctorReport kind)
       : c_(canvas), context_(context), kind_(kind), k_(kindOf(kind)) {}
 
   void draw(const std::filesystem::path& imagesDir, Date date, const List& entries) {
@@ -76,10 +76,10 @@ class DoctorPage {
     const std::string heading =
         fillIn(context_.translate(k_.heading), {context_.dates().dateToString(date, "dd.MM.yyyy")});
     const double top = 230 + 3 * kOt;
-    const draw::Font headingFont{kHeadingSize, false};
+    const drawing::Font headingFont{kHeadingSize, false};
     const double headingHeight = textHeight(heading, headingFont, w);
     c_.drawText(heading, {0, top, w, headingHeight}, headingFont, kHeadingColor,
-                draw::Align::Center);
+                drawing::Align::Center);
     double y = top + headingHeight + 4 * kOt;
     for (const Column& column : k_.columns)
       text(context_.translate(column.title), column.x, y, column.w);
@@ -97,7 +97,7 @@ class DoctorPage {
       }
       const std::string comment = entry["comment"].text();
       c_.drawText(comment, {600, y, 500, textHeight(comment, font(), 500)}, font(), kBlack,
-                  draw::Align::Left);
+                  drawing::Align::Left);
       y += line() + kOt;
     }
     if (kind_ != DoctorReport::Fluid) return;
@@ -109,23 +109,23 @@ class DoctorPage {
 
  private:
   static constexpr double kOt = 15;
-  static draw::Font font() { return {kTableSize, false}; }
+  static drawing::Font font() { return {kTableSize, false}; }
   double line() const { return textHeight("Давление", font(), kReportPage.w); }
 
   void text(const std::string& t, double x, double y, double w) {
-    c_.drawText(t, {x, y, w, line()}, font(), kBlack, draw::Align::Left);
+    c_.drawText(t, {x, y, w, line()}, font(), kBlack, drawing::Align::Left);
   }
   // A rule under a line of the table from y; the y where the next line starts.
   double rule(double y) {
     const double at = y + line() + 2 * kOt;
-    draw::Path path;
+    drawing::Path path;
     path.moveTo({100, at});
     path.lineTo({1100, at});
     c_.strokePath(path, kBlack, 1);
     return at + kOt;
   }
 
-  draw::Canvas& c_;
+  drawing::Canvas& c_;
   const Context& context_;
   DoctorReport kind_;
   const Kind& k_;
@@ -143,10 +143,10 @@ bool saveDoctorReport(Store& store, DoctorReport kind, Date date, const std::str
   const Context& context = store.context();
   const List entries = entriesOf(store, kind, date, gid);
   const std::string title = context.translate(kindOf(kind).title);
-  draw::PdfDocument pdf(target, kReportPage, title, title);
+  drawing::PdfDocument pdf(target, kReportPage, title, title);
   DoctorPage(pdf.canvas(), context, kind).draw(imagesDir, date, entries);
   pdf.endPage();
   return pdf.finish(error);
 }
 
-}  // namespace lad::report
+}  // namespace lad::reports

@@ -12,7 +12,7 @@ class Context;
 class Store;
 }  // namespace lad
 
-namespace lad::report {
+namespace lad::reports {
 
 enum class DoctorReport { Pressure = 1, Fluid = 2 };
 
@@ -26,4 +26,4 @@ bool saveDoctorReport(Store& store, DoctorReport kind, Date date, const std::str
                       const std::filesystem::path& imagesDir, const std::filesystem::path& target,
                       std::string* error);
 
-}  // namespace lad::report
+}  // namespace lad::reports

@@ -12,7 +12,7 @@
 #include "drawing/geometry.h"
 #include "reports/pdf_rows.h"
 
-namespace lad::report {
+namespace lad::reports {
 
 class PageOutput {
  public:
@@ -28,9 +28,9 @@ class PageOutput {
   // takes there; one that gathers them for pages of their own keeps the file. True when the
   // photo finished a page, so that the text goes on at the top of the next one.
   virtual bool photo(const std::string& file,
-                     const std::function<std::optional<draw::Rect>()>& place) = 0;
+                     const std::function<std::optional<drawing::Rect>()>& place) = 0;
   // Ends the last page.
   virtual void endPages() = 0;
 };
 
-}  // namespace lad::report
+}  // namespace lad::reports

@@ -5,7 +5,7 @@
 #include "drawing/text_measure.h"
 #include "store/values/list_codecs.h"
 
-namespace lad::report {
+namespace lad::reports {
 
 namespace {
 
@@ -44,9 +44,9 @@ RowPainter::RowPainter(const Context& context, const PdfSettings& settings,
       listData_(listData),
       lineHeight_(textHeight("99", {settings.fontsize, false}, settings.rowTextWidth())),
       timeWidth_(
-          draw::measureText("99:99 ", {settings.fontsize, false}, settings.rowTextWidth()).w) {}
+          drawing::measureText("99:99 ", {settings.fontsize, false}, settings.rowTextWidth()).w) {}
 
-double RowPainter::drawRow(draw::Canvas* canvas, double y, const ReportRow& row,
+double RowPainter::drawRow(drawing::Canvas* canvas, double y, const ReportRow& row,
                            std::optional<Date> date) const {
   if (isTimedLines(row.tp)) return drawMulti(canvas, y, row);
   if (isSentenceLines(row.tp)) return drawMulti2(canvas, y, row, date);
@@ -62,26 +62,26 @@ double RowPainter::drawnEnd(double y, const ReportRow& row, std::optional<Date> 
   return shape == RowShape::Photo || value.empty() ? end : end + s_.ot;
 }
 
-void RowPainter::drawIcon(draw::Canvas& canvas, double y, const std::string& pic) const {
+void RowPainter::drawIcon(drawing::Canvas& canvas, double y, const std::string& pic) const {
   const std::string file = rowIconFile(imagesDir_, pic);
   if (!file.empty()) canvas.drawImage(file, {10 * s_.ot, y, s_.iconsize, s_.iconsize});
 }
 
-double RowPainter::drawPart(draw::Canvas* canvas, double y, const std::string& pic,
+double RowPainter::drawPart(drawing::Canvas* canvas, double y, const std::string& pic,
                             const std::string& text) const {
   if (text.empty()) return y;
-  const draw::Font font{s_.fontsize, false};
+  const drawing::Font font{s_.fontsize, false};
   const double h = textHeight(text, font, s_.rowTextWidth());
   if (!canvas) return y + h;
   drawIcon(*canvas, y, pic);
   canvas->drawText(text, {s_.rowTextX(), y + (s_.iconsize - lineHeight_) / 2, s_.rowTextWidth(), h},
-                   font, s_.textcolor, draw::Align::Left);
+                   font, s_.textcolor, drawing::Align::Left);
   return y + h + s_.ot;
 }
 
-double RowPainter::drawMulti(draw::Canvas* canvas, double y, const ReportRow& row) const {
+double RowPainter::drawMulti(drawing::Canvas* canvas, double y, const ReportRow& row) const {
   if (row.source.empty()) return y;
-  const draw::Font font{s_.fontsize, false};
+  const drawing::Font font{s_.fontsize, false};
   const double textWidth = s_.rowTextWidth() - timeWidth_;
   if (canvas) drawIcon(*canvas, y, row.pic);
   for (const Value& line : multiFromString(row.source, row.tp)) {
@@ -90,19 +90,19 @@ double RowPainter::drawMulti(draw::Canvas* canvas, double y, const ReportRow& ro
     if (canvas) {
       const double top = y + s_.ot / 2;
       canvas->drawText(line["time"].text(), {s_.rowTextX(), top, timeWidth_, h}, font,
-                       s_.text2color, draw::Align::Left);
+                       s_.text2color, drawing::Align::Left);
       canvas->drawText(text, {s_.rowTextX() + timeWidth_, top, textWidth, h}, font, s_.textcolor,
-                       draw::Align::Left);
+                       drawing::Align::Left);
     }
     y += h;
   }
   return canvas ? y + s_.ot : y;
 }
 
-double RowPainter::drawMulti2(draw::Canvas* canvas, double y, const ReportRow& row,
+double RowPainter::drawMulti2(drawing::Canvas* canvas, double y, const ReportRow& row,
                               std::optional<Date> date) const {
   if (row.source.empty()) return y;
-  const draw::Font font{s_.fontsize, false};
+  const drawing::Font font{s_.fontsize, false};
   List lines;
   multi2FromString(context_, lines, row.source, listData_, row.tp, date);
   if (canvas) drawIcon(*canvas, y, row.pic);
@@ -111,10 +111,10 @@ double RowPainter::drawMulti2(draw::Canvas* canvas, double y, const ReportRow& r
     const double h = textHeight(text, font, s_.rowTextWidth());
     if (canvas)
       canvas->drawText(text, {s_.rowTextX(), y + s_.ot / 2, s_.rowTextWidth(), h}, font,
-                       s_.textcolor, draw::Align::Left);
+                       s_.textcolor, drawing::Align::Left);
     y += h;
   }
   return canvas ? y + s_.ot : y;
 }
 
-}  // namespace lad::report
+}  // namespace lad::reports

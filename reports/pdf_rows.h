@@ -12,7 +12,7 @@
 #include "drawing/canvas.h"
 #include "reports/pdf_settings.h"
 
-namespace lad::report {
+namespace lad::reports {
 
 // One filled field of a day, as the report draws it.
 struct ReportRow {
@@ -37,19 +37,19 @@ class RowPainter {
              const List& listData);
 
   // Any row by its kind; a photo row draws nothing.
-  double drawRow(draw::Canvas* canvas, double y, const ReportRow& row,
+  double drawRow(drawing::Canvas* canvas, double y, const ReportRow& row,
                  std::optional<Date> date) const;
   // The y that drawing the row would give, without drawing it.
   double drawnEnd(double y, const ReportRow& row, std::optional<Date> date) const;
   // drawPDFPart: a plain row whose first line stands centred on the icon.
-  double drawPart(draw::Canvas* canvas, double y, const std::string& pic,
+  double drawPart(drawing::Canvas* canvas, double y, const std::string& pic,
                   const std::string& text) const;
 
  private:
-  double drawMulti(draw::Canvas* canvas, double y, const ReportRow& row) const;
-  double drawMulti2(draw::Canvas* canvas, double y, const ReportRow& row,
+  double drawMulti(drawing::Canvas* canvas, double y, const ReportRow& row) const;
+  double drawMulti2(drawing::Canvas* canvas, double y, const ReportRow& row,
                     std::optional<Date> date) const;
-  void drawIcon(draw::Canvas& canvas, double y, const std::string& pic) const;
+  void drawIcon(drawing::Canvas& canvas, double y, const std::string& pic) const;
 
   const Context& context_;
   const PdfSettings& s_;
@@ -59,4 +59,4 @@ class RowPainter {
   double timeWidth_;   // of "99:99 ": the time column
 };
 
-}  // namespace lad::report
+}  // namespace lad::reports

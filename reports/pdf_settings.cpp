@@ -4,7 +4,7 @@
 #include "core/text_fill.h"
 #include "drawing/text_measure.h"
 
-namespace lad::report {
+namespace lad::reports {
 
 namespace {
 
@@ -26,7 +26,7 @@ std::string keepEnds(std::string_view text, const std::vector<std::size_t>& star
 
 }  // namespace
 
-PdfSettings pdfPrepare(const Context& context, draw::Size page) {
+PdfSettings pdfPrepare(const Context& context, drawing::Size page) {
   PdfSettings s;
   s.page = page;
   measureHeadings(context, s);
@@ -39,9 +39,9 @@ void measureHeadings(const Context& context, PdfSettings& s) {
   s.dh = pdfStringHeight(week, s.page.w, s.fontsize, 10);
 }
 
-double textHeight(std::string_view text, draw::Font f, double width) {
+double textHeight(std::string_view text, drawing::Font f, double width) {
   if (text.empty()) return 0;
-  return draw::measureText(text, f, width).h + 1;
+  return drawing::measureText(text, f, width).h + 1;
 }
 
 double pdfStringHeight(std::string_view text, double width, double fontsize, int minheight) {
@@ -50,20 +50,20 @@ double pdfStringHeight(std::string_view text, double width, double fontsize, int
   return a > minheight ? static_cast<int>(a) : minheight;
 }
 
-std::string cutInMiddle(std::string_view text, draw::Font f, double width) {
-  if (draw::measureText(text, f).w <= width) return std::string(text);
+std::string cutInMiddle(std::string_view text, drawing::Font f, double width) {
+  if (drawing::measureText(text, f).w <= width) return std::string(text);
   const std::vector<std::size_t> starts = characterStarts(text);
   // The most characters that still fit with "…" between them.
   std::size_t fits = 0, tooMany = starts.size();
   while (tooMany - fits > 1) {
     const std::size_t kept = (fits + tooMany) / 2;
-    (draw::measureText(keepEnds(text, starts, kept), f).w <= width ? fits : tooMany) = kept;
+    (drawing::measureText(keepEnds(text, starts, kept), f).w <= width ? fits : tooMany) = kept;
   }
   return keepEnds(text, starts, fits);
 }
 
 double RowTextMeasurer::textHeight(std::string_view text, double width) const {
-  return report::textHeight(text, {fontsize_, false}, width);
+  return reports::textHeight(text, {fontsize_, false}, width);
 }
 
-}  // namespace lad::report
+}  // namespace lad::reports

@@ -5,14 +5,14 @@
 
 #include "drawing/canvas.h"
 
-namespace lad::report {
+namespace lad::reports {
 
 // The rectangle the picture of that size covers when it fills the area.
-draw::Rect fillingRect(double width, double height, draw::Rect area);
+drawing::Rect fillingRect(double width, double height, drawing::Rect area);
 
 // Draws the picture filling the area, cut to `clip` (the area itself when empty). False when
 // the picture cannot be read; nothing is drawn then.
-bool drawPictureFilling(draw::Canvas& canvas, const std::string& file, draw::Rect area,
-                        const draw::Path& clip = {});
+bool drawPictureFilling(drawing::Canvas& canvas, const std::string& file, drawing::Rect area,
+                        const drawing::Path& clip = {});
 
-}  // namespace lad::report
+}  // namespace lad::reports

@@ -6,9 +6,9 @@
 
 #include "platform/images.h"
 
-namespace lad::report {
+namespace lad::reports {
 
 // The size of a JPEG or PNG file, upright; nullopt when it cannot be read or has no pixels.
-std::optional<ImageSize> pictureSize(const std::string& file);
+std::optional<platform::ImageSize> pictureSize(const std::string& file);
 
-}  // namespace lad::report
+}  // namespace lad::reports

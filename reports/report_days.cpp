@@ -6,7 +6,7 @@
 #include "store/store.h"
 #include "store/values/today_note.h"
 
-namespace lad::report {
+namespace lad::reports {
 
 namespace {
 
@@ -50,4 +50,4 @@ std::vector<std::string> dayPhotos(const std::vector<ReportDay>& days) {
   return files;
 }
 
-}  // namespace lad::report
+}  // namespace lad::reports

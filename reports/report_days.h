@@ -9,7 +9,7 @@ namespace lad {
 class Store;
 }
 
-namespace lad::report {
+namespace lad::reports {
 
 // The days that the loader gives in the regim, from `from` or of the year, each with its
 // rows as the day editor lists them and the file of its full photo.
@@ -19,4 +19,4 @@ std::vector<ReportDay> loadReportDays(Store& store, const std::string& gid, int 
 // The days' photos in the order the pages draw them.
 std::vector<std::string> dayPhotos(const std::vector<ReportDay>& days);
 
-}  // namespace lad::report
+}  // namespace lad::reports

@@ -5,7 +5,7 @@
 #include "store/setup_data.h"
 #include "store/store.h"
 
-namespace lad::report {
+namespace lad::reports {
 
 namespace {
 
@@ -26,12 +26,12 @@ void pregnancyPairs(const Context& context, const Map& setup, Map& dic) {
     dic.set("cap1", context.translate("Дата родов:"));
     dic.set("val1", dayText(context, setup["birthdate2"]));
     dic.set("cap2", context.translate("Продолжительность беременности:"));
-    dic.set("val2", ageString(context, AgeMode::ObstetricAge, setup));
+    dic.set("val2", health::ageString(context, health::AgeMode::ObstetricAge, setup));
   } else {
     dic.set("cap1", context.translate("Приблизительная дата родов:"));
     dic.set("val1", dayText(context, setup["birthdate"]));
     dic.set("cap2", context.translate("Возраст малыша:"));
-    dic.set("val2", ageString(context, AgeMode::ConceptionAge, setup));
+    dic.set("val2", health::ageString(context, health::AgeMode::ConceptionAge, setup));
   }
 }
 
@@ -72,4 +72,4 @@ Map diaryReportInput(Store& store, const std::string& gid, int year) {
   return dic;
 }
 
-}  // namespace lad::report
+}  // namespace lad::reports

@@ -10,11 +10,11 @@ namespace lad {
 class Store;
 }
 
-namespace lad::report {
+namespace lad::reports {
 
 // The input dictionary of the report for the profile: "caption", "dat1", "cap1"/"val1" ... A
 // pregnancy tells its dates of birth and its length or the child's age; a child its name,
 // birthday and the year of life the report covers (year from 1); the woman the calendar year.
 Map diaryReportInput(Store& store, const std::string& gid, int year);
 
-}  // namespace lad::report
+}  // namespace lad::reports

@@ -8,7 +8,7 @@
 #include "store/setup_data.h"
 #include "store/store.h"
 
-namespace lad::report {
+namespace lad::reports {
 
 std::string defaultReportProfile(Store& store) {
   const int appid = store.context().values().appid;
@@ -60,4 +60,4 @@ bool makeReport(Store& store, const ReportRequest& r, const ReportOptions& optio
                          options, error);
 }
 
-}  // namespace lad::report
+}  // namespace lad::reports

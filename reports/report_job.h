@@ -8,7 +8,7 @@
 #include "core/dates.h"
 #include "reports/diary_report.h"
 
-namespace lad::report {
+namespace lad::reports {
 
 enum class ReportKind { Diary, Pressure, Fluid };
 
@@ -35,4 +35,4 @@ std::filesystem::path defaultReportFile(const Context& context, ReportKind kind)
 bool makeReport(Store& store, const ReportRequest& request, const ReportOptions& options,
                 std::string* error);
 
-}  // namespace lad::report
+}  // namespace lad::reports

@@ -2,16 +2,16 @@
 
 #include "reports/picture_size.h"
 
-namespace lad::report {
+namespace lad::reports {
 
 namespace {
 
-const draw::Color kNumberColor{0, 0, 0, 0.8};
-const draw::Shadow kPhotoShadow{{0.7, 0.7, 0.7}, {2, 2}, 3};
+const drawing::Color kNumberColor{0, 0, 0, 0.8};
+const drawing::Shadow kPhotoShadow{{0.7, 0.7, 0.7}, {2, 2}, 3};
 
 }  // namespace
 
-ReportPageOutput::ReportPageOutput(const Context& context, draw::PdfDocument& pdf,
+ReportPageOutput::ReportPageOutput(const Context& context, drawing::PdfDocument& pdf,
                                    const PdfSettings& settings, const RowPainter& rows,
                                    std::filesystem::path imagesDir)
     : pdf_(pdf),
@@ -25,7 +25,7 @@ ReportPageOutput::ReportPageOutput(const Context& context, draw::PdfDocument& pd
 void ReportPageOutput::newPage(bool close) {
   if (close) pdf_.endPage();
   ++pageCount_;
-  draw::Canvas& c = pdf_.canvas();
+  drawing::Canvas& c = pdf_.canvas();
   const double w = s_.page.w, h = s_.page.h;
   for (const auto& [name, atBottom] :
        {std::pair{"pdftitle-top.jpg", false}, std::pair{"pdftitle-bottom.jpg", true}}) {
@@ -35,9 +35,9 @@ void ReportPageOutput::newPage(bool close) {
       c.drawImage(file, {0, atBottom ? h - drawn : 0, w, drawn});
     }
   }
-  const draw::Font font{s_.fontsize * 1.2, false};
+  const drawing::Font font{s_.fontsize * 1.2, false};
   c.drawText(std::to_string(pageCount_ + 1), {0, h - 8.7 * s_.ot, w - 2 * s_.ot, s_.fontsize * 2},
-             font, kNumberColor, draw::Align::Right);
+             font, kNumberColor, drawing::Align::Right);
 }
 
 double ReportPageOutput::dayCap(double y, const Map& day, bool big, bool small) {
@@ -49,7 +49,7 @@ double ReportPageOutput::row(double y, const ReportRow& row, std::optional<Date>
 }
 
 bool ReportPageOutput::photo(const std::string& file,
-                             const std::function<std::optional<draw::Rect>()>& place) {
+                             const std::function<std::optional<drawing::Rect>()>& place) {
   if (const auto box = place()) {
     pdf_.canvas().fillShadow(*box, kPhotoShadow);
     pdf_.canvas().drawImage(file, *box);
@@ -61,4 +61,4 @@ void ReportPageOutput::endPages() {
   pdf_.endPage();
 }
 
-}  // namespace lad::report
+}  // namespace lad::reports

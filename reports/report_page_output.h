@@ -8,22 +8,22 @@
 #include "reports/day_caps.h"
 #include "reports/page_output.h"
 
-namespace lad::report {
+namespace lad::reports {
 
 class ReportPageOutput : public PageOutput {
  public:
-  ReportPageOutput(const Context& context, draw::PdfDocument& pdf, const PdfSettings& settings,
+  ReportPageOutput(const Context& context, drawing::PdfDocument& pdf, const PdfSettings& settings,
                    const RowPainter& rows, std::filesystem::path imagesDir);
 
   void newPage(bool close) override;
   double dayCap(double y, const Map& day, bool big, bool small) override;
   double row(double y, const ReportRow& row, std::optional<Date> date) override;
   bool photo(const std::string& file,
-             const std::function<std::optional<draw::Rect>()>& place) override;
+             const std::function<std::optional<drawing::Rect>()>& place) override;
   void endPages() override;
 
  private:
-  draw::PdfDocument& pdf_;
+  drawing::PdfDocument& pdf_;
   const PdfSettings& s_;
   const RowPainter& rows_;
   DayCapPainter caps_;
@@ -31,4 +31,4 @@ class ReportPageOutput : public PageOutput {
   int pageCount_ = 0;  // pages of days begun; the title page is not counted
 };
 
-}  // namespace lad::report
+}  // namespace lad::reports

@@ -14,7 +14,7 @@ namespace lad::server {
 
 class CloudFollower {
  public:
-  using Done = std::function<void(const PassOutcome&, bool percentChanged)>;
+  using Done = std::function<void(const cloud::PassOutcome&, bool percentChanged)>;
 
   // `done` hears of every pass, on the main loop.
   CloudFollower(MainLoop& loop, shell::Application& app, Done done);
@@ -33,9 +33,9 @@ class CloudFollower {
   MainLoop& loop_;
   shell::Application& app_;
   Done done_;
-  std::unique_ptr<FolderWatcher> watcher_;
+  std::unique_ptr<platform::FolderWatcher> watcher_;
   bool passScheduled_ = false;  // main loop only
-  RefusedFiles refused_;
+  cloud::RefusedFiles refused_;
 };
 
 }  // namespace lad::server

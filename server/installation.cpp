@@ -54,7 +54,8 @@ Installation::Installation(ContextOptions options) {
       kReminderCheck, [this] { deliverReminders(); }, true);
   loop_.call([this] {
     cloud_ = std::make_unique<CloudFollower>(
-        loop_, *app_, [this](const PassOutcome& o, bool percent) { afterCloudPass(o, percent); });
+        loop_, *app_,
+        [this](const cloud::PassOutcome& o, bool percent) { afterCloudPass(o, percent); });
     cloud_->poll();
   });
   loop_.addTimer(
@@ -172,7 +173,7 @@ void Installation::followCloudFolder(const std::filesystem::path& folder) {
     Context& context = app_->context();
     context.settings().set("cloudFolder", folder.string());
     context.values().cloudWatching = true;
-    chooseCloudSync(context);
+    cloud::chooseCloudSync(context);
     cloud_->poll();
   });
 }
@@ -241,9 +242,9 @@ void Installation::deliverReminders() {
   if (!due.empty()) refresh("");
 }
 
-void Installation::afterCloudPass(const PassOutcome& outcome, bool percentChanged) {
+void Installation::afterCloudPass(const cloud::PassOutcome& outcome, bool percentChanged) {
   if (outcome.dataChanged) app_->dataChanged();
-  for (const CloudNotice& notice : outcome.notices) {
+  for (const cloud::CloudNotice& notice : outcome.notices) {
     for (auto& [id, entry] : sessions_)
       entry.session->showMessage(
           shell::MessageBox::make(app_->context(), notice.text, notice.caption));

@@ -99,7 +99,7 @@ class Installation {
   // which may show them as system notifications while hidden.
   void deliverReminders();
   // What a pass of the cloud folder changed reaches the browsers.
-  void afterCloudPass(const PassOutcome& outcome, bool percentChanged);
+  void afterCloudPass(const cloud::PassOutcome& outcome, bool percentChanged);
 
   MainLoop loop_;
   EventHub hub_;

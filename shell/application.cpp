@@ -25,7 +25,7 @@ Application::Application(ContextOptions options)
   correctBackground(context_->values(), context_->values().backgroundId);
 }
 
-void Application::startBook(report::BookRequest request) {
+void Application::startBook(reports::BookRequest request) {
   book_ = std::make_shared<BookProject>(*store_, documents_, imagesDir_, std::move(request));
   book_->start();
 }
@@ -85,8 +85,8 @@ void Application::resignActive() {
   context_->settings().synchronize();
 }
 
-BulkCopy& Application::startCloudCopy() {
-  cloudCopy_ = std::make_unique<BulkCopy>(*store_);
+cloud::BulkCopy& Application::startCloudCopy() {
+  cloudCopy_ = std::make_unique<cloud::BulkCopy>(*store_);
   return *cloudCopy_;
 }
 

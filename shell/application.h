@@ -77,12 +77,12 @@ class Application {
   // The photo book being composed, else null. There is one at a time: its pages share a folder.
   std::shared_ptr<BookProject> book() const { return book_; }
   // A new book replaces the one composed before; its pages are drawn on the worker.
-  void startBook(report::BookRequest request);
+  void startBook(reports::BookRequest request);
   void endBook() { book_.reset(); }
   // The copy of the whole diary into the cloud folder while it runs, else null. It belongs to
   // the installation, so that it goes on when its screen is closed.
-  BulkCopy* cloudCopy() { return cloudCopy_.get(); }
-  BulkCopy& startCloudCopy();
+  cloud::BulkCopy* cloudCopy() { return cloudCopy_.get(); }
+  cloud::BulkCopy& startCloudCopy();
   void endCloudCopy() { cloudCopy_.reset(); }
 
   // Where the charts and the reports find their pictures.
@@ -108,7 +108,7 @@ class Application {
   std::map<std::string, health::BreastTimer> breastTimers_;
   std::uint64_t dataVersion_ = 0;
   ReminderSchedule reminders_;
-  std::unique_ptr<BulkCopy> cloudCopy_;
+  std::unique_ptr<cloud::BulkCopy> cloudCopy_;
   std::unique_ptr<ReportMaker> reports_;
   std::shared_ptr<BookProject> book_;
   std::filesystem::path imagesDir_;

@@ -24,9 +24,10 @@ constexpr std::string_view kCopyCaption = "Копирование данных �
 constexpr std::string_view kLoadCaption = "Загрузка данных";
 
 int choiceOf(int mode) {
-  if (mode == 2 || mode == kCloudImport || mode == kCloudSync) return kChoiceFolder;
-  if (mode == 4 || mode == 5 || mode == kCloudRemote) return kChoiceRemote;
-  return kChoiceOff;
+  if (mode == 2 || mode == cloud::kCloudImport || mode == cloud::kCloudSync)
+    return cloud::kChoiceFolder;
+  if (mode == 4 || mode == 5 || mode == cloud::kCloudRemote) return cloud::kChoiceRemote;
+  return cloud::kChoiceOff;
 }
 
 // A folder can be used when it is there, or the nearest folder above it that is there can
@@ -71,8 +72,8 @@ Value CloudScreen::view() {
   editor.caption = context.translate("Работа с облаком");
   editor.rows.push_back(
       row(kSegments, kChoice, context.translate("Отключено|Общая папка|Удаленный диск"), choice_));
-  editor.rows.push_back(row(kText, "", cloudExplanation(context, choice_, folderUsable())));
-  if (choice_ == kChoiceFolder) {
+  editor.rows.push_back(row(kText, "", cloud::cloudExplanation(context, choice_, folderUsable())));
+  if (choice_ == cloud::kChoiceFolder) {
     EditorRowView folder = row(kTextInput, kFolder, context.translate("Папка"), folder_);
     folder.editcap = "/home/…/Ладанея";
     editor.rows.push_back(std::move(folder));
@@ -82,15 +83,17 @@ Value CloudScreen::view() {
                               "одинаковой на всех ваших устройствах. Лучше отдельную папку только "
                               "для дневника.")));
   }
-  if (const BulkCopy* copy = app_.cloudCopy())
+  if (const cloud::BulkCopy* copy = app_.cloudCopy())
     editor.rows.push_back(
         row(kText, "", copy->message() + " - " + std::to_string(copy->percent()) + "%"));
-  else if (choice_ != kChoiceOff) {
-    const bool old = context.values().oldCloudFound || context.values().cloudMode == kCloudImport;
+  else if (choice_ != cloud::kChoiceOff) {
+    const bool old =
+        context.values().oldCloudFound || context.values().cloudMode == cloud::kCloudImport;
     if (old)
       editor.rows.push_back(
           row(kButton, kOld, context.translate("Загрузить данные в старом формате")));
-    else if (choice_ == kChoiceRemote || (hasCloudFolder(context) && !folderChanged()))
+    else if (choice_ == cloud::kChoiceRemote ||
+             (cloud::hasCloudFolder(context) && !folderChanged()))
       editor.rows.push_back(
           row(kButton, kCopy, context.translate("Заменить данные в облаке данными отсюда")));
   }
@@ -102,7 +105,7 @@ Value CloudScreen::view() {
 EventResult CloudScreen::change(std::string_view target, const Value& value) {
   if (target == kChoice) {
     const auto chosen = value.intValue();
-    if (chosen < kChoiceOff || chosen > kChoiceRemote)
+    if (chosen < cloud::kChoiceOff || chosen > cloud::kChoiceRemote)
       return EventResult::refused("the cloud mode is 0, 1 or 2");
     choice_ = static_cast<int>(chosen);
     return {};
@@ -134,16 +137,16 @@ EventResult CloudScreen::tap(std::string_view target) {
 EventResult CloudScreen::closeOK() {
   Context& context = app_.context();
   ProcessValues& v = context.values();
-  const int pending = choice_ == kChoiceFolder   ? kCloudSync
-                      : choice_ == kChoiceRemote ? kCloudRemote
-                                                 : kCloudOff;
-  if (pending == kCloudRemote) {
+  const int pending = choice_ == cloud::kChoiceFolder   ? cloud::kCloudSync
+                      : choice_ == cloud::kChoiceRemote ? cloud::kCloudRemote
+                                                        : cloud::kCloudOff;
+  if (pending == cloud::kCloudRemote) {
     host_.showMessage(MessageBox::make(
         context, "Копирование данных в облако Dropbox будет реализовано в следующей версии.",
         "Синхронизация через DropBox"));
     return {};
   }
-  if (pending == kCloudSync && !folderUsable()) {
+  if (pending == cloud::kCloudSync && !folderUsable()) {
     host_.showMessage(MessageBox::make(
         context, "Укажите полный путь к папке, в которую программа может писать.", "Ошибка"));
     return {};
@@ -151,7 +154,7 @@ EventResult CloudScreen::closeOK() {
   EventResult result;
   result.installationChanged = true;
   closed_ = true;
-  if (pending == kCloudOff) {
+  if (pending == cloud::kCloudOff) {
     v.cloudWatching = false;  // the mode itself stays, as stored
     return result;
   }
@@ -159,13 +162,13 @@ EventResult CloudScreen::closeOK() {
   if (pending == v.cloudMode && !folderChanged()) return result;
   context.settings().set("cloudFolder", folder_);
   v.cloudPercent = -1;
-  chooseCloudSync(context);
+  cloud::chooseCloudSync(context);
   return result;
 }
 
 EventResult CloudScreen::optimizeOK() {
   const Context& context = app_.context();
-  if (choice_ == kChoiceRemote) {
+  if (choice_ == cloud::kChoiceRemote) {
     host_.showMessage(MessageBox::make(
         context, "Копирование данных в облако DropBox будет реализовано в следующей версии",
         kCopyCaption));
@@ -200,14 +203,14 @@ EventResult CloudScreen::olddownloadOK() {
             "этом данные в старом формате останутся в облаке. Для их удаления воспользуйтесь "
             "кнопкой оптимизации.",
             kLoadCaption));
-        app_.context().values().cloudMode = kCloudImport;
+        app_.context().values().cloudMode = cloud::kCloudImport;
         return EventResult();
       });
   return {};
 }
 
 EventResult continueCloudCopy(Application& app, ScreenHost& host) {
-  BulkCopy* copy = app.cloudCopy();
+  cloud::BulkCopy* copy = app.cloudCopy();
   EventResult result;
   result.installationChanged = true;
   if (copy && copy->step(kUnitsPerStep)) {

@@ -54,7 +54,7 @@ Value ContractionScreen::chartView(const char* id, const List& points, const cha
   charts::Chart chart(scale_, {});  // the counter's charts use no pictures
   chart.prepare(health::contractionChart(points, context.translate(caption),
                                          context.values().themeDarkIcons));
-  const draw::Size size{kChartWidth * scale_, kChartHeight * scale_};
+  const drawing::Size size{kChartWidth * scale_, kChartHeight * scale_};
   return SvgView{id, chart.svg(size), size.w, size.h}.toValue();
 }
 

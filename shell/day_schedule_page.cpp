@@ -64,7 +64,7 @@ Value DaySchedulePage::view() {
   schedule.meals = {std::string(kMealTimes), context.translate("Время приема пищи"), std::nullopt};
   for (const health::ScheduleRow& row : health::prepare(app_.store(), day, gid_, listData))
     schedule.rows.push_back(rowView(row));
-  return PageView{week::pageTitle(context, kSchedulePage), List{schedule.toValue()}}.toValue();
+  return PageView{pageTitle(context, kSchedulePage), List{schedule.toValue()}}.toValue();
 }
 
 EventResult DaySchedulePage::tap(std::string_view target) {

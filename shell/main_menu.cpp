@@ -89,7 +89,7 @@ RowView MainMenu::rowOf(const Value& item) const {
   row.caption = item["name"].text();
   row.comment = item["comment"].text();
   if (id == kCloudRow) {  // the line tells the mode in place of the row's own texts
-    row.caption = cloudText(context_);
+    row.caption = cloud::cloudText(context_);
     row.comment.clear();
   }
   if (item["hint"].intValue() > 0) row.badge = item["hint"].text();

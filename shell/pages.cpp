@@ -36,7 +36,7 @@ std::shared_ptr<Screen> makePage(int page, const PageArgs& args) {
       return ContractionScreen::open(args.app, args.gid, args.scale);
     case kDoctorPage:
       if (!isPregnancyEdition(args.app.context().values().appid)) return nullptr;
-      return checks::doctorPage(args.app, args.host, args.gid);
+      return doctorPage(args.app, args.host, args.gid);
     case kTodayPage:
       if (isPregnancyEdition(args.app.context().values().appid))
         return std::make_shared<TodayPage>(args.app, args.gid, args.scale);

@@ -66,9 +66,9 @@ ProfileCard cardOf(const Context& context, const Map& profile) {
     result.set("sex", profile["sex"]);
     card.lines.push_back(context.translate("Беременность завершена:"));
     card.lines.push_back(dateText(context, birth));
-    card.lines.push_back(ageString(context, AgeMode::ShortBirthResult, result));
+    card.lines.push_back(health::ageString(context, health::AgeMode::ShortBirthResult, result));
   } else {
-    card.lines.push_back(pregnancyStateLine(context, stateSetup(profile)));
+    card.lines.push_back(health::pregnancyStateLine(context, stateSetup(profile)));
   }
   return card;
 }
@@ -77,7 +77,7 @@ ProfileCard childCardOf(const Context& context, const Map& profile) {
   ProfileCard card = cardHead(context, profile, kNoChildPicture);
   card.lines.push_back(dateText(context, profile["sbirthdate"]));
   if (const auto born = profile["sbirthdate"].asDate())
-    card.lines.push_back(monthAge(context, *born, context.clock().now(), true, false));
+    card.lines.push_back(health::monthAge(context, *born, context.clock().now(), true, false));
   return card;
 }
 

@@ -11,10 +11,10 @@ namespace lad::shell {
 
 namespace {
 
-const std::pair<const char*, PregnancyDateField> kDateFields[] = {
-    {"sdat1", PregnancyDateField::Sdat1},
-    {"sdat2", PregnancyDateField::Sdat2},
-    {"sbirthdate", PregnancyDateField::Sbirthdate},
+const std::pair<const char*, health::PregnancyDateField> kDateFields[] = {
+    {"sdat1", health::PregnancyDateField::Sdat1},
+    {"sdat2", health::PregnancyDateField::Sdat2},
+    {"sbirthdate", health::PregnancyDateField::Sbirthdate},
 };
 
 std::string editorDate(const Context& context, const Map& setup, std::string_view key) {
@@ -87,11 +87,12 @@ std::optional<MessageBox> ProfileDialog::change(std::string_view field, const Va
   return refusal;
 }
 
-void ProfileDialog::correctDates(PregnancyDateField changed, std::optional<MessageBox>& refusal) {
+void ProfileDialog::correctDates(health::PregnancyDateField changed,
+                                 std::optional<MessageBox>& refusal) {
   const Context& c = app_.context();
-  const PregnancyDateTexts dates{editor_.text("sdat1"), editor_.text("sdat2"),
-                                 editor_.text("sbirthdate")};
-  const DateCorrection corrected = setupCorrectDate(c, dates, changed);
+  const health::PregnancyDateTexts dates{editor_.text("sdat1"), editor_.text("sdat2"),
+                                         editor_.text("sbirthdate")};
+  const health::DateCorrection corrected = setupCorrectDate(c, dates, changed);
   editor_.change("sdat1", Value(corrected.fields.sdat1));
   editor_.change("sdat2", Value(corrected.fields.sdat2));
   editor_.change("sbirthdate", Value(corrected.fields.sbirthdate));
@@ -100,8 +101,8 @@ void ProfileDialog::correctDates(PregnancyDateField changed, std::optional<Messa
 }
 
 void ProfileDialog::correctBodyIndex() {
-  const BodyIndex index =
-      lad::correctBodyIndex(app_.context(), editor_.text("rost"), editor_.text("ves"));
+  const health::BodyIndex index =
+      lad::health::correctBodyIndex(app_.context(), editor_.text("rost"), editor_.text("ves"));
   editor_.setRowKey("bodytype", "caption", Value(index.text));
   editor_.change("bodytype", Value(index.bodytype));
 }

@@ -47,7 +47,7 @@ class ProfileDialog : public SettingsDialog {
 
  private:
   void changePhoto(const Value& picture);
-  void correctDates(PregnancyDateField changed, std::optional<MessageBox>& refusal);
+  void correctDates(health::PregnancyDateField changed, std::optional<MessageBox>& refusal);
   void correctBodyIndex();
 
   Application& app_;

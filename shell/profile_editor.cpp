@@ -97,7 +97,7 @@ void ProfileEditor::askRemoval() {
 EventResult ProfileEditor::finish() {
   std::string photoError;
   saved_ = dialog_->finish(&photoError);
-  cloudProfileChanged(app_.store(), saved_);
+  cloud::cloudProfileChanged(app_.store(), saved_);
   closed_ = true;
   if (!photoError.empty())
     host_.showMessage(MessageBox::make(app_.context(), photoError, "Ошибка"));

@@ -6,14 +6,14 @@ namespace lad::shell {
 
 namespace {
 
-bool sameRequest(const report::ReportRequest& a, const report::ReportRequest& b) {
+bool sameRequest(const reports::ReportRequest& a, const reports::ReportRequest& b) {
   return a.kind == b.kind && a.gid == b.gid && a.date == b.date && a.year == b.year &&
          a.target == b.target;
 }
 
 }  // namespace
 
-std::shared_ptr<const ReportJob> ReportMaker::start(const report::ReportRequest& request) {
+std::shared_ptr<const ReportJob> ReportMaker::start(const reports::ReportRequest& request) {
   std::lock_guard lock(mutex_);
   std::erase_if(unfinished_, [](const auto& job) { return job->finished(); });
   for (const auto& job : unfinished_)
@@ -27,12 +27,12 @@ std::shared_ptr<const ReportJob> ReportMaker::start(const report::ReportRequest&
 
 void ReportMaker::make(ReportJob& job) const {
   job.state = ReportJob::State::Running;
-  report::ReportOptions options{imagesDir_, [&job](std::size_t done, std::size_t total) {
-                                  job.total = total;
-                                  job.done = done;
-                                }};
+  reports::ReportOptions options{imagesDir_, [&job](std::size_t done, std::size_t total) {
+                                   job.total = total;
+                                   job.done = done;
+                                 }};
   std::string error;
-  const bool ok = report::makeReport(store_, job.request, options, &error);
+  const bool ok = reports::makeReport(store_, job.request, options, &error);
   if (!ok) job.error = error;
   job.state = ok ? ReportJob::State::Done : ReportJob::State::Failed;
 }

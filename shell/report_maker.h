@@ -22,7 +22,7 @@ struct ReportJob {
   enum class State { Waiting, Running, Done, Failed };
   enum class Document { Report, Book };
 
-  report::ReportRequest request;  // of a book, only the target
+  reports::ReportRequest request;  // of a book, only the target
   Document document = Document::Report;
   std::atomic<State> state{State::Waiting};
   std::atomic<std::size_t> done{0};   // days or pages drawn
@@ -39,7 +39,7 @@ class ReportMaker {
   // Where the pictures of the reports are; set before the first report.
   void setImagesDir(std::filesystem::path dir) { imagesDir_ = std::move(dir); }
 
-  std::shared_ptr<const ReportJob> start(const report::ReportRequest& request);
+  std::shared_ptr<const ReportJob> start(const reports::ReportRequest& request);
 
  private:
   void make(ReportJob& job) const;

@@ -8,7 +8,7 @@
 namespace lad::shell {
 
 using namespace std::chrono_literals;
-using report::ReportKind;
+using reports::ReportKind;
 
 namespace {
 
@@ -101,12 +101,12 @@ EventResult ReportPanel::choose(const PopupAnswer& answer, const std::string& gi
 }
 
 EventResult ReportPanel::start(ReportKind kind, const std::string& gid, Date day) {
-  report::ReportRequest request;
+  reports::ReportRequest request;
   request.kind = kind;
   request.gid = gid;
   request.date = day;
-  request.year = report::defaultReportYear(app_.store(), gid);
-  request.target = report::defaultReportFile(app_.context(), kind);
+  request.year = reports::defaultReportYear(app_.store(), gid);
+  request.target = reports::defaultReportFile(app_.context(), kind);
   return follow(app_.reports().start(request));
 }
 

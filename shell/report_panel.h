@@ -49,7 +49,7 @@ class ReportPanel {
 
  private:
   EventResult choose(const PopupAnswer& answer, const std::string& gid);
-  EventResult start(report::ReportKind kind, const std::string& gid, Date day);
+  EventResult start(reports::ReportKind kind, const std::string& gid, Date day);
 
   Application& app_;
   ScreenHost& host_;

@@ -86,8 +86,7 @@ void Session::addMenuCommands() {
   if (!isCycleEdition(appid))
     menu_.onCommand(
         kBookRow, showing([this] { push(std::make_shared<BookKinds>(app_, *this, profileId())); }));
-  menu_.onCommand(kHospitalListsRow,
-                  showing([this] { push(checks::hospitalListsPage(app_, *this)); }));
+  menu_.onCommand(kHospitalListsRow, showing([this] { push(hospitalListsPage(app_, *this)); }));
   menu_.onCommand(kCloudRow, showing([this] { push(std::make_shared<CloudScreen>(app_, *this)); }));
   menu_.onCommand(kPasswordSwitch, [this] { return togglePassword(); });
 }

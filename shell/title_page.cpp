@@ -42,16 +42,17 @@ List TitlePage::growthCharts(const Map& setup) const {
   const std::pair<health::GrowthMeasure, const char*> kinds[] = {
       {health::GrowthMeasure::Length, "Рост (миллиметры)"},
       {health::GrowthMeasure::Weight, "Вес (граммы)"}};
-  const draw::Size size{kChartWidth * scale_, kChartHeight * scale_};
-  const health::DevelopmentInput development{getCurDay(context, setup), birthDay, scale_, dark};
+  const drawing::Size size{kChartWidth * scale_, kChartHeight * scale_};
+  const health::DevelopmentInput development{health::getCurDay(context, setup), birthDay, scale_,
+                                             dark};
   List charts;
   charts.push_back(SvgView{"development",
-                           draw::renderSvg(size,
-                                           [&](draw::Canvas& c) {
-                                             health::drawDevelopment(c, {0, 0, size.w, size.h},
-                                                                     context, development,
-                                                                     app_.imagesDir());
-                                           }),
+                           drawing::renderSvg(size,
+                                              [&](drawing::Canvas& c) {
+                                                health::drawDevelopment(c, {0, 0, size.w, size.h},
+                                                                        context, development,
+                                                                        app_.imagesDir());
+                                              }),
                            size.w, size.h}
                        .toValue());
   for (const auto& [measure, caption] : kinds) {
@@ -68,11 +69,13 @@ Value TitlePage::view() {
   const Map setup = loadSetupData(app_.store(), gid_);
   List children;
   children.push_back(
-      TextView{ageString(context, AgeMode::RunningWeek, setup), "", std::nullopt}.toValue());
-  children.push_back(TextView{pregnancyStateLine(context, setup), "", std::nullopt}.toValue());
-  const int week = getCurWeek(context, setup);
+      TextView{health::ageString(context, health::AgeMode::RunningWeek, setup), "", std::nullopt}
+          .toValue());
+  children.push_back(
+      TextView{health::pregnancyStateLine(context, setup), "", std::nullopt}.toValue());
+  const int week = health::getCurWeek(context, setup);
   if (week > 0)
-    children.push_back(TextView{trimesterName(context, week), "", std::nullopt}.toValue());
+    children.push_back(TextView{health::trimesterName(context, week), "", std::nullopt}.toValue());
   children.insert(children.end(), charts_.begin(), charts_.end());
   return PageView{pageCaption(context), std::move(children)}.toValue();
 }

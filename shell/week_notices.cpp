@@ -17,7 +17,7 @@ constexpr int kBabyRow = 4, kWomanRow = 5, kDoctorRow = 7;
 constexpr int kDismissedWeeks = 1000;  // + the row: the weeks whose notices were read
 
 int weekOf(Store& store, const std::string& gid) {
-  return getCurWeek(store.context(), loadSetupData(store, gid));
+  return health::getCurWeek(store.context(), loadSetupData(store, gid));
 }
 
 }  // namespace
@@ -43,7 +43,7 @@ std::optional<MessageBox> readWeekNotices(Store& store, int row, const std::stri
   }
   const std::string dismissed = newID2(2, week);
   setCheckData(store, kDismissedWeeks + row, dismissed, true, gid);
-  cloudTickChanged(store, true, dismissed, kDismissedWeeks + row, gid);
+  cloud::cloudTickChanged(store, true, dismissed, kDismissedWeeks + row, gid);
   MessageBox message;
   message.caption = fillIn(context.translate("События %d недели"), {std::to_string(week)});
   message.text = std::move(text);

@@ -26,8 +26,8 @@ bool fileExists(const std::filesystem::path& file) {
 constexpr int kSmallSide = 160;
 constexpr int kBestQuality = 100;
 
-bool writeJpeg(const std::filesystem::path& file, const Image& image, std::string* why) {
-  const auto jpeg = encodeJpeg(image, kBestQuality);
+bool writeJpeg(const std::filesystem::path& file, const platform::Image& image, std::string* why) {
+  const auto jpeg = platform::encodeJpeg(image, kBestQuality);
   std::error_code error;
   std::filesystem::create_directories(file.parent_path(), error);
   return writeFileAtomically(file, {reinterpret_cast<const char*>(jpeg.data()), jpeg.size()}, why);
@@ -64,11 +64,11 @@ bool isDayPictureName(std::string_view name) {
 
 bool saveDayPhoto(const Context& context, Date day, const std::string& gid,
                   std::span<const std::uint8_t> picture, std::string* why) {
-  const auto image = decodeImage(picture, why);
+  const auto image = platform::decodeImage(picture, why);
   if (!image) return false;
   const DayPhotoFiles files = dayPhotoFiles(context, day, gid);
   return writeJpeg(files.full, *image, why) &&
-         writeJpeg(files.small, scaledToFit(*image, kSmallSide), why);
+         writeJpeg(files.small, platform::scaledToFit(*image, kSmallSide), why);
 }
 
 void removeDayPhoto(const Context& context, Date day, const std::string& gid) {

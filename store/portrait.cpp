@@ -28,7 +28,7 @@ std::optional<Bytes> readPortrait(const Context& context, const std::string& gid
 
 bool writePortrait(const Context& context, const std::string& gid, const Bytes& picture,
                    std::string* why) {
-  auto jpeg = toJpeg(picture, kPortraitQuality, why);
+  auto jpeg = platform::toJpeg(picture, kPortraitQuality, why);
   if (!jpeg) return false;
   const auto file = portraitFile(context, gid);
   std::error_code error;

@@ -18,7 +18,7 @@ constexpr std::string_view kPrefix = "book:kind:";
 
 Value BookKinds::view() {
   List rows;
-  for (int kind = 1; report::isBookKind(kind); ++kind) {
+  for (int kind = 1; reports::isBookKind(kind); ++kind) {
     RowView row;
     row.id = std::string(kPrefix) + std::to_string(kind);
     row.icon = "book" + std::to_string(kind) + ".png";
@@ -34,12 +34,12 @@ EventResult BookKinds::tap(std::string_view target) {
   const char* last = target.data() + target.size();
   if (!target.starts_with(kPrefix) ||
       std::from_chars(target.data() + kPrefix.size(), last, kind).ptr != last ||
-      !report::isBookKind(kind))
+      !reports::isBookKind(kind))
     return EventResult::refused("no such book: " + std::string(target));
-  report::BookRequest request;
+  reports::BookRequest request;
   request.gid = gid_;
   request.kind = kind;
-  request.year = report::defaultReportYear(app_.store(), gid_);
+  request.year = reports::defaultReportYear(app_.store(), gid_);
   app_.startBook(std::move(request));
   closed_ = true;
   host_.push(std::make_shared<BookScreen>(app_, host_));

@@ -25,11 +25,11 @@ bool writePageThumbnail(const std::filesystem::path& page, std::string* error) {
     *error = "cannot read the page " + page.string();
     return false;
   }
-  const auto small = decodeImageToFit(
+  const auto small = platform::decodeImageToFit(
       std::span(reinterpret_cast<const std::uint8_t*>(bytes->data()), bytes->size()),
       kThumbnailSide, error);
   if (!small) return false;
-  const std::vector<std::uint8_t> jpeg = encodeJpeg(*small, kQuality);
+  const std::vector<std::uint8_t> jpeg = platform::encodeJpeg(*small, kQuality);
   return !jpeg.empty() &&
          writeFileAtomically(
              pageThumbnail(page),

@@ -46,10 +46,10 @@ auto* pageIn(Pages& pages, int number) {
 }  // namespace
 
 BookProject::BookProject(Store& store, JobQueue& worker, std::filesystem::path imagesDir,
-                         report::BookRequest request)
+                         reports::BookRequest request)
     : store_(store), worker_(worker), request_(std::move(request)) {
   options_.imagesDir = std::move(imagesDir);
-  request_.target = report::bookFile(store.context());
+  request_.target = reports::bookFile(store.context());
 }
 
 BookState BookProject::state() const {
@@ -66,13 +66,13 @@ void BookProject::start() {
 }
 
 void BookProject::make() {
-  report::BookOptions options = options_;
+  reports::BookOptions options = options_;
   options.progress = [this](std::size_t done, std::size_t total) {
     std::lock_guard lock(mutex_);
     state_.done = done;
     state_.total = total;
   };
-  options.onPage = [this](const report::BookPage& page) {
+  options.onPage = [this](const reports::BookPage& page) {
     std::string failure;
     writePageThumbnail(page.file, &failure);  // without it the page shows no thumbnail
     std::lock_guard lock(mutex_);
@@ -80,7 +80,7 @@ void BookProject::make() {
     nextNumber_ = std::max(nextNumber_, page.page + 1);
   };
   std::string error;
-  const bool made = report::prepareBook(store_, request_, options, &error).has_value();
+  const bool made = reports::prepareBook(store_, request_, options, &error).has_value();
   std::lock_guard lock(mutex_);
   state_.making = false;
   if (!made) state_.error = error;
@@ -108,12 +108,13 @@ std::optional<std::string> BookProject::deletePage(int number) {
   return std::nullopt;
 }
 
-std::optional<std::string> BookProject::changePicturePage(int number, report::PicturePage picture) {
+std::optional<std::string> BookProject::changePicturePage(int number,
+                                                          reports::PicturePage picture) {
   std::lock_guard lock(mutex_);
   if (auto busy = refuseWhileBusy()) return busy;
   const ShownPage* shown = find(number);
   if (!shown || !shown->page.isimages) return "no picture page " + std::to_string(number);
-  report::BookPage page = shown->page;
+  reports::BookPage page = shown->page;
   page.picture = std::move(picture);
   state_.drawing = true;
   state_.error.clear();
@@ -123,18 +124,18 @@ std::optional<std::string> BookProject::changePicturePage(int number, report::Pi
 
 std::optional<std::string> BookProject::addPicturePage(const Bytes& photo) {
   std::string why;
-  const auto jpeg = toJpeg(photo, kUploadQuality, &why);
+  const auto jpeg = platform::toJpeg(photo, kUploadQuality, &why);
   if (!jpeg) return "the photo cannot be read: " + why;
   std::lock_guard lock(mutex_);
   if (auto busy = refuseWhileBusy()) return busy;
-  const std::filesystem::path folder = report::bookFolder(store_.context());
+  const std::filesystem::path folder = reports::bookFolder(store_.context());
   const int number = nextNumber_++;
   const std::filesystem::path file = folder / ("added-" + std::to_string(number) + ".jpg");
   if (!writeFileAtomically(
           file, std::string_view(reinterpret_cast<const char*>(jpeg->data()), jpeg->size()), &why))
     return "the photo cannot be kept: " + why;
-  report::BookPage page{
-      number, true, {{{file.string(), true}}, 0, ""}, report::bookPageFile(folder, number)};
+  reports::BookPage page{
+      number, true, {{{file.string(), true}}, 0, ""}, reports::bookPageFile(folder, number)};
   state_.drawing = true;
   state_.error.clear();
   worker_.post([self = shared_from_this(), page] { self->redraw(page, true); });
@@ -142,9 +143,9 @@ std::optional<std::string> BookProject::addPicturePage(const Bytes& photo) {
 }
 
 // A page that cannot be drawn keeps its old picture, or is not added.
-void BookProject::redraw(report::BookPage page, bool added) {
+void BookProject::redraw(reports::BookPage page, bool added) {
   std::string error;
-  const bool drawn = report::redrawPicturePage(store_, request_.kind, options_, page, &error) &&
+  const bool drawn = reports::redrawPicturePage(store_, request_.kind, options_, page, &error) &&
                      writePageThumbnail(page.file, &error);
   std::lock_guard lock(mutex_);
   state_.drawing = false;
@@ -170,8 +171,8 @@ std::shared_ptr<const ReportJob> BookProject::save() {
     for (const ShownPage& shown : self->state().pages) files.push_back(shown.page.file);
     job->total = files.size();
     std::string error;
-    const bool saved = report::saveBook(files, self->request_.target,
-                                        report::bookCreator(self->store_.context()), &error);
+    const bool saved = reports::saveBook(files, self->request_.target,
+                                         reports::bookCreator(self->store_.context()), &error);
     if (!saved) job->error = error;
     job->done = saved ? files.size() : 0;
     job->state = saved ? ReportJob::State::Done : ReportJob::State::Failed;

@@ -24,7 +24,7 @@ namespace lad::shell {
 
 // A page as the screen shows it; the revision grows each time its picture is drawn again.
 struct ShownPage {
-  report::BookPage page;
+  reports::BookPage page;
   int revision = 0;
 };
 
@@ -39,9 +39,9 @@ struct BookState {
 class BookProject : public std::enable_shared_from_this<BookProject> {
  public:
   BookProject(Store& store, JobQueue& worker, std::filesystem::path imagesDir,
-              report::BookRequest request);
+              reports::BookRequest request);
 
-  const report::BookRequest& request() const { return request_; }
+  const reports::BookRequest& request() const { return request_; }
   BookState state() const;
 
   // prepareBook on the worker: the pages arrive one by one.
@@ -49,7 +49,7 @@ class BookProject : public std::enable_shared_from_this<BookProject> {
   // pageDelete: only a picture page goes; the files of the others keep their numbers.
   std::optional<std::string> deletePage(int number);
   // rebuildImagePage with the page's new photos, line and layout.
-  std::optional<std::string> changePicturePage(int number, report::PicturePage picture);
+  std::optional<std::string> changePicturePage(int number, reports::PicturePage picture);
   // bookAddPage: a new picture page of one photo (its bytes, JPEG or PNG) at the end.
   std::optional<std::string> addPicturePage(const Bytes& photo);
   // saveBook on the worker, after whatever it is doing; the job tells when book.pdf is there.
@@ -61,15 +61,15 @@ class BookProject : public std::enable_shared_from_this<BookProject> {
 
  private:
   void make();
-  void redraw(report::BookPage page, bool added);
+  void redraw(reports::BookPage page, bool added);
   std::optional<std::string> refuseWhileBusy() const;
   ShownPage* find(int number);
   const ShownPage* find(int number) const;
 
   Store& store_;
   JobQueue& worker_;
-  report::BookRequest request_;
-  report::BookOptions options_;
+  reports::BookRequest request_;
+  reports::BookOptions options_;
   mutable std::mutex mutex_;
   BookState state_;
   int nextNumber_ = 0;  // for an added page: numbers of deleted pages are not used again

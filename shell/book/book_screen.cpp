@@ -49,10 +49,10 @@ std::string pictureAddress(int page, std::string_view size, int revision) {
 
 // A photo of the page being edited, by its place among the page's photos as they were saved:
 // the draft may have moved it.
-std::string photoAddress(int page, const std::vector<report::BookImage>& saved,
+std::string photoAddress(int page, const std::vector<reports::BookImage>& saved,
                          const std::string& image) {
   const auto found = std::ranges::find_if(
-      saved, [&image](const report::BookImage& b) { return b.image == image; });
+      saved, [&image](const reports::BookImage& b) { return b.image == image; });
   return std::string(kBookAddress) + "photo" + std::to_string(page) + "-" +
          std::to_string(found - saved.begin()) + ".jpg";
 }
@@ -117,8 +117,8 @@ BookEditView BookScreen::editView(const Draft& draft, const BookState& state) co
   const Context& context = app_.context();
   const auto page = std::ranges::find_if(
       state.pages, [&draft](const ShownPage& p) { return p.page.page == draft.page; });
-  const std::vector<report::BookImage> saved =
-      page == state.pages.end() ? std::vector<report::BookImage>{} : page->page.picture.images;
+  const std::vector<reports::BookImage> saved =
+      page == state.pages.end() ? std::vector<reports::BookImage>{} : page->page.picture.images;
   BookEditView v;
   v.caption = context.translate("Фотографии для этой страницы");
   const auto& images = draft.picture.images;
@@ -131,7 +131,7 @@ BookEditView BookScreen::editView(const Draft& draft, const BookState& state) co
   v.label = draft.picture.pagelabelbottom;
   v.placeholder = context.translate("Подпись под фотографиями");
   v.layoutsCaption = context.translate("Вариант размещения на странице");
-  for (const int layout : report::layoutChoices(report::usedCount(images)))
+  for (const int layout : reports::layoutChoices(reports::usedCount(images)))
     v.layouts.push_back({target("layout", layout), "imageloc-" + std::to_string(layout) + ".png",
                          layout == draft.picture.tp});
   v.ok = {std::string(kEditOk), context.translate("Готово"), {}};
@@ -187,7 +187,7 @@ EventResult BookScreen::tapPage(std::string_view action, int number) {
 // imageLocation: a tick or a move changes the photos in use, and the layout follows their count.
 EventResult BookScreen::tapDraft(std::string_view action, int index) {
   if (!draft_) return EventResult::refused("no picture page is being edited");
-  report::PicturePage& picture = draft_->picture;
+  reports::PicturePage& picture = draft_->picture;
   auto& images = picture.images;
   const bool inRange = index >= 0 && static_cast<std::size_t>(index) < images.size();
   if (action == "use" && inRange) {
@@ -195,14 +195,14 @@ EventResult BookScreen::tapDraft(std::string_view action, int index) {
   } else if (action == "earlier" && inRange && index > 0) {
     std::swap(images[index], images[index - 1]);
   } else if (action == "layout") {
-    const auto choices = report::layoutChoices(report::usedCount(images));
+    const auto choices = reports::layoutChoices(reports::usedCount(images));
     if (std::ranges::find(choices, index) == choices.end())
       return EventResult::refused("layout " + std::to_string(index) + " is not offered");
     picture.tp = index;
   } else {
     return EventResult::refused("no such control of the page's editor");
   }
-  picture.tp = report::snapLayout(picture.tp, report::usedCount(images));
+  picture.tp = reports::snapLayout(picture.tp, reports::usedCount(images));
   return {};
 }
 

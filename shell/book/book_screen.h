@@ -33,7 +33,7 @@ class BookScreen : public Screen {
   // The picture page being edited and its photos, line and layout as they stand.
   struct Draft {
     int page = 0;
-    report::PicturePage picture;
+    reports::PicturePage picture;
   };
 
   EventResult tapPage(std::string_view action, int number);

@@ -9,7 +9,7 @@
 #include "shell/week/page_title.h"
 #include "store/setup_data.h"
 
-namespace lad::shell::checks {
+namespace lad::shell {
 
 namespace {
 
@@ -106,12 +106,12 @@ std::shared_ptr<Screen> doctorPage(Application& app, ScreenHost& host, const std
   options.seltypeid = kDoctorPlan;
   options.gid = gid;
   options.start = setup["dat1"].asDate();
-  options.highlight = getCurPeriod(context, setup);
+  options.highlight = health::getCurPeriod(context, setup);
   auto link = [&app, &host, gid](int linkid) {
     host.push(openSubcheck(app, host, {"doctorhelp-u", kDoctorPlan, gid, "Анализы", linkid}));
     return EventResult();
   };
-  return std::make_shared<CheckScreen>(app, host, week::pageTitle(context, kDoctorPage),
+  return std::make_shared<CheckScreen>(app, host, pageTitle(context, kDoctorPage),
                                        std::move(options), std::move(link), false);
 }
 
@@ -133,4 +133,4 @@ std::shared_ptr<Screen> hospitalListsPage(Application& app, ScreenHost& host) {
                                        std::move(options), std::move(link), true);
 }
 
-}  // namespace lad::shell::checks
+}  // namespace lad::shell

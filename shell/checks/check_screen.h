@@ -11,7 +11,7 @@
 #include "shell/screen.h"
 #include "shell/screen_host.h"
 
-namespace lad::shell::checks {
+namespace lad::shell {
 
 // A text with tick boxes under a title; a closeable one has a button that closes it.
 class CheckScreen : public Screen {
@@ -56,4 +56,4 @@ std::shared_ptr<Screen> doctorPage(Application& app, ScreenHost& host, const std
 // "Может понадобиться": the links to the four hospital lists, shared by every pregnancy.
 std::shared_ptr<Screen> hospitalListsPage(Application& app, ScreenHost& host);
 
-}  // namespace lad::shell::checks
+}  // namespace lad::shell

@@ -6,7 +6,7 @@
 #include "shell/week/reading.h"
 #include "store/selections.h"
 
-namespace lad::shell::checks {
+namespace lad::shell {
 
 namespace {
 
@@ -28,7 +28,7 @@ CheckText::CheckText(Application& app, CheckTextOptions options)
     : app_(app), options_(std::move(options)), text_(content::contextTools(app.context())) {
   text_.settings().lineDistance = options_.lineDistance;
   if (options_.start) text_.settings().startDate = *options_.start;
-  text_.prepareFromFile(week::contentFolder(app.context()), options_.resource);
+  text_.prepareFromFile(contentFolder(app.context()), options_.resource);
   loadTicks();
 }
 
@@ -40,9 +40,9 @@ void CheckText::loadTicks() {
 ContentView CheckText::view() const {
   const auto& layout = text_.layout();
   ContentView view =
-      week::layoutView(options_.id, layout, std::vector<double>(layout.rows.size(), 1.0), true);
+      layoutView(options_.id, layout, std::vector<double>(layout.rows.size(), 1.0), true);
   if (options_.highlight > 0)
-    view.highlight = week::highlightedGroup(layout, options_.highlight, options_.highlightJust);
+    view.highlight = highlightedGroup(layout, options_.highlight, options_.highlightJust);
   return view;
 }
 
@@ -64,7 +64,7 @@ CheckTap CheckText::toggle(int box) {
   tap.guid = text_.checks().items()[static_cast<std::size_t>(box)].guid;
   if (options_.seltypeid >= 1) {
     setCheckData(app_.store(), options_.seltypeid, tap.guid, tap.ticked, options_.gid);
-    cloudTickChanged(app_.store(), tap.ticked, tap.guid, options_.seltypeid, options_.gid);
+    cloud::cloudTickChanged(app_.store(), tap.ticked, tap.guid, options_.seltypeid, options_.gid);
   }
   return tap;
 }
@@ -73,4 +73,4 @@ std::string CheckText::hiddenText(const std::string& guid) const {
   return content::hiddenText(text_.layout(), guid);
 }
 
-}  // namespace lad::shell::checks
+}  // namespace lad::shell

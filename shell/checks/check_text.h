@@ -10,7 +10,7 @@
 #include "shell/application.h"
 #include "shell/views/week.h"
 
-namespace lad::shell::checks {
+namespace lad::shell {
 
 // What a tap on a row of the text asked for.
 struct CheckTap {
@@ -53,4 +53,4 @@ class CheckText {
   content::TextData text_;
 };
 
-}  // namespace lad::shell::checks
+}  // namespace lad::shell

@@ -7,7 +7,7 @@
 #include "store/records.h"
 #include "store/store.h"
 
-namespace lad::shell::checks {
+namespace lad::shell {
 
 namespace {
 
@@ -23,7 +23,7 @@ void insertIntoNote(Application& app, const std::string& gid, const std::string&
     const std::string value = old.empty() ? text : old + "\n" + text;
     insertValue(app.store(), bracket, field, value, day, gid, true, false);
   }
-  cloudDayChanged(app.store(), day, gid);
+  cloud::cloudDayChanged(app.store(), day, gid);
   app.dataChanged();
 }
 
@@ -46,4 +46,4 @@ void offerPlanNote(Application& app, ScreenHost& host, const std::string& gid, s
       }));
 }
 
-}  // namespace lad::shell::checks
+}  // namespace lad::shell

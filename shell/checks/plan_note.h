@@ -7,7 +7,7 @@
 #include "shell/application.h"
 #include "shell/screen_host.h"
 
-namespace lad::shell::checks {
+namespace lad::shell {
 
 // Adds the text to the day's doctor field ("priv" in the child's diary), on a new line after
 // what the field holds already.
@@ -17,4 +17,4 @@ void insertIntoNote(Application& app, const std::string& gid, const std::string&
 // right button writes them into the diary, its left one writes nothing.
 void offerPlanNote(Application& app, ScreenHost& host, const std::string& gid, std::string text);
 
-}  // namespace lad::shell::checks
+}  // namespace lad::shell

@@ -61,7 +61,7 @@ std::string bracketUnit(const std::string& guid, const List& entries) {
 
 List foodEntries(Store& store, int kind) {
   List entries;
-  for (const Value& entry : loadConstList(store, foodList(kind), std::nullopt)) {
+  for (const Value& entry : loadConstList(store, health::foodList(kind), std::nullopt)) {
     Map e;
     e.set("id", entry["index"].text());
     const std::string cap = entry["cap"].text();
@@ -83,8 +83,8 @@ FeedingScreen::FeedingScreen(Application& app, ScreenHost& host, std::string gid
       host_(host),
       gid_(std::move(gid)),
       day_(day),
-      feedings_(loadKormForDate(app.store(), day, gid_)) {
-  if (app_.breastTimer(gid_).running()) openForm(kFeedBreast);
+      feedings_(health::loadKormForDate(app.store(), day, gid_)) {
+  if (app_.breastTimer(gid_).running()) openForm(health::kFeedBreast);
 }
 
 FieldEditor FeedingScreen::listForm() const {
@@ -93,17 +93,18 @@ FieldEditor FeedingScreen::listForm() const {
   List rows;
   for (std::size_t i = 0; i < feedings_.size(); ++i) {
     const Value& f = feedings_[i];
-    rows.push_back(button(c, clockOf(f) + "  " + kormLine(c, f["kovalue"].text(), entries),
+    rows.push_back(button(c, clockOf(f) + "  " + health::kormLine(c, f["kovalue"].text(), entries),
                           std::string(kFeedPrefix) + std::to_string(i)));
   }
-  const auto totals = kormTotals(c, feedings_, loadLastKormBefore(app_.store(), day_, gid_));
+  const auto totals =
+      health::kormTotals(c, feedings_, health::loadLastKormBefore(app_.store(), day_, gid_));
   if (!totals.empty()) rows.push_back(detailRow(c, kText, "итого", ""));
   for (const std::string& line : totals) rows.push_back(detailRow(c, kText, line, ""));
   rows.push_back(detailRow(c, kLine, "", ""));
   rows.push_back(detailRow(c, kText, "Добавить кормление", ""));
-  for (int kind = kFeedBreast; kind <= kFeedOther; ++kind)
+  for (int kind = health::kFeedBreast; kind <= health::kFeedOther; ++kind)
     rows.push_back(
-        button(c, feedingCaption(c, kind), std::string(kAddPrefix) + std::to_string(kind)));
+        button(c, health::feedingCaption(c, kind), std::string(kAddPrefix) + std::to_string(kind)));
   return FieldEditor(c, "Кормление", std::move(rows), Map());
 }
 
@@ -120,29 +121,29 @@ void FeedingScreen::openForm(int kind) {
   formKind_ = kind;
   List rows;
   Map values;
-  if (kind == kFeedBreast) {
+  if (kind == health::kFeedBreast) {
     rows = {detailRow(c, kText, "Продолжительность (часы и минуты)", ""),
             detailRow(c, kTime, "Левая грудь", "left", false, "Левая грудь"),
             button(c, "Старт", kLeftButton),
             detailRow(c, kTime, "Правая грудь", "right", false, "Правая грудь"),
             button(c, "Старт", kRightButton),
             detailRow(c, kText, "", "progress")};
-    values.set("left", mtt(""));
-    values.set("right", mtt(""));
+    values.set("left", health::mtt(""));
+    values.set("right", health::mtt(""));
   } else {
     rows.push_back(detailRow(c, kNumber, "Объем", "volume", true, "Объем"));
-    if (foodList(kind) > 0) {
+    if (health::foodList(kind) > 0) {
       Value tip = listRow(c, "tip", "Продукт", 1, 0, true);
       tip.asMap()->set("listdata", foodEntries(app_.store(), kind));
       rows.push_back(std::move(tip));
     }
   }
-  form_.emplace(c, feedingCaption(c, kind), std::move(rows), values);
+  form_.emplace(c, health::feedingCaption(c, kind), std::move(rows), values);
 }
 
 // The running side's button says "Стоп", and the progress line shows the time fed so far.
 void FeedingScreen::showTimer() {
-  if (formKind_ != kFeedBreast) return;
+  if (formKind_ != health::kFeedBreast) return;
   const Context& c = app_.context();
   const BreastTimer& timer = app_.breastTimer(gid_);
   const bool left = timer.running() && timer.side() == BreastSide::Left;
@@ -164,7 +165,7 @@ EventResult FeedingScreen::tap(std::string_view target) {
     return {};
   }
   if (target == kEditorOk) {
-    if (changed_) saveKormForDate(app_.store(), feedings_, day_, gid_);
+    if (changed_) health::saveKormForDate(app_.store(), feedings_, day_, gid_);
     closed_ = true;
     EventResult result;
     result.installationChanged = changed_;
@@ -172,7 +173,7 @@ EventResult FeedingScreen::tap(std::string_view target) {
   }
   const std::string_view field = targetField(target);
   if (auto kind = numberAfter(field, kAddPrefix);
-      kind && *kind >= kFeedBreast && *kind <= kFeedOther) {
+      kind && *kind >= health::kFeedBreast && *kind <= health::kFeedOther) {
     openForm(*kind);
     return {};
   }
@@ -210,7 +211,7 @@ EventResult FeedingScreen::tapForm(std::string_view target) {
     return {};
   }
   const std::string_view field = targetField(target);
-  if (formKind_ == kFeedBreast && (field == kLeftButton || field == kRightButton))
+  if (formKind_ == health::kFeedBreast && (field == kLeftButton || field == kRightButton))
     return toggleTimer(field);
   return EventResult::refused("the feeding has no button " + std::string(target));
 }
@@ -226,11 +227,12 @@ EventResult FeedingScreen::toggleTimer(std::string_view button) {
   if (timer.running()) {
     const auto minutes = timer.stop(now);
     form_->change(timer.side() == BreastSide::Left ? "left" : "right",
-                  Value(mtt(std::to_string(minutes.value_or(0)))));
+                  Value(health::mtt(std::to_string(minutes.value_or(0)))));
   }
   if (wasThisSide) return {};
   const std::string field = side == BreastSide::Left ? "left" : "right";
-  timer.start(side, ttm(form_->text(field)), now, c.dates().addDays(c.dates().noTime(now), 1));
+  timer.start(side, health::ttm(form_->text(field)), now,
+              c.dates().addDays(c.dates().noTime(now), 1));
   return tick(app_, timer);
 }
 
@@ -240,9 +242,10 @@ void FeedingScreen::commitForm() {
   Map value;
   value.set("tp", std::to_string(formKind_));
   std::int64_t amount = 0;
-  if (formKind_ == kFeedBreast) {
+  if (formKind_ == health::kFeedBreast) {
     if (timer.running()) toggleTimer(timer.side() == BreastSide::Left ? kLeftButton : kRightButton);
-    const std::int64_t left = ttm(form_->text("left")), right = ttm(form_->text("right"));
+    const std::int64_t left = health::ttm(form_->text("left")),
+                       right = health::ttm(form_->text("right"));
     value.set("tip", "Грудное молоко");
     value.set("left", std::to_string(left));
     value.set("right", std::to_string(right));
@@ -251,14 +254,14 @@ void FeedingScreen::commitForm() {
     const std::string volume = form_->text("volume");
     const std::string tip = form_->text("tip");
     amount = leadingInteger(volume);
-    value.set("tip", formKind_ == kFeedKefir           ? "Кефир"
-                     : formKind_ == kFeedCottageCheese ? "Творог"
-                                                       : tip);
+    value.set("tip", formKind_ == health::kFeedKefir           ? "Кефир"
+                     : formKind_ == health::kFeedCottageCheese ? "Творог"
+                                                               : tip);
     value.set("volume", volume);
     value.set("measure",
-              formKind_ == kFeedCottageCheese ? "г."
-              : formKind_ == kFeedOther
-                  ? bracketUnit(tip, loadConstList(app_.store(), foodList(formKind_), {}))
+              formKind_ == health::kFeedCottageCheese ? "г."
+              : formKind_ == health::kFeedOther
+                  ? bracketUnit(tip, loadConstList(app_.store(), health::foodList(formKind_), {}))
                   : "мл.");
   }
   Map feeding;
@@ -285,8 +288,8 @@ DayRowView feedingDayRow(Application& app, const std::string& gid, Date day, std
   row.icon = "ne-korm.png";
   row.caption = c.translate("Кормление");
   const List entries = loadConstList(app.store(), 0, {});
-  for (const Value& f : loadKormForDate(app.store(), day, gid))
-    row.lines.push_back({clockOf(f), kormLine(c, f["kovalue"].text(), entries), ""});
+  for (const Value& f : health::loadKormForDate(app.store(), day, gid))
+    row.lines.push_back({clockOf(f), health::kormLine(c, f["kovalue"].text(), entries), ""});
   if (row.lines.empty()) row.text = c.translate("пусто");
   return row;
 }

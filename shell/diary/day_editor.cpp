@@ -126,7 +126,7 @@ void DayEditor::prepare(Date day) {
   // The teeth form starts from the teeth present before the day.
   for (Value& row : rows_)
     if (row["tp"].intValue() == kKindTeeth)
-      row.asMap()->set("oldtooth", toothForDay(app_.store(), day, gid_));
+      row.asMap()->set("oldtooth", health::toothForDay(app_.store(), day, gid_));
   stored_ = Map();
   for (const Value& row : rows_) stored_.set(row["field"].text(), row["source"].text());
   storedPhoto_ = hasPhoto_ = loaded["isphoto"].boolValue();
@@ -390,7 +390,7 @@ EventResult DayEditor::write() {
     host_.showMessage(
         MessageBox::make(app_.context(), "Не удалось сохранить фотографию", "Ошибка"));
   saveNoteData(app_.store(), kNoteFromEditor, rows_, listData_, gid_, day_);
-  cloudDayChanged(app_.store(), day_, gid_);
+  cloud::cloudDayChanged(app_.store(), day_, gid_);
   needSave_ = false;
   EventResult result;
   result.installationChanged = true;

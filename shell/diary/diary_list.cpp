@@ -300,7 +300,7 @@ void DiaryList::askDeletion(std::size_t at) {
         if (answer.button != kConsent) return EventResult();
         noteDeleteValue(app.store(), day, std::nullopt, gid);
         removeDayFiles(app.context(), day, gid, analyses);
-        cloudDayChanged(app.store(), day, gid);
+        cloud::cloudDayChanged(app.store(), day, gid);
         EventResult result;
         result.installationChanged = true;
         return result;

@@ -11,9 +11,9 @@ namespace {
 
 constexpr std::string_view kTeethField = "tooth";
 
-List teethEntries(const Context& context, const TeethState& present) {
+List teethEntries(const Context& context, const health::TeethState& present) {
   List entries;
-  for (int n = 1; n <= kMilkTeeth; ++n) {
+  for (int n = 1; n <= health::kMilkTeeth; ++n) {
     Map e;
     e.set("id", std::to_string(n));
     e.set("caption", context.translate(toothName(n)));
@@ -27,12 +27,12 @@ List teethEntries(const Context& context, const TeethState& present) {
 
 FieldEditor teethForm(const Context& context, std::string_view caption, std::string_view descr,
                       std::string_view before, std::string_view dayValue) {
-  const TeethState present = applyTeeth(applyTeeth({}, before), dayValue);
+  const health::TeethState present = health::applyTeeth(health::applyTeeth({}, before), dayValue);
   Value list = listRow(context, kTeethField, "", 2, 0);
   list.asMap()->set("listdata", teethEntries(context, present));
   list.asMap()->set("oldtooth", std::string(before));
   Map values;
-  values.set(std::string(kTeethField), teethText(present));
+  values.set(std::string(kTeethField), health::teethText(present));
   return FieldEditor(context, std::string(caption),
                      {detailRow(context, kText, descr, ""), std::move(list)}, values);
 }
@@ -40,8 +40,8 @@ FieldEditor teethForm(const Context& context, std::string_view caption, std::str
 std::string teethValue(const FieldEditor& form) {
   const Map* row = form.row(kTeethField);
   if (!row) return "";
-  const TeethState before = applyTeeth({}, (*row)["oldtooth"].text());
-  return toothChanges(before, applyTeeth({}, tickedText((*row)["source"])));
+  const health::TeethState before = health::applyTeeth({}, (*row)["oldtooth"].text());
+  return health::toothChanges(before, health::applyTeeth({}, tickedText((*row)["source"])));
 }
 
 }  // namespace lad::shell

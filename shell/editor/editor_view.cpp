@@ -64,8 +64,9 @@ const std::string& PhotoPreviews::of(const Bytes& picture) {
   if (key == key_ && !url_.empty()) return url_;
   key_ = key;
   url_.clear();
-  if (auto image = decodeImage(picture, nullptr)) {
-    const auto jpeg = encodeJpeg(scaledToFit(*image, kPreviewSide), kPreviewQuality);
+  if (auto image = platform::decodeImage(picture, nullptr)) {
+    const auto jpeg =
+        platform::encodeJpeg(platform::scaledToFit(*image, kPreviewSide), kPreviewQuality);
     url_ = "data:image/jpeg;base64," + base64Encode(Bytes(jpeg.begin(), jpeg.end()));
   }
   return url_;
@@ -93,7 +94,7 @@ std::optional<Bytes> pictureFromDataUrl(std::string_view url, std::string* why) 
     *why = "the picture's base64 text is damaged";
     return std::nullopt;
   }
-  if (!decodeImage(*bytes, why)) return std::nullopt;
+  if (!platform::decodeImage(*bytes, why)) return std::nullopt;
   return bytes;
 }
 

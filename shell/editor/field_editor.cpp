@@ -61,7 +61,8 @@ bool FieldEditor::change(std::string_view field, Value source) {
   if (!m) return false;
   m->set("source", std::move(source));
   markTicked(*m);
-  if (const std::string mark = (*m)["autocalc"].text(); !mark.empty()) autocalc(rows_, mark);
+  if (const std::string mark = (*m)["autocalc"].text(); !mark.empty())
+    health::autocalc(rows_, mark);
   return true;
 }
 

@@ -33,23 +33,22 @@ BabyPage::BabyPage(Application& app, ScreenHost& host, std::string gid, double s
     : app_(app), host_(host), gid_(std::move(gid)), scale_(scale) {}
 
 Value BabyPage::ring(int daysSinceStart) const {
-  std::vector<week::OrganArc> arcs;
+  std::vector<OrganArc> arcs;
   // The achievements are the page's text as a whole; the ring holds the organs.
-  for (const auto& organ : week::organs().subspan(1))
-    arcs.push_back(
-        {app_.context().translate(organ.caption), week::organDegrees(organ, daysSinceStart)});
-  const draw::Size size{kRingSide * scale_, kRingSide * scale_};
-  const std::string svg = draw::renderSvg(size, [&](draw::Canvas& c) {
-    week::drawOrganRing(c, {0, 0, size.w, size.h}, arcs, scale_);
+  for (const auto& organ : organs().subspan(1))
+    arcs.push_back({app_.context().translate(organ.caption), organDegrees(organ, daysSinceStart)});
+  const drawing::Size size{kRingSide * scale_, kRingSide * scale_};
+  const std::string svg = drawing::renderSvg(size, [&](drawing::Canvas& c) {
+    drawOrganRing(c, {0, 0, size.w, size.h}, arcs, scale_);
   });
   return SvgView{"organs", svg, size.w, size.h}.toValue();
 }
 
 Value BabyPage::organList(int daysSinceStart) const {
   List rows;
-  const auto all = week::organs();
+  const auto all = organs();
   for (std::size_t i = 0; i < all.size(); ++i) {
-    const int percent = week::organDegrees(all[i], daysSinceStart) * 100 / 360;
+    const int percent = organDegrees(all[i], daysSinceStart) * 100 / 360;
     RowView row;
     row.id = std::string(kOrganTarget) + std::to_string(i);
     row.icon = organIcon(all[i].file);
@@ -61,8 +60,8 @@ Value BabyPage::organList(int daysSinceStart) const {
 }
 
 Value BabyPage::organText(const Map& setup, int week) const {
-  const auto& organ = week::organs()[organ_];
-  week::ReadingOptions options;
+  const auto& organ = organs()[organ_];
+  ReadingOptions options;
   options.start = setup["dat1"].asDate();
   if (organ_ == 0) {
     options.lineDistance = -8;
@@ -70,23 +69,24 @@ Value BabyPage::organText(const Map& setup, int week) const {
   } else {
     options.highlightWeek = week;
   }
-  return week::readingView(app_.context(), "organ", organ.file, options).toValue();
+  return readingView(app_.context(), "organ", organ.file, options).toValue();
 }
 
 Value BabyPage::view() {
   Context& context = app_.context();
   const Map setup = loadSetupData(app_.store(), gid_);
-  const int days = getCurDay(context, setup) - 1;
+  const int days = health::getCurDay(context, setup) - 1;
   List children;
   children.push_back(
-      TextView{ageString(context, AgeMode::ObstetricAge, setup), "", std::nullopt}.toValue());
+      TextView{health::ageString(context, health::AgeMode::ObstetricAge, setup), "", std::nullopt}
+          .toValue());
   children.push_back(ring(days));
   children.push_back(
       ButtonsView{{{std::string(kChild), context.translate("Малыш по неделям"), {}}}}.toValue());
   children.push_back(organList(days));
-  children.push_back(SectionView{context.translate(week::organs()[organ_].caption)}.toValue());
-  children.push_back(organText(setup, getCurWeek(context, setup)));
-  return PageView{week::pageTitle(context, kBabyPage), std::move(children)}.toValue();
+  children.push_back(SectionView{context.translate(organs()[organ_].caption)}.toValue());
+  children.push_back(organText(setup, health::getCurWeek(context, setup)));
+  return PageView{pageTitle(context, kBabyPage), std::move(children)}.toValue();
 }
 
 EventResult BabyPage::tap(std::string_view target) {
@@ -95,15 +95,14 @@ EventResult BabyPage::tap(std::string_view target) {
     const Context& context = app_.context();
     const Map setup = loadSetupData(app_.store(), gid_);
     host_.push(openWeekText(context, context.translate("Малыш по неделям"), "child-u",
-                            getCurWeek(context, setup), setup["dat1"].asDate()));
+                            health::getCurWeek(context, setup), setup["dat1"].asDate()));
     return {};
   }
   if (target.starts_with(kOrganTarget)) {
     const auto number = target.substr(kOrganTarget.size());
     std::size_t index = 0;
     const auto [end, error] = std::from_chars(number.data(), number.data() + number.size(), index);
-    if (error == std::errc() && end == number.data() + number.size() &&
-        index < week::organs().size()) {
+    if (error == std::errc() && end == number.data() + number.size() && index < organs().size()) {
       organ_ = index;
       return {};
     }

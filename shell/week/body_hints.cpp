@@ -3,7 +3,7 @@
 #include <fstream>
 #include <sstream>
 
-namespace lad::shell::week {
+namespace lad::shell {
 
 std::vector<HintView> bodyHints(const std::filesystem::path& file, int month,
                                 const Translator& translator) {
@@ -21,4 +21,4 @@ std::vector<HintView> bodyHints(const std::filesystem::path& file, int month,
   return hints;
 }
 
-}  // namespace lad::shell::week
+}  // namespace lad::shell

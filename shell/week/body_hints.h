@@ -8,10 +8,10 @@
 #include "core/translation.h"
 #include "shell/views/week.h"
 
-namespace lad::shell::week {
+namespace lad::shell {
 
 // The month's points with their names translated; none when the file or month is missing.
 std::vector<HintView> bodyHints(const std::filesystem::path& file, int month,
                                 const Translator& translator);
 
-}  // namespace lad::shell::week
+}  // namespace lad::shell

@@ -7,13 +7,14 @@
 
 #include "drawing/canvas.h"
 
-namespace lad::shell::week {
+namespace lad::shell {
 
 struct OrganArc {
   std::string caption;
   int degrees = 0;  // 0 to 360
 };
 
-void drawOrganRing(draw::Canvas& c, draw::Rect r, std::span<const OrganArc> organs, double scale);
+void drawOrganRing(drawing::Canvas& c, drawing::Rect r, std::span<const OrganArc> organs,
+                   double scale);
 
-}  // namespace lad::shell::week
+}  // namespace lad::shell

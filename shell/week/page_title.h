@@ -6,11 +6,11 @@
 #include "core/context.h"
 #include "core/menu_table.h"
 
-namespace lad::shell::week {
+namespace lad::shell {
 
 inline std::string pageTitle(const Context& context, int page) {
   const Map* row = menuRow(context.values().tabMenu, page);
   return row ? (*row)["name"].text() : std::string();
 }
 
-}  // namespace lad::shell::week
+}  // namespace lad::shell

@@ -3,7 +3,7 @@
 #include "content/queries.h"
 #include "content/text_data.h"
 
-namespace lad::shell::week {
+namespace lad::shell {
 
 int highlightedGroup(const content::TextLayout& layout, int n, bool just) {
   const auto y = content::hlGroup(layout.groups, n, just);
@@ -56,4 +56,4 @@ ContentView readingView(const Context& context, std::string id, std::string_view
   return view;
 }
 
-}  // namespace lad::shell::week
+}  // namespace lad::shell

@@ -12,7 +12,7 @@
 #include "core/context.h"
 #include "shell/views/week.h"
 
-namespace lad::shell::week {
+namespace lad::shell {
 
 struct ReadingOptions {
   int justGroup = -1;         // -1: every group
@@ -38,4 +38,4 @@ ContentView layoutView(std::string id, const content::TextLayout& layout,
 ContentView readingView(const Context& context, std::string id, std::string_view resource,
                         const ReadingOptions& options);
 
-}  // namespace lad::shell::week
+}  // namespace lad::shell

@@ -21,11 +21,11 @@ EventResult ReadingScreen::tap(std::string_view target) {
 std::shared_ptr<ReadingScreen> openWeekText(const Context& context, std::string title,
                                             std::string_view resource, int week,
                                             std::optional<Date> start) {
-  week::ReadingOptions options;
+  ReadingOptions options;
   options.highlightWeek = week;
   options.start = start;
   return std::make_shared<ReadingScreen>(std::move(title), context.translate("Готово"),
-                                         week::readingView(context, "reading", resource, options));
+                                         readingView(context, "reading", resource, options));
 }
 
 }  // namespace lad::shell

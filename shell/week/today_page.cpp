@@ -18,13 +18,13 @@ constexpr const char* kDay = "dd.MM.yyyy";
 
 // "1" to "3"; past week 42 the week, the day and the week from conception are "-".
 FactsView weekCards(const Context& context, const Map& setup, int week, int day) {
-  const bool shown = weekIsShown(week);
+  const bool shown = health::weekIsShown(week);
   const auto shownOrDash = [shown](std::string text) { return shown ? text : "-"; };
-  return FactsView{{{context.translate("Триместр"), std::to_string(trimester(week))},
+  return FactsView{{{context.translate("Триместр"), std::to_string(health::trimester(week))},
                     {context.translate("Неделя"), shownOrDash(std::to_string(week))},
                     {context.translate("День"), shownOrDash(std::to_string(day))},
                     {context.translate("От зачатия"),
-                     shownOrDash(ageString(context, AgeMode::EmbryoWeek, setup))}}};
+                     shownOrDash(health::ageString(context, health::AgeMode::EmbryoWeek, setup))}}};
 }
 
 // The period of the pregnancy with the child's weight and length from the growth table of the
@@ -32,7 +32,7 @@ FactsView weekCards(const Context& context, const Map& setup, int week, int day)
 FactView sizeCard(const Context& context, const Map& setup, int day, double scale) {
   const auto size = health::getVesRost((day - 1) / 7, scale);
   const double length = health::shownLength(day, size.rost);
-  return {ageString(context, AgeMode::PeriodName, setup),
+  return {health::ageString(context, health::AgeMode::PeriodName, setup),
           fillIn(context.translate("%.1f гр."), {formatFixed(size.ves, 1)}) + "\n" +
               fillIn(context.translate("%.1f мм."), {formatFixed(length, 1)})};
 }
@@ -55,18 +55,18 @@ TodayPage::TodayPage(Application& app, std::string gid, double scale)
 Value TodayPage::view() {
   const Context& context = app_.context();
   const Map setup = loadSetupData(app_.store(), gid_);
-  const int week = getCurWeek(context, setup);
-  const int day = getCurDay(context, setup);
-  week::ReadingOptions options;
+  const int week = health::getCurWeek(context, setup);
+  const int day = health::getCurDay(context, setup);
+  ReadingOptions options;
   options.justGroup = week;
   options.top = 0;
   ScreensView screens{
       {{weekCards(context, setup, week, day).toValue()},
        {FactsView{{sizeCard(context, setup, day, scale_), birthCard(context, setup)}}.toValue()},
-       {MovieView{week::movieFrames(week), 1000}.toValue()},
-       {week::readingView(context, "woman", "woman-u", options).toValue()},
-       {week::readingView(context, "child", "child-u", options).toValue()}}};
-  return PageView{week::pageTitle(context, kTodayPage), {screens.toValue()}}.toValue();
+       {MovieView{movieFrames(week), 1000}.toValue()},
+       {readingView(context, "woman", "woman-u", options).toValue()},
+       {readingView(context, "child", "child-u", options).toValue()}}};
+  return PageView{pageTitle(context, kTodayPage), {screens.toValue()}}.toValue();
 }
 
 EventResult TodayPage::tap(std::string_view target) {

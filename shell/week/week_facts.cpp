@@ -5,7 +5,7 @@
 
 #include "core/value.h"
 
-namespace lad::shell::week {
+namespace lad::shell {
 
 namespace {
 
@@ -89,4 +89,4 @@ int organDegrees(const Organ& organ, int daysSinceStart) {
   return static_cast<int>(std::clamp(per, 0LL, 360LL));
 }
 
-}  // namespace lad::shell::week
+}  // namespace lad::shell

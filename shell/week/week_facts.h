@@ -8,7 +8,7 @@
 #include <string_view>
 #include <vector>
 
-namespace lad::shell::week {
+namespace lad::shell {
 
 // The frames of the moving picture of the week, "<set>w001.jpg" to "<set>w008.jpg".
 std::vector<std::string> movieFrames(int week);
@@ -37,4 +37,4 @@ std::span<const Organ> organs();
 // last.
 int organDegrees(const Organ& organ, int daysSinceStart);
 
-}  // namespace lad::shell::week
+}  // namespace lad::shell

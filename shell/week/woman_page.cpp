@@ -25,14 +25,14 @@ namespace lad::shell {
 namespace {
 
 constexpr double kWidth = 300, kGraphHeight = 200;  // in units of the device scale
-constexpr draw::Size kBodySize{640, 800};           // the body pictures' own size
-constexpr draw::Color kInk{0.17, 0.14, 0.13};
-constexpr draw::Color kCard{1, 1, 1, 0.92};
+constexpr drawing::Size kBodySize{640, 800};        // the body pictures' own size
+constexpr drawing::Color kInk{0.17, 0.14, 0.13};
+constexpr drawing::Color kCard{1, 1, 1, 0.92};
 
 // The fruit the child's size is like this week, and the child's length.
 std::string fruitLine(const Context& context, int week, int day) {
   const auto size = health::getVesRost((day - 1) / 7, 1);
-  return context.translate(week::fruitCaption(week)) + " " + week::bodyPageLength(day, size.rost);
+  return context.translate(fruitCaption(week)) + " " + bodyPageLength(day, size.rost);
 }
 
 }  // namespace
@@ -42,20 +42,20 @@ WomanPage::WomanPage(Application& app, ScreenHost& host, std::string gid, double
 
 Value WomanPage::bodyPicture(int day) const {
   const Context& context = app_.context();
-  const int month = week::bodyMonth(day);
+  const int month = bodyMonth(day);
   const std::string picture = "wom-" + std::to_string(month) + ".png";
   const auto size =
-      draw::pngSize((context.resourcesDir() / "images" / picture).string()).value_or(kBodySize);
+      drawing::pngSize((context.resourcesDir() / "images" / picture).string()).value_or(kBodySize);
   return HintPictureView{
       picture, size.w, size.h,
-      week::bodyHints(context.resourcesDir() / "wom-hints.json", month, context.translator())}
+      bodyHints(context.resourcesDir() / "wom-hints.json", month, context.translator())}
       .toValue();
 }
 
 Value WomanPage::weightGraph(const Map& setup) const {
   charts::Chart chart(scale_, app_.imagesDir());
   chart.prepare(health::weightChart(app_.store(), gid_, setup, 1));
-  const draw::Size size{kWidth * scale_, kGraphHeight * scale_};
+  const drawing::Size size{kWidth * scale_, kGraphHeight * scale_};
   return SvgView{"weight", chart.svg(size), size.w, size.h}.toValue();
 }
 
@@ -64,12 +64,12 @@ Value WomanPage::wheel(int week) const {
   const charts::PregGraphStyle style{context.translator(), week, scale_, kInk, false,
                                      app_.imagesDir()};
   // The wheel's height depends on its list, so it is drawn once to be measured.
-  draw::RecordingCanvas measure;
+  drawing::RecordingCanvas measure;
   const double width = kWidth * scale_;
   const double height = charts::drawWomanChart(measure, {0, 0, width, 1e5}, style);
-  const std::string svg = draw::renderSvg({width, height}, [&](draw::Canvas& c) {
+  const std::string svg = drawing::renderSvg({width, height}, [&](drawing::Canvas& c) {
     // A light card under the wheel keeps its week numbers readable over any theme's picture.
-    c.fillPath(draw::Path().addRoundedRect({0, 0, width, height}, 16 * scale_), kCard);
+    c.fillPath(drawing::Path().addRoundedRect({0, 0, width, height}, 16 * scale_), kCard);
     charts::drawWomanChart(c, {0, 0, width, height}, style);
   });
   return SvgView{"wheel", svg, width, height}.toValue();
@@ -78,8 +78,8 @@ Value WomanPage::wheel(int week) const {
 Value WomanPage::view() {
   const Context& context = app_.context();
   const Map setup = loadSetupData(app_.store(), gid_);
-  const int week = getCurWeek(context, setup);
-  const int day = getCurDay(context, setup);
+  const int week = health::getCurWeek(context, setup);
+  const int day = health::getCurDay(context, setup);
   List children;
   children.push_back(bodyPicture(day));
   children.push_back(TextView{fruitLine(context, week, day), "fruit", 1}.toValue());
@@ -89,7 +89,7 @@ Value WomanPage::view() {
   children.push_back(SectionView{context.translate("Прибавка в весе (килограммы)")}.toValue());
   children.push_back(weightGraph(setup));
   children.push_back(wheel(week));
-  return PageView{week::pageTitle(context, kWomanPage), std::move(children)}.toValue();
+  return PageView{pageTitle(context, kWomanPage), std::move(children)}.toValue();
 }
 
 // The mother's week by week, or the child's size by week, with the present week marked.
@@ -100,7 +100,7 @@ EventResult WomanPage::tap(std::string_view target) {
   const Map setup = loadSetupData(app_.store(), gid_);
   const bool size = target == kSize;
   host_.push(openWeekText(context, context.translate(size ? "Размер малыша" : "Подробнее"),
-                          size ? "childsize-u" : "woman-u", getCurWeek(context, setup),
+                          size ? "childsize-u" : "woman-u", health::getCurWeek(context, setup),
                           setup["dat1"].asDate()));
   return {};
 }

@@ -155,7 +155,7 @@ constexpr const char* kGid = "5A1E0C3B-0000-4000-8000-000000000001";
 void writeDiary(const std::filesystem::path& data, const std::filesystem::path& cloud) {
   shell::Application app(ContextOptions{1, 1, data, "", nullptr, LADANEYA_RESOURCES_DIR});
   app.context().settings().set("cloudFolder", cloud.string());
-  chooseCloudSync(app.context());
+  cloud::chooseCloudSync(app.context());
   Map setup;
   setup.set("sdat1", "2026-02-01");
   setup.set("active", true);
@@ -165,8 +165,8 @@ void writeDiary(const std::filesystem::path& data, const std::filesystem::path& 
     StoreBracket bracket = app.store().connectToBase();
     insertValue(app.store(), bracket, "ves", "61.5", day, kGid, true, false);
   }
-  cloudProfileChanged(app.store(), kGid);
-  cloudDayChanged(app.store(), day, kGid);
+  cloud::cloudProfileChanged(app.store(), kGid);
+  cloud::cloudDayChanged(app.store(), day, kGid);
   for (const auto& file : std::filesystem::directory_iterator(cloud))
     std::filesystem::last_write_time(
         file.path(), std::filesystem::file_time_type::clock::now() - std::chrono::minutes(1));

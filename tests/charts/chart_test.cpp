@@ -12,7 +12,7 @@
 namespace lad::charts {
 namespace {
 
-using Kind = draw::Command::Kind;
+using Kind = drawing::Command::Kind;
 
 Map sampleDic() {
   Map dic;
@@ -33,10 +33,10 @@ Map sampleDic() {
   return dic;
 }
 
-draw::RecordingCanvas draw(const Map& dic, double s = 2) {
+drawing::RecordingCanvas draw(const Map& dic, double s = 2) {
   Chart chart(s, LADANEYA_IMAGES_DIR);
   chart.prepare(dic);
-  draw::RecordingCanvas c;
+  drawing::RecordingCanvas c;
   chart.drawContext(c, {0, 0, 320, 200});
   return c;
 }
@@ -46,7 +46,7 @@ TEST(Chart, BordersCaptionsAndSeriesPlacement) {
   EXPECT_EQ(c.commands().front().kind, Kind::Clear);
   const auto stroke = c.ofKind(Kind::StrokePath).at(0);
   // Plot inset 15s at the sides, 18s on top and 20s at the foot, with s = 2.
-  const draw::Point first = stroke.path.ops()[0].to;
+  const drawing::Point first = stroke.path.ops()[0].to;
   EXPECT_DOUBLE_EQ(first.x, 30 + 260 / 4.0);
   EXPECT_NEAR(first.y, 36 + 124 * 0.6, 1e-9);
   EXPECT_EQ(getPoint(sampleDic(), {0, 0, 320, 200}, 2, 1, 40), stroke.path.ops()[0].to);
@@ -79,7 +79,7 @@ TEST(Chart, TicksGridBottomLineAndBackground) {
   auto c = draw(dic);
   auto rects = c.ofKind(Kind::FillRect);
   ASSERT_EQ(rects.size(), 2u) << "the background and the bottom line";
-  EXPECT_EQ(rects[0].rect, (draw::Rect{0, 0, 320, 200}));
+  EXPECT_EQ(rects[0].rect, (drawing::Rect{0, 0, 320, 200}));
   int tickLabels = 0;
   for (const auto& t : c.ofKind(Kind::Text)) tickLabels += t.text == "1" || t.text == "3";
   EXPECT_EQ(tickLabels, 2);
@@ -89,7 +89,7 @@ TEST(Chart, TicksGridBottomLineAndBackground) {
   c = draw(dic);
   const auto lines = c.ofKind(Kind::StrokePath);
   ASSERT_EQ(lines.size(), 6u);
-  EXPECT_EQ(lines[1].path.ops()[0].to, (draw::Point{95, 160}));
+  EXPECT_EQ(lines[1].path.ops()[0].to, (drawing::Point{95, 160}));
 }
 
 TEST(Chart, SeriesOverlayInOrderAndLegendColours) {
@@ -106,7 +106,7 @@ TEST(Chart, SeriesOverlayInOrderAndLegendColours) {
   const auto c = draw(dic);
   const auto strokes = c.ofKind(Kind::StrokePath);
   ASSERT_EQ(strokes.size(), 3u);
-  EXPECT_EQ(strokes[1].color, (draw::Color{0, 0.5, 0, 1}));
+  EXPECT_EQ(strokes[1].color, (drawing::Color{0, 0.5, 0, 1}));
   const auto squares = c.ofKind(Kind::FillRect);
   ASSERT_EQ(squares.size(), 8u);
   EXPECT_EQ(squares[1].color, nextColor(2));
@@ -126,7 +126,7 @@ TEST(Chart, TypeNineDrawsARingInThePlot) {
   // The shadow and two slices, centred in the plot {30, 36, 260, 124}.
   const auto rings = c.ofKind(Kind::FillPath);
   ASSERT_EQ(rings.size(), 3u);
-  EXPECT_EQ(rings[1].path.ops()[0].to, (draw::Point{160, 98}));
+  EXPECT_EQ(rings[1].path.ops()[0].to, (drawing::Point{160, 98}));
   int percentTexts = 0;
   for (const auto& t : c.ofKind(Kind::Text)) percentTexts += t.text.ends_with("%");
   EXPECT_EQ(percentTexts, 1);
@@ -152,9 +152,9 @@ TEST(Chart, PictureCallOutsAndBalloons) {
   const auto images = c.ofKind(Kind::Image);
   ASSERT_EQ(images.size(), 2u);
   // Natural proportions, centred in the plot {30, 36, 260, 124}.
-  EXPECT_EQ(images[0].rect, (draw::Rect{98, 36, 124, 124}));
+  EXPECT_EQ(images[0].rect, (drawing::Rect{98, 36, 124, 124}));
   EXPECT_EQ(std::filesystem::path(images[1].text).filename(), "baloon-uzi.png");
-  EXPECT_EQ(images[1].rect, (draw::Rect{160 - 20, 98 - 50, 40, 50}));
+  EXPECT_EQ(images[1].rect, (drawing::Rect{160 - 20, 98 - 50, 40, 50}));
 
   const auto callouts = c.ofKind(Kind::FillPath);
   ASSERT_EQ(callouts.size(), 2u);
@@ -172,12 +172,12 @@ TEST(Chart, PictureCallOutsAndBalloons) {
 TEST(Chart, RoundAndChatCards) {
   Chart chart(2, LADANEYA_IMAGES_DIR);
   chart.prepareRoundCard();
-  draw::RecordingCanvas round;
+  drawing::RecordingCanvas round;
   chart.drawContext(round, {0, 0, 50, 30});
   EXPECT_EQ(round.commands().size(), 1u);
   chart.prepareChatCard(false, true);
   EXPECT_EQ(chart.mode(), Chart::Mode::ChatCardNoTop);
-  draw::RecordingCanvas chat;
+  drawing::RecordingCanvas chat;
   chart.drawContext(chat, {0, 0, 50, 30});
   EXPECT_EQ(chat.ofKind(Kind::FillRect).size(), 2u);
 }

@@ -8,15 +8,15 @@
 namespace lad::charts {
 namespace {
 
-using draw::Command;
-using Kind = draw::Command::Kind;
+using drawing::Command;
+using Kind = drawing::Command::Kind;
 
 const AxisRange kRange{0, 10, 0, 100};
-const draw::Rect kPlot{10, 20, 200, 100};
-const draw::Color kFore{1, 0, 0, 1}, kBack{0, 0, 1, 1}, kText{0, 0, 0, 1};
+const drawing::Rect kPlot{10, 20, 200, 100};
+const drawing::Color kFore{1, 0, 0, 1}, kBack{0, 0, 1, 1}, kText{0, 0, 0, 1};
 
-draw::RecordingCanvas paint(const List& points, int type, double zoom = 1) {
-  draw::RecordingCanvas c;
+drawing::RecordingCanvas paint(const List& points, int type, double zoom = 1) {
+  drawing::RecordingCanvas c;
   drawNewLine(c, points, kRange, kPlot, {type, kFore, kBack, kText, zoom});
   return c;
 }
@@ -33,8 +33,8 @@ TEST(LineSeries, ValuesMapIntoThePlotAndTheCurveIsStroked) {
   const auto strokes = c.ofKind(Kind::StrokePath);
   ASSERT_EQ(strokes.size(), 1u);
   ASSERT_EQ(strokes[0].path.ops().size(), 2u);
-  EXPECT_EQ(strokes[0].path.ops()[0].to, (draw::Point{10, 120}));
-  EXPECT_EQ(strokes[0].path.ops()[1].to, (draw::Point{210, 20}));
+  EXPECT_EQ(strokes[0].path.ops()[0].to, (drawing::Point{10, 120}));
+  EXPECT_EQ(strokes[0].path.ops()[1].to, (drawing::Point{210, 20}));
   EXPECT_DOUBLE_EQ(strokes[0].width, 2);
   EXPECT_EQ(strokes[0].color, kFore);
 }
@@ -52,9 +52,9 @@ TEST(LineSeries, MarksAndWidthsFollowTheType) {
   EXPECT_DOUBLE_EQ(t5.ofKind(Kind::StrokePath)[0].width, 10);
   auto marks = t5.ofKind(Kind::FillEllipse);
   ASSERT_EQ(marks.size(), 2u);
-  EXPECT_EQ(marks[0].rect, (draw::Rect{198, 8, 24, 24}));
+  EXPECT_EQ(marks[0].rect, (drawing::Rect{198, 8, 24, 24}));
   EXPECT_EQ(marks[0].color, kFore);
-  EXPECT_EQ(marks[1].rect, (draw::Rect{206, 16, 8, 8}));
+  EXPECT_EQ(marks[1].rect, (drawing::Rect{206, 16, 8, 8}));
   EXPECT_EQ(marks[1].color, kBack);
   const auto label = t5.ofKind(Kind::Text).at(0);
   EXPECT_EQ(label.text, "01:40");
@@ -67,7 +67,7 @@ TEST(LineSeries, MarksAndWidthsFollowTheType) {
   EXPECT_DOUBLE_EQ(t1.ofKind(Kind::StrokePath)[0].width, 4);
   marks = t1.ofKind(Kind::FillEllipse);
   ASSERT_EQ(marks.size(), 3u);
-  EXPECT_EQ(marks[0].rect, (draw::Rect{8, 118, 4, 4}));
+  EXPECT_EQ(marks[0].rect, (drawing::Rect{8, 118, 4, 4}));
 
   // Type 8: dashed width z, labels without their marks.
   const auto t8 = paint(twoPoints(), 8, 3);
@@ -82,20 +82,20 @@ TEST(LineSeries, GradientFillsTowardsFootOrTop) {
   EXPECT_TRUE(paint(twoPoints(), 2).ofKind(Kind::Gradient).empty());
   const auto under = paint(twoPoints(), 3).ofKind(Kind::Gradient);
   ASSERT_EQ(under.size(), 1u);
-  EXPECT_EQ(under[0].from, (draw::Point{10, 20}));
-  EXPECT_EQ(under[0].stops, (std::vector<draw::GradientStop>{{0.1, kFore.withAlpha(0.3)},
-                                                             {1, kFore.withAlpha(0)}}));
+  EXPECT_EQ(under[0].from, (drawing::Point{10, 20}));
+  EXPECT_EQ(under[0].stops, (std::vector<drawing::GradientStop>{{0.1, kFore.withAlpha(0.3)},
+                                                                {1, kFore.withAlpha(0)}}));
   // Closed along the foot, two units beyond both ends.
   const auto& ops = under[0].path.ops();
-  EXPECT_EQ(ops.front().to, (draw::Point{8, 120}));
-  EXPECT_EQ(ops[ops.size() - 2].to, (draw::Point{212, 120}));
+  EXPECT_EQ(ops.front().to, (drawing::Point{8, 120}));
+  EXPECT_EQ(ops[ops.size() - 2].to, (drawing::Point{212, 120}));
 
   const auto top = paint(twoPoints(), 4).ofKind(Kind::Gradient).at(0);
-  EXPECT_EQ(top.path.ops().front().to, (draw::Point{8, 20}));
+  EXPECT_EQ(top.path.ops().front().to, (drawing::Point{8, 20}));
 
   const auto strong = paint(twoPoints(), 7).ofKind(Kind::Gradient).at(0);
-  EXPECT_EQ(strong.from, (draw::Point{10, 120}));
-  EXPECT_EQ(strong.stops.front(), (draw::GradientStop{0, kFore.withAlpha(0.5)}));
+  EXPECT_EQ(strong.from, (drawing::Point{10, 120}));
+  EXPECT_EQ(strong.stops.front(), (drawing::GradientStop{0, kFore.withAlpha(0.5)}));
 }
 
 }  // namespace

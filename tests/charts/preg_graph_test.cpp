@@ -15,27 +15,27 @@
 namespace lad::charts {
 namespace {
 
-using Kind = draw::Command::Kind;
-constexpr draw::Color kOrange{1, 0.5, 0, 1};
-constexpr draw::Color kInk{0.2, 0.1, 0.1, 1};
+using Kind = drawing::Command::Kind;
+constexpr drawing::Color kOrange{1, 0.5, 0, 1};
+constexpr drawing::Color kInk{0.2, 0.1, 0.1, 1};
 
 PregGraphStyle style(const Translator& t, int curweek, double s, bool darkHeader = true) {
   return {t, curweek, s, kInk, darkHeader, LADANEYA_IMAGES_DIR};
 }
 
 struct Drawn {
-  draw::RecordingCanvas canvas;
+  drawing::RecordingCanvas canvas;
   double height = 0;
 };
 
-Drawn drawWheel(const PregGraphStyle& st, draw::Rect r = {0, 0, 320, 2000}) {
+Drawn drawWheel(const PregGraphStyle& st, drawing::Rect r = {0, 0, 320, 2000}) {
   Drawn d;
   d.height = drawWomanChart(d.canvas, r, st);
   return d;
 }
 
 // The centre of a circle made by Path::addCircle.
-draw::Point circleCentre(const draw::Command& c) {
+drawing::Point circleCentre(const drawing::Command& c) {
   return c.path.ops().at(1).to;
 }
 
@@ -56,30 +56,30 @@ TEST(PregGraph, WeeksOfTheTypes) {
 TEST(PregGraph, FifthWeekRingsItsNumberAndLightsItsRows) {
   const Translator russian;
   const auto d = drawWheel(style(russian, 5, 1));
-  std::vector<draw::Command> rings;
+  std::vector<drawing::Command> rings;
   for (const auto& c : d.canvas.ofKind(Kind::StrokePath))
     if (c.color == kOrange) rings.push_back(c);
   ASSERT_EQ(rings.size(), 5u) << "the week on the wheel and four rows";
 
   // The first "5" drawn is the number on the wheel, white on its dot.
   const auto texts = d.canvas.ofKind(Kind::Text);
-  const auto five = std::ranges::find(texts, std::string("5"), &draw::Command::text);
+  const auto five = std::ranges::find(texts, std::string("5"), &drawing::Command::text);
   ASSERT_NE(five, texts.end());
-  EXPECT_EQ(five->color, (draw::Color{1, 1, 1, 1}));
+  EXPECT_EQ(five->color, (drawing::Color{1, 1, 1, 1}));
   EXPECT_NEAR(circleCentre(rings[0]).x, five->rect.centre().x, 1e-9);
   EXPECT_NEAR(circleCentre(rings[0]).y, five->rect.centre().y, 1e-9);
   EXPECT_DOUBLE_EQ(rings[0].width, 2);
   // The dots of weeks 5 and 7 on the wheel: paler for the weeks to come.
   const auto dots = d.canvas.ofKind(Kind::FillEllipse);
   ASSERT_GE(dots.size(), 2u);
-  EXPECT_EQ(dots[0].color, (draw::Color{0, 0.6, 0, 1}));
-  EXPECT_EQ(dots[1].color, (draw::Color{0, 0.6, 0, 0.4}));
+  EXPECT_EQ(dots[0].color, (drawing::Color{0, 0.6, 0, 1}));
+  EXPECT_EQ(dots[1].color, (drawing::Color{0, 0.6, 0, 0.4}));
 
   // Rows 2, 8, 9 and 10 (counted from 1) carry the ring beside their text and show in full.
   const auto rows = pregListRows();
   std::size_t lit = 1;
   for (std::size_t i = 0; i < rows.size(); ++i) {
-    const auto text = std::ranges::find(texts, std::string(rows[i].text), &draw::Command::text);
+    const auto text = std::ranges::find(texts, std::string(rows[i].text), &drawing::Command::text);
     ASSERT_NE(text, texts.end()) << rows[i].text;
     const bool isLit = i == 1 || (i >= 7 && i <= 9);
     const double alpha = rows[i].kind == PregListRow::Kind::Header ? 0.8 : isLit ? 1 : 0.6;
@@ -87,7 +87,7 @@ TEST(PregGraph, FifthWeekRingsItsNumberAndLightsItsRows) {
     EXPECT_DOUBLE_EQ(text->font.size, rows[i].kind == PregListRow::Kind::Header ? 17 : 12);
     if (!isLit) continue;
     ASSERT_LT(lit, rings.size());
-    const draw::Point ring = circleCentre(rings[lit++]);
+    const drawing::Point ring = circleCentre(rings[lit++]);
     EXPECT_LT(ring.x, text->rect.x);
     EXPECT_TRUE(ring.y > text->rect.y && ring.y < text->rect.bottom()) << rows[i].text;
   }
@@ -99,22 +99,22 @@ TEST(PregGraph, SectorsAreColouredInTheirWeeksAndPalerToCome) {
   const auto d = drawWheel(style(russian, 20, s), {0, 0, 640, 4000});
   const auto shadows = d.canvas.ofKind(Kind::PathShadow);
   ASSERT_EQ(shadows.size(), 1u);
-  EXPECT_EQ(shadows[0].shadow.offset, (draw::Point{3 * s, 3 * s}));
-  EXPECT_EQ(shadows[0].rule, draw::FillRule::EvenOdd);
+  EXPECT_EQ(shadows[0].shadow.offset, (drawing::Point{3 * s, 3 * s}));
+  EXPECT_EQ(shadows[0].rule, drawing::FillRule::EvenOdd);
 
   const auto fills = d.canvas.ofKind(Kind::FillPath);
   ASSERT_EQ(fills.size(), 1u + 40 * 12) << "the white ring, then 12 rings in 40 weeks";
-  EXPECT_EQ(fills[0].color, (draw::Color{1, 1, 1, 1}));
+  EXPECT_EQ(fills[0].color, (drawing::Color{1, 1, 1, 1}));
   EXPECT_EQ(fills[0].path, shadows[0].path);
   // Week by week, the rings in the list's order: types 11, 12, then 1 to 10.
-  const auto arc = [&](int week, int ring) -> const draw::Command& {
+  const auto arc = [&](int week, int ring) -> const drawing::Command& {
     return fills.at(1 + (week - 1) * 12 + ring);
   };
-  const draw::Color grey{0.9, 0.9, 0.9, 1};
-  EXPECT_EQ(arc(10, 2).color, (draw::Color{0.9, 0, 0, 1}));  // nausea, in the past
+  const drawing::Color grey{0.9, 0.9, 0.9, 1};
+  EXPECT_EQ(arc(10, 2).color, (drawing::Color{0.9, 0, 0, 1}));  // nausea, in the past
   EXPECT_EQ(arc(10, 0).color, grey);
-  EXPECT_EQ(arc(20, 0).color, (draw::Color{0, 0.5, 0, 1}));  // the present week in full
-  EXPECT_EQ(arc(30, 0).color, (draw::Color{0, 0.5, 0, 0.35}));
+  EXPECT_EQ(arc(20, 0).color, (drawing::Color{0, 0.5, 0, 1}));  // the present week in full
+  EXPECT_EQ(arc(30, 0).color, (drawing::Color{0, 0.5, 0, 0.35}));
   EXPECT_EQ(arc(30, 2).color, grey.withAlpha(0.35));
   // Forty equal shares, the first from the top; outer rings lie outside inner ones.
   const double sector = 2 * std::numbers::pi / 40;
@@ -126,9 +126,9 @@ TEST(PregGraph, SectorsAreColouredInTheirWeeksAndPalerToCome) {
 
   // The numbers: "20" is the last in the stronger alpha.
   const auto texts = d.canvas.ofKind(Kind::Text);
-  EXPECT_EQ(std::ranges::find(texts, std::string("20"), &draw::Command::text)->color,
+  EXPECT_EQ(std::ranges::find(texts, std::string("20"), &drawing::Command::text)->color,
             kInk.withAlpha(0.9));
-  EXPECT_EQ(std::ranges::find(texts, std::string("21"), &draw::Command::text)->color,
+  EXPECT_EQ(std::ranges::find(texts, std::string("21"), &drawing::Command::text)->color,
             kInk.withAlpha(0.5));
 }
 
@@ -136,15 +136,15 @@ TEST(PregGraph, HeightCoversTheTranslatedListAndItsCap) {
   testing::TempDir dir;
   const Translator german =
       testing::germanTranslator(dir.path() / "t.sqlite", {{"Токсикоз", "Übelkeit"}});
-  const draw::Rect r{10, 30, 320, 2000};
+  const drawing::Rect r{10, 30, 320, 2000};
   const auto dark = drawWheel(style(german, 12, 1), r);
   const auto bands = dark.canvas.ofKind(Kind::FillRect);
   ASSERT_EQ(bands.size(), 1u);
-  EXPECT_EQ(bands[0].color, (draw::Color{0, 0, 0, 0.1}));
+  EXPECT_EQ(bands[0].color, (drawing::Color{0, 0, 0, 0.1}));
   EXPECT_DOUBLE_EQ(bands[0].rect.bottom(), r.y + dark.height);
   EXPECT_EQ(bands[0].rect.w, r.w);
   const auto texts = dark.canvas.ofKind(Kind::Text);
-  EXPECT_EQ(std::ranges::count(texts, std::string("Übelkeit"), &draw::Command::text), 1);
+  EXPECT_EQ(std::ranges::count(texts, std::string("Übelkeit"), &drawing::Command::text), 1);
   for (const auto& t : texts) {
     EXPECT_LE(t.rect.bottom(), bands[0].rect.bottom()) << t.text;
     EXPECT_LE(t.rect.right(), r.right()) << t.text;
@@ -156,20 +156,20 @@ TEST(PregGraph, HeightCoversTheTranslatedListAndItsCap) {
   EXPECT_LT(cap.rect.bottom(), bands[0].rect.bottom());
 
   const auto light = drawWheel(style(german, 12, 1, false), r);
-  EXPECT_EQ(light.canvas.ofKind(Kind::FillRect).at(0).color, (draw::Color{1, 1, 1, 0.3}));
+  EXPECT_EQ(light.canvas.ofKind(Kind::FillRect).at(0).color, (drawing::Color{1, 1, 1, 0.3}));
   EXPECT_GT(drawWheel(style(german, 12, 2), {10, 30, 640, 4000}).height, 1.9 * dark.height);
 }
 
 TEST(ProgressGraph, GreenBarSlidesWithTheDays) {
   for (int days : {0, 140}) {
-    draw::RecordingCanvas c;
+    drawing::RecordingCanvas c;
     drawProgressGraph(c, {5, 7}, days, 2);
     const auto bars = c.ofKind(Kind::FillRect);
     ASSERT_EQ(bars.size(), 2u);
-    EXPECT_EQ(bars[0].rect, (draw::Rect{5, 11, 640, 22}));
+    EXPECT_EQ(bars[0].rect, (drawing::Rect{5, 11, 640, 22}));
     EXPECT_EQ(bars[0].color, kOrange);
-    EXPECT_EQ(bars[1].rect, (draw::Rect{5 + 2 * (days * 6.0 / 7 + 1), 33, 640, 22}));
-    EXPECT_EQ(bars[1].color, (draw::Color{0, 0.7, 0, 1}));
+    EXPECT_EQ(bars[1].rect, (drawing::Rect{5 + 2 * (days * 6.0 / 7 + 1), 33, 640, 22}));
+    EXPECT_EQ(bars[1].color, (drawing::Color{0, 0.7, 0, 1}));
   }
 }
 

@@ -11,7 +11,7 @@
 namespace lad::charts {
 namespace {
 
-using draw::Command;
+using drawing::Command;
 
 List values(std::initializer_list<double> xs) {
   List l;
@@ -26,14 +26,14 @@ TEST(Palette, SequenceFallsBackOnTheFirstColour) {
 }
 
 TEST(RingChart, SlicesShadowAndShareLabels) {
-  draw::RecordingCanvas c;
+  drawing::RecordingCanvas c;
   // 1 and 99: the small slice stays without text.
   drawNewChart(c, values({1, 99}), {0, 0, 220, 120}, 1);
   const auto fills = c.ofKind(Command::Kind::FillPath);
   ASSERT_EQ(fills.size(), 3u);
-  EXPECT_EQ(fills[0].rule, draw::FillRule::EvenOdd);
+  EXPECT_EQ(fills[0].rule, drawing::FillRule::EvenOdd);
   // The shadow ring stands 2z right and down; radius (120 - 20) / 2, inner a third of it.
-  EXPECT_EQ(fills[0].path.ops()[0].to, (draw::Point{112, 62}));
+  EXPECT_EQ(fills[0].path.ops()[0].to, (drawing::Point{112, 62}));
   EXPECT_DOUBLE_EQ(fills[0].path.ops()[0].radius, 50);
   EXPECT_DOUBLE_EQ(fills[0].path.ops()[1].radius, 50.0 / 3);
   EXPECT_EQ(fills[1].color, nextColor(1));
@@ -50,7 +50,7 @@ TEST(RingChart, SlicesShadowAndShareLabels) {
 }
 
 TEST(RingChart, ThreePercentIsTheLabelThreshold) {
-  draw::RecordingCanvas at3, under3;
+  drawing::RecordingCanvas at3, under3;
   drawNewChart(at3, values({3, 97}), {0, 0, 100, 100}, 2);
   drawNewChart(under3, values({2.9, 97.1}), {0, 0, 100, 100}, 2);
   ASSERT_EQ(at3.ofKind(Command::Kind::Text).size(), 2u);
@@ -61,10 +61,10 @@ TEST(RingChart, ThreePercentIsTheLabelThreshold) {
 }
 
 TEST(RingChart, NothingToShareDrawsOnlyTheShadow) {
-  draw::RecordingCanvas c;
+  drawing::RecordingCanvas c;
   drawNewChart(c, values({0, 0}), {0, 0, 100, 100}, 1);
   EXPECT_EQ(c.commands().size(), 1u);
-  draw::RecordingCanvas tiny;
+  drawing::RecordingCanvas tiny;
   drawNewChart(tiny, values({1}), {0, 0, 10, 10}, 1);
   EXPECT_TRUE(tiny.commands().empty());
 }

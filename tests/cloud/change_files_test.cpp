@@ -11,7 +11,7 @@
 #include "store/setup_data.h"
 #include "tests/cloud/installations.h"
 
-namespace lad {
+namespace lad::cloud {
 namespace {
 
 using ::testing::ElementsAre;
@@ -50,8 +50,9 @@ TEST_F(ChangeFilesTest, APregnancyAndADayWithItsPhotoReachTheOtherInstallationOn
   const DayPhotoFiles came = dayPhotoFiles(*second.context, day, gid);
   EXPECT_EQ(testing::readFile(came.full), testing::readFile(sent.full));
   const std::string small = testing::readFile(came.small);
-  EXPECT_EQ(imageSize({reinterpret_cast<const std::uint8_t*>(small.data()), small.size()}),
-            (ImageSize{160, 100}));
+  EXPECT_EQ(
+      platform::imageSize({reinterpret_cast<const std::uint8_t*>(small.data()), small.size()}),
+      (platform::ImageSize{160, 100}));
 
   EXPECT_TRUE(scanCloudFolder(*second.store).applied.empty()) << "applied once";
 
@@ -94,13 +95,13 @@ TEST_F(ChangeFilesTest, AChildsFeedingsOfADayTravelWithTheChild) {
   feeding.set("kotype", 1);
   feeding.set("kovalue", "{\"tp\":1,\"left\":10,\"right\":5}");
   feeding.set("kosum", 15);
-  saveKormForDate(*mother.store, {Value(feeding)}, day, gid);
+  health::saveKormForDate(*mother.store, {Value(feeding)}, day, gid);
   std::string error;
   const auto name = dataToCloud(*mother.store, kChangeFeedings, day, gid, &error);
   ASSERT_EQ(name, "CLOUD-4-" + gid + "-30-03-2026.dat") << error;
 
   EXPECT_THAT(scanCloudFolder(*father.store).applied, ElementsAre(*name));
-  const List came = loadKormForDate(*father.store, day, gid);
+  const List came = health::loadKormForDate(*father.store, day, gid);
   ASSERT_EQ(came.size(), 1u);
   EXPECT_EQ(came[0]["kovalue"].text(), feeding["kovalue"].text());
   EXPECT_TRUE(loadSetupData(*father.store, gid).contains("sbirthdate")) << "the child came too";
@@ -139,4 +140,4 @@ TEST_F(ChangeFilesTest, ADayFileReadsWithAnotherPropertyListReader) {
 }
 
 }  // namespace
-}  // namespace lad
+}  // namespace lad::cloud

@@ -73,8 +73,8 @@ class CloudTest : public ::testing::Test {
 
   // A picture of w by h pixels as JPEG bytes.
   static Bytes picture(int w, int h) {
-    Image image{w, h, std::vector<std::uint8_t>(static_cast<std::size_t>(w * h * 3), 90)};
-    return encodeJpeg(image, 90);
+    platform::Image image{w, h, std::vector<std::uint8_t>(static_cast<std::size_t>(w * h * 3), 90)};
+    return platform::encodeJpeg(image, 90);
   }
 
   TempDir shared;

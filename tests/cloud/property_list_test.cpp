@@ -2,7 +2,7 @@
 
 #include <gtest/gtest.h>
 
-namespace lad {
+namespace lad::cloud {
 namespace {
 
 std::optional<Value> read(const Bytes& bytes, std::string* error = nullptr) {
@@ -98,4 +98,4 @@ TEST(PropertyListTest, WhatIsNoBinaryPropertyListIsRefusedWithAReason) {
 }
 
 }  // namespace
-}  // namespace lad
+}  // namespace lad::cloud

@@ -10,7 +10,7 @@
 #include "store/setup_data.h"
 #include "tests/cloud/installations.h"
 
-namespace lad {
+namespace lad::cloud {
 namespace {
 
 using ::testing::ElementsAre;
@@ -109,4 +109,4 @@ TEST_F(RefusedFilesTest, APhotoThatIsNoPictureIsNotWrittenAndAPathIsNoName) {
 }
 
 }  // namespace
-}  // namespace lad
+}  // namespace lad::cloud

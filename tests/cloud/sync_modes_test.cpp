@@ -10,7 +10,7 @@
 #include "store/setup_data.h"
 #include "tests/cloud/installations.h"
 
-namespace lad {
+namespace lad::cloud {
 namespace {
 
 using ::testing::Contains;
@@ -165,4 +165,4 @@ TEST_F(SyncModesTest, ARefusedFileIsTriedAgainOnlyOnceItHasChanged) {
 }
 
 }  // namespace
-}  // namespace lad
+}  // namespace lad::cloud

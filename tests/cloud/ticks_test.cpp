@@ -5,7 +5,7 @@
 #include "store/selections.h"
 #include "tests/cloud/installations.h"
 
-namespace lad {
+namespace lad::cloud {
 namespace {
 
 using ::testing::ElementsAre;
@@ -65,4 +65,4 @@ TEST_F(TicksTest, AFileOfTicksThatDoesNotReadIsNeitherReplacedNorApplied) {
 }
 
 }  // namespace
-}  // namespace lad
+}  // namespace lad::cloud

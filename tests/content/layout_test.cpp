@@ -21,7 +21,7 @@ LayoutTools oneLineTools() {
   tools.dates = &berlin();
   tools.measure = [](std::string_view, double size, double) { return size; };
   tools.imageSize = [](std::string_view name) {
-    return name == "p" ? std::optional<draw::Size>({600, 300}) : std::nullopt;
+    return name == "p" ? std::optional<drawing::Size>({600, 300}) : std::nullopt;
   };
   return tools;
 }

@@ -5,7 +5,7 @@
 
 #include "drawing/cairo_canvas.h"
 
-namespace lad::draw {
+namespace lad::drawing {
 namespace {
 
 // A transparent bitmap on which one path shadow is painted, read back as alpha per pixel.
@@ -64,4 +64,4 @@ TEST(PathShadow, CairoBlursTheMovedCoverage) {
 }
 
 }  // namespace
-}  // namespace lad::draw
+}  // namespace lad::drawing

@@ -6,7 +6,7 @@
 
 #include "tests/drawing/sample_jpeg.h"
 
-namespace lad::draw {
+namespace lad::drawing {
 namespace {
 
 using testing::TempDir;
@@ -47,4 +47,4 @@ TEST(PhotoPrefetch, ADocumentLeftHalfWayStopsTheReaderAhead) {
 }
 
 }  // namespace
-}  // namespace lad::draw
+}  // namespace lad::drawing

@@ -2,7 +2,7 @@
 
 #include <gtest/gtest.h>
 
-namespace lad::draw {
+namespace lad::drawing {
 namespace {
 
 void paintSample(Canvas& c) {
@@ -25,4 +25,4 @@ TEST(Render, APdfCarriesThePaintingAndAnEmptyBitmapIsRefused) {
 }
 
 }  // namespace
-}  // namespace lad::draw
+}  // namespace lad::drawing

@@ -11,7 +11,7 @@
 namespace lad::testing {
 
 inline void writeJpeg(const std::filesystem::path& file, int width = 40, int height = 30) {
-  const auto jpeg = encodeJpeg(
+  const auto jpeg = platform::encodeJpeg(
       {width, height, std::vector<std::uint8_t>(std::size_t(width) * height * 3, 99)}, 80);
   writeFile(file, {reinterpret_cast<const char*>(jpeg.data()), jpeg.size()});
 }

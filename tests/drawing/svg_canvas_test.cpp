@@ -12,7 +12,7 @@
 #include "drawing/text_measure.h"
 #include "tests/support/test_files.h"
 
-namespace lad::draw {
+namespace lad::drawing {
 namespace {
 
 struct Element {
@@ -220,4 +220,4 @@ TEST(SvgCanvas, PathShadowIsTheMovedPathUnderABlur) {
 }
 
 }  // namespace
-}  // namespace lad::draw
+}  // namespace lad::drawing

@@ -6,7 +6,7 @@
 #include <limits>
 #include <numbers>
 
-namespace lad::draw::svg {
+namespace lad::drawing::svg {
 namespace {
 
 std::string number(double v) {
@@ -58,4 +58,4 @@ TEST(SvgWriter, ArcsGoClockwiseFromTheCurrentPoint) {
 }
 
 }  // namespace
-}  // namespace lad::draw::svg
+}  // namespace lad::drawing::svg

@@ -2,7 +2,7 @@
 
 #include <gtest/gtest.h>
 
-namespace lad::draw {
+namespace lad::drawing {
 namespace {
 
 TEST(TextMeasure, SizeFollowsTextFontAndWidth) {
@@ -50,4 +50,4 @@ TEST(TextMeasure, BreaksAtLineFeedsAndBetweenWordsInTheWidth) {
 }
 
 }  // namespace
-}  // namespace lad::draw
+}  // namespace lad::drawing

@@ -4,7 +4,7 @@
 #include "tests/health/health_fixture.h"
 #include "tests/support/translation_table.h"
 
-namespace lad {
+namespace lad::health {
 namespace {
 
 using testing::HealthTest;
@@ -140,4 +140,4 @@ TEST_F(GermanAgeString, PatternsAndWordsPassThroughTheTranslationTable) {
 }
 
 }  // namespace
-}  // namespace lad
+}  // namespace lad::health

@@ -2,7 +2,7 @@
 
 #include "tests/health/health_fixture.h"
 
-namespace lad {
+namespace lad::health {
 namespace {
 
 using testing::HealthTest;
@@ -41,4 +41,4 @@ TEST_F(BirthResult, LongLineNamesTheBabyBySex) {
 }
 
 }  // namespace
-}  // namespace lad
+}  // namespace lad::health

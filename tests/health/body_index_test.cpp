@@ -2,7 +2,7 @@
 
 #include "tests/health/health_fixture.h"
 
-namespace lad {
+namespace lad::health {
 namespace {
 
 using testing::HealthTest;
@@ -43,4 +43,4 @@ TEST_F(BodyIndexTest, UndefinedWithoutAPositiveHeightAndWeight) {
 }
 
 }  // namespace
-}  // namespace lad
+}  // namespace lad::health

@@ -2,7 +2,7 @@
 
 #include "tests/health/health_fixture.h"
 
-namespace lad {
+namespace lad::health {
 namespace {
 
 using testing::HealthTest;
@@ -59,4 +59,4 @@ TEST_F(MonthAge, FlagsForNoDaysAndForTheFirstDay) {
 }
 
 }  // namespace
-}  // namespace lad
+}  // namespace lad::health

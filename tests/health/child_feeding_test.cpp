@@ -5,7 +5,7 @@
 #include "store/first_launch.h"
 #include "tests/store/store_fixture.h"
 
-namespace lad {
+namespace lad::health {
 namespace {
 
 class ChildFeedingTest : public testing::StoreTest {
@@ -90,4 +90,4 @@ TEST_F(ChildFeedingTest, ADaysFeedingsAreReplacedWhole) {
 }
 
 }  // namespace
-}  // namespace lad
+}  // namespace lad::health

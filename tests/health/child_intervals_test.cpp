@@ -2,7 +2,7 @@
 
 #include <gtest/gtest.h>
 
-namespace lad {
+namespace lad::health {
 namespace {
 
 using Text = std::optional<std::string>;
@@ -68,4 +68,4 @@ TEST(ChildIntervals, AutocalcKeepsThePeriodInStep) {
 }
 
 }  // namespace
-}  // namespace lad
+}  // namespace lad::health

@@ -7,7 +7,7 @@
 #include "store/records.h"
 #include "tests/store/store_fixture.h"
 
-namespace lad {
+namespace lad::health {
 namespace {
 
 class ChildTeethTest : public testing::StoreTest {
@@ -48,4 +48,4 @@ TEST_F(ChildTeethTest, ChangesTakeOneStateToAnother) {
 }
 
 }  // namespace
-}  // namespace lad
+}  // namespace lad::health

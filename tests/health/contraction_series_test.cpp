@@ -48,7 +48,7 @@ TEST(ContractionSeries, ChartAxesFollowThePoints) {
   EXPECT_DOUBLE_EQ(empty["yAxisMax"].doubleValue(), 1.1);
   EXPECT_DOUBLE_EQ(empty["xAxisMax"].doubleValue(), 1);
   EXPECT_EQ(charts::colorFrom(contractionChart({}, "", false)["backColor"]),
-            (draw::Color{0.5, 0.5, 0.5, 1}));
+            (drawing::Color{0.5, 0.5, 0.5, 1}));
 
   const auto one = buildSeries(withPauses(kFirst, {}, 52));
   EXPECT_TRUE(one.intervals.empty());

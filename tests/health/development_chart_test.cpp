@@ -11,31 +11,31 @@
 namespace lad::health {
 namespace {
 
-using Kind = draw::Command::Kind;
+using Kind = drawing::Command::Kind;
 
 class DevelopmentChartTest : public testing::HealthTest {
  protected:
   // The pictures drawn, by file name, and the texts, for a pregnancy on its given day.
-  draw::RecordingCanvas paint(int day, std::optional<int> birthDay = std::nullopt) {
+  drawing::RecordingCanvas paint(int day, std::optional<int> birthDay = std::nullopt) {
     input = {day, birthDay, 2, true};
-    draw::RecordingCanvas c;
+    drawing::RecordingCanvas c;
     drawDevelopment(c, kFrame, context, input, LADANEYA_IMAGES_DIR);
     return c;
   }
-  static std::vector<std::string> pictures(const draw::RecordingCanvas& c) {
+  static std::vector<std::string> pictures(const drawing::RecordingCanvas& c) {
     std::vector<std::string> names;
     for (const auto& image : c.ofKind(Kind::Image))
       names.push_back(std::filesystem::path(image.text).filename().string());
     return names;
   }
-  static long count(const draw::RecordingCanvas& c, const std::string& picture) {
+  static long count(const drawing::RecordingCanvas& c, const std::string& picture) {
     return std::ranges::count(pictures(c), picture);
   }
   double xOfDay(int day) const {
     return charts::getPoint(developmentChart(context, input), kFrame, 2, day, 0).x;
   }
 
-  static constexpr draw::Rect kFrame{0, 0, 600, 300};
+  static constexpr drawing::Rect kFrame{0, 0, 600, 300};
   DevelopmentInput input{};
 };
 
@@ -46,7 +46,7 @@ TEST_F(DevelopmentChartTest, FlamesOpenTheTrimestersAndTodaysMarkerCarriesTheSiz
   EXPECT_EQ(count(early, "b-baloon.png"), 0);
   const auto flames = early.ofKind(Kind::Image);
   const auto flameAt = [&](int day) {
-    return std::ranges::any_of(flames, [&](const draw::Command& c) {
+    return std::ranges::any_of(flames, [&](const drawing::Command& c) {
       return c.text.ends_with("b-fire.png") && c.rect.x == xOfDay(day);
     });
   };

@@ -145,7 +145,7 @@ TEST_F(GrowthSeriesTest, TheBooksWeightPageIsAPictureOfTheAskedSize) {
   const auto dir = std::filesystem::path(LADANEYA_TEST_OUTPUT_DIR);
   std::filesystem::create_directories(dir);
   std::ofstream(dir / "weight_chart.png", std::ios::binary) << *png;
-  const auto size = draw::pngSize((dir / "weight_chart.png").string());
+  const auto size = drawing::pngSize((dir / "weight_chart.png").string());
   ASSERT_TRUE(size);
   EXPECT_EQ(size->w, 1200);
   EXPECT_EQ(size->h, 800);

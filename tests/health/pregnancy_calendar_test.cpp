@@ -2,7 +2,7 @@
 
 #include "tests/health/health_fixture.h"
 
-namespace lad {
+namespace lad::health {
 namespace {
 
 using testing::HealthTest;
@@ -109,4 +109,4 @@ TEST_F(PregnancyCalendar, StateLineJoinsThePassedTimeAndTheRunningDay) {
 }
 
 }  // namespace
-}  // namespace lad
+}  // namespace lad::health

@@ -2,7 +2,7 @@
 
 #include "tests/health/health_fixture.h"
 
-namespace lad {
+namespace lad::health {
 namespace {
 
 using testing::HealthTest;
@@ -71,4 +71,4 @@ TEST_F(PregnancyDates, UnreadableDatesChangeNothing) {
 }
 
 }  // namespace
-}  // namespace lad
+}  // namespace lad::health

@@ -5,7 +5,7 @@
 #include "tests/support/test_files.h"
 #include "tests/support/wait_counter.h"
 
-namespace lad {
+namespace lad::platform {
 namespace {
 
 TEST(FolderWatcher, WritesMovesAndRemovalsInTheFolderAreToldAndAMissingFolderGivesNothing) {
@@ -28,4 +28,4 @@ TEST(FolderWatcher, WritesMovesAndRemovalsInTheFolderAreToldAndAMissingFolderGiv
 }
 
 }  // namespace
-}  // namespace lad
+}  // namespace lad::platform

@@ -2,7 +2,7 @@
 
 #include <gtest/gtest.h>
 
-namespace lad::test {
+namespace lad::platform::test {
 
 namespace {
 
@@ -105,4 +105,4 @@ std::vector<std::uint8_t> withExifOrientation(std::vector<std::uint8_t> jpeg, in
   return withApp1(std::move(jpeg), exif);
 }
 
-}  // namespace lad::test
+}  // namespace lad::platform::test

@@ -9,7 +9,7 @@
 
 #include "platform/images.h"
 
-namespace lad::test {
+namespace lad::platform::test {
 
 using Rgb = std::array<std::uint8_t, 3>;
 
@@ -37,4 +37,4 @@ std::vector<std::uint8_t> withExifOrientation(std::vector<std::uint8_t> jpeg, in
 std::vector<std::uint8_t> withApp1(std::vector<std::uint8_t> jpeg,
                                    const std::vector<std::uint8_t>& payload);
 
-}  // namespace lad::test
+}  // namespace lad::platform::test

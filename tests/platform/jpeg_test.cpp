@@ -5,7 +5,7 @@
 #include "image_samples.h"
 #include "platform/images.h"
 
-namespace lad::test {
+namespace lad::platform::test {
 namespace {
 
 TEST(Jpeg, WordsOfAPaintingSurfaceAreReadInPlace) {
@@ -87,4 +87,4 @@ TEST(Jpeg, UnusableExifLeavesThePixelsAsStored) {
 }
 
 }  // namespace
-}  // namespace lad::test
+}  // namespace lad::platform::test

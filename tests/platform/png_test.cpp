@@ -3,7 +3,7 @@
 #include "image_samples.h"
 #include "platform/images.h"
 
-namespace lad::test {
+namespace lad::platform::test {
 namespace {
 
 std::vector<Rgb> rowOf(const Image& image) {
@@ -55,4 +55,4 @@ TEST(Png, ConvertsToJpegOfTheSameSizeAndColours) {
 }
 
 }  // namespace
-}  // namespace lad::test
+}  // namespace lad::platform::test

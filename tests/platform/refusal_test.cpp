@@ -5,7 +5,7 @@
 #include "image_samples.h"
 #include "platform/images.h"
 
-namespace lad::test {
+namespace lad::platform::test {
 namespace {
 
 using ::testing::HasSubstr;
@@ -84,4 +84,4 @@ TEST(ImageRefusal, MoreThanFiftyMegapixels) {
 }
 
 }  // namespace
-}  // namespace lad::test
+}  // namespace lad::platform::test

@@ -3,7 +3,7 @@
 #include "image_samples.h"
 #include "platform/images.h"
 
-namespace lad::test {
+namespace lad::platform::test {
 namespace {
 
 Image grey(int width, int height, std::vector<std::uint8_t> levels) {
@@ -56,4 +56,4 @@ TEST(DecodeImageToFit, ShrinksALargeJpegToTheSideItIsAskedFor) {
 }
 
 }  // namespace
-}  // namespace lad::test
+}  // namespace lad::platform::test

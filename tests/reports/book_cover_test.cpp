@@ -12,21 +12,21 @@
 namespace lad::testing {
 namespace {
 
-using draw::Command;
-using Kind = draw::Command::Kind;
+using drawing::Command;
+using Kind = drawing::Command::Kind;
 
 // The centre and radius of each circle of the path, in order.
-std::vector<std::pair<draw::Point, double>> circles(const draw::Path& path) {
-  std::vector<std::pair<draw::Point, double>> out;
+std::vector<std::pair<drawing::Point, double>> circles(const drawing::Path& path) {
+  std::vector<std::pair<drawing::Point, double>> out;
   for (const auto& op : path.ops())
-    if (op.kind == draw::Path::Kind::Arc) out.emplace_back(op.to, op.radius);
+    if (op.kind == drawing::Path::Kind::Arc) out.emplace_back(op.to, op.radius);
   return out;
 }
 
-draw::RecordingCanvas drawCover(draw::Size page, const Map& dic, int appid = 1,
-                                const std::filesystem::path& images = "/images") {
-  draw::RecordingCanvas canvas;
-  report::drawBookCover(canvas, page, dic, appid, images);
+drawing::RecordingCanvas drawCover(drawing::Size page, const Map& dic, int appid = 1,
+                                   const std::filesystem::path& images = "/images") {
+  drawing::RecordingCanvas canvas;
+  reports::drawBookCover(canvas, page, dic, appid, images);
   return canvas;
 }
 
@@ -49,20 +49,20 @@ TEST(BookCover, TheRingThePhotoInItTheLinesAndTheTurnedSpine) {
   dic.set("imagepath", photo);
 
   struct Expected {
-    draw::Size page;
+    drawing::Size page;
     double front, top, column, spine;
   };
-  for (const Expected& e : {Expected{report::kJacketPage, 4974, 0, 3380, 4854},
-                            Expected{report::kCoverPage, 3684, 108, 3508, 3508}}) {
-    const draw::RecordingCanvas canvas = drawCover(e.page, dic);
+  for (const Expected& e : {Expected{reports::kJacketPage, 4974, 0, 3380, 4854},
+                            Expected{reports::kCoverPage, 3684, 108, 3508, 3508}}) {
+    const drawing::RecordingCanvas canvas = drawCover(e.page, dic);
     const std::vector<Command>& commands = canvas.commands();
-    const draw::Point centre{e.front + e.column / 2, e.top + 250 + 600};
+    const drawing::Point centre{e.front + e.column / 2, e.top + 250 + 600};
     // The ring: two concentric circles of 1200 and 1160 across, filled even-odd, black at 0.1
     // in kind 3 with a photograph.
     const Command& ring = commands.front();
     ASSERT_EQ(ring.kind, Kind::FillPath);
-    EXPECT_EQ(ring.rule, draw::FillRule::EvenOdd);
-    EXPECT_EQ(ring.color, (draw::Color{0, 0, 0, 0.1}));
+    EXPECT_EQ(ring.rule, drawing::FillRule::EvenOdd);
+    EXPECT_EQ(ring.color, (drawing::Color{0, 0, 0, 0.1}));
     EXPECT_EQ(circles(ring.path),
               (std::vector{std::make_pair(centre, 600.0), std::make_pair(centre, 580.0)}));
     // The photograph fills the inner circle and is cut to it.
@@ -78,7 +78,7 @@ TEST(BookCover, TheRingThePhotoInItTheLinesAndTheTurnedSpine) {
     ASSERT_TRUE(caption && label);
     EXPECT_EQ(caption->rect.x, e.front);
     EXPECT_EQ(caption->rect.w, e.column);
-    EXPECT_EQ(caption->align, draw::Align::Center);
+    EXPECT_EQ(caption->align, drawing::Align::Center);
     EXPECT_GT(caption->rect.y, centre.y + 600);
     EXPECT_NEAR(label->rect.y, caption->rect.bottom() + 30, 1e-9);
     // The emblem: a small ring with the photo in a circle of 45, above the bottom line.
@@ -102,7 +102,7 @@ TEST(BookCover, WithoutAPhotoTheEditionsPictureInASolidRing) {
   dic.set("caption", "Без имени");
   const auto cover = [&](int kind, int appid) {
     dic.set("booktype", kind);
-    return drawCover(report::kCoverPage, dic, appid, images.path()).commands();
+    return drawCover(reports::kCoverPage, dic, appid, images.path()).commands();
   };
   const auto picture = [&](int kind, int appid) {
     return std::filesystem::path(cover(kind, appid)[1].text).filename().string();
@@ -112,10 +112,10 @@ TEST(BookCover, WithoutAPhotoTheEditionsPictureInASolidRing) {
   EXPECT_EQ(picture(5, 2), "ti-child2.png");
   EXPECT_EQ(picture(2, 2), "b-ti-child.png");
   // The ring is solid: white, black in kind 3; the type is white, black in kinds 2 and 3.
-  EXPECT_EQ(cover(1, 1).front().color, (draw::Color{1, 1, 1, 1}));
-  EXPECT_EQ(cover(3, 1).front().color, (draw::Color{0, 0, 0, 1}));
-  EXPECT_EQ(textOf(cover(4, 1), "Без имени")->color, (draw::Color{1, 1, 1}));
-  EXPECT_EQ(textOf(cover(2, 1), "Без имени")->color, (draw::Color{0, 0, 0}));
+  EXPECT_EQ(cover(1, 1).front().color, (drawing::Color{1, 1, 1, 1}));
+  EXPECT_EQ(cover(3, 1).front().color, (drawing::Color{0, 0, 0, 1}));
+  EXPECT_EQ(textOf(cover(4, 1), "Без имени")->color, (drawing::Color{1, 1, 1}));
+  EXPECT_EQ(textOf(cover(2, 1), "Без имени")->color, (drawing::Color{0, 0, 0}));
 }
 
 }  // namespace

@@ -12,29 +12,29 @@
 namespace lad::testing {
 namespace {
 
-using draw::Command;
-using draw::Rect;
-using report::layoutRect;
-using Kind = draw::Command::Kind;
+using drawing::Command;
+using drawing::Rect;
+using reports::layoutRect;
+using Kind = drawing::Command::Kind;
 
 constexpr double kOt = 30;
-const draw::Size kPage = report::kInnerPage;
+const drawing::Size kPage = reports::kInnerPage;
 
 Rect at(int layout, int pos) {
   return layoutRect(layout, pos, kPage, kOt).value_or(Rect{-1, -1, -1, -1});
 }
 
 TEST(BookLayouts, TheLayoutOfACountByKindAndWhereEachPhotoStands) {
-  for (int kind = 1; kind <= 5; ++kind) EXPECT_EQ(report::chooseLayout(1, kind), 10);
+  for (int kind = 1; kind <= 5; ++kind) EXPECT_EQ(reports::chooseLayout(1, kind), 10);
   for (int kind : {2, 4, 5}) {
-    EXPECT_EQ(report::chooseLayout(2, kind), 23);
-    EXPECT_EQ(report::chooseLayout(3, kind), 31);
-    EXPECT_EQ(report::chooseLayout(4, kind), 41);
+    EXPECT_EQ(reports::chooseLayout(2, kind), 23);
+    EXPECT_EQ(reports::chooseLayout(3, kind), 31);
+    EXPECT_EQ(reports::chooseLayout(4, kind), 41);
   }
   for (int kind : {1, 3}) {
-    EXPECT_EQ(report::chooseLayout(2, kind), 20);
-    EXPECT_EQ(report::chooseLayout(3, kind), 30);
-    EXPECT_EQ(report::chooseLayout(6, kind), 40);
+    EXPECT_EQ(reports::chooseLayout(2, kind), 20);
+    EXPECT_EQ(reports::chooseLayout(3, kind), 30);
+    EXPECT_EQ(reports::chooseLayout(6, kind), 40);
   }
   EXPECT_EQ(at(10, 1), (Rect{0, 0, 3338, 2588}));
   EXPECT_EQ(at(21, 2), (Rect{3338.0 / 3, 300, 3338 - 3338.0 / 3, 1388}));
@@ -59,7 +59,7 @@ TEST(BookLayouts, TheLayoutOfACountByKindAndWhereEachPhotoStands) {
   // Frames: the passe-partout layouts in kinds 2, 4 and 5 only.
   for (const auto& [layout, kind, framed] :
        {std::tuple{41, 2, true}, {12, 4, true}, {32, 5, true}, {41, 3, false}, {29, 2, false}})
-    EXPECT_EQ(report::layoutHasFrame(layout, kind), framed) << layout << " " << kind;
+    EXPECT_EQ(reports::layoutHasFrame(layout, kind), framed) << layout << " " << kind;
 }
 
 TEST(BookPicturePage, PhotosFillTheirPlacesAndAnUnreadableOneGivesUpItsPlace) {
@@ -70,13 +70,13 @@ TEST(BookPicturePage, PhotosFillTheirPlacesAndAnUnreadableOneGivesUpItsPlace) {
   writeJpeg(wide, 400, 300);
   writeJpeg(tall, 300, 400);
   std::ofstream(broken) << "no picture";
-  EXPECT_EQ(report::readableImages({{wide}, {broken}, {tall}}),
-            (std::vector<report::BookImage>{{wide}, {tall}}));
+  EXPECT_EQ(reports::readableImages({{wide}, {broken}, {tall}}),
+            (std::vector<reports::BookImage>{{wide}, {tall}}));
 
   // Kind 2, three in use: layout 31 with frames, and no line under it.
-  report::PicturePage page{{{wide}, {broken}, {tall}, {wide, false}}, 0, "Подпись"};
-  draw::RecordingCanvas framed;
-  EXPECT_EQ(report::buildImagePage(framed, page, kPage, 2, kOt), 31);
+  reports::PicturePage page{{{wide}, {broken}, {tall}, {wide, false}}, 0, "Подпись"};
+  drawing::RecordingCanvas framed;
+  EXPECT_EQ(reports::buildImagePage(framed, page, kPage, 2, kOt), 31);
   const std::vector<Command> images = framed.ofKind(Kind::Image);
   ASSERT_EQ(images.size(), 2u);
   EXPECT_EQ(images[0].text, wide);
@@ -84,7 +84,7 @@ TEST(BookPicturePage, PhotosFillTheirPlacesAndAnUnreadableOneGivesUpItsPlace) {
   for (int pos : {1, 2}) {
     const Rect place = at(31, pos);
     const Command& image = images[pos - 1];
-    EXPECT_EQ(image.path, draw::Path().addRect(place));
+    EXPECT_EQ(image.path, drawing::Path().addRect(place));
     // Filled: the whole place is covered, the photo's aspect kept, centred.
     EXPECT_GE(image.rect.w, place.w - 1e-9);
     EXPECT_GE(image.rect.h, place.h - 1e-9);
@@ -102,19 +102,19 @@ TEST(BookPicturePage, PhotosFillTheirPlacesAndAnUnreadableOneGivesUpItsPlace) {
 
   // Kind 3, two in use: layout 20 without frames, the line under them in black.
   page.images = {{wide}, {tall}};
-  draw::RecordingCanvas plain;
-  EXPECT_EQ(report::buildImagePage(plain, page, kPage, 3, kOt), 20);
+  drawing::RecordingCanvas plain;
+  EXPECT_EQ(reports::buildImagePage(plain, page, kPage, 3, kOt), 20);
   EXPECT_TRUE(plain.ofKind(Kind::FillRect).empty());
-  EXPECT_EQ(plain.ofKind(Kind::Image)[1].path, draw::Path().addRect(at(20, 2)));
+  EXPECT_EQ(plain.ofKind(Kind::Image)[1].path, drawing::Path().addRect(at(20, 2)));
   const std::vector<Command> line = plain.ofKind(Kind::Text);
   ASSERT_EQ(line.size(), 1u);
   EXPECT_EQ(line[0].text, "Подпись");
-  EXPECT_EQ(line[0].color, (draw::Color{0, 0, 0}));
+  EXPECT_EQ(line[0].color, (drawing::Color{0, 0, 0}));
   EXPECT_GT(line[0].rect.y, at(20, 1).bottom());
   // A layout given by hand holds only its capacity.
   page = {{{wide}, {tall}, {wide}}, 10, ""};
-  draw::RecordingCanvas one;
-  EXPECT_EQ(report::buildImagePage(one, page, kPage, 1, kOt), 10);
+  drawing::RecordingCanvas one;
+  EXPECT_EQ(reports::buildImagePage(one, page, kPage, 1, kOt), 10);
   EXPECT_EQ(one.ofKind(Kind::Image).size(), 1u);
 }
 

@@ -26,39 +26,39 @@ class BookTest : public DayTest {
     addPregnancy(*store, kGid, day(5, 1, 2026), "60");
   }
   void photo(Date on, int width = 600, int height = 400) {
-    const Image image{width, height,
-                      std::vector<std::uint8_t>(std::size_t(width) * height * 3, 150)};
-    ASSERT_TRUE(saveDayPhoto(*context, on, kGid, encodeJpeg(image, 80), nullptr));
+    const platform::Image image{width, height,
+                                std::vector<std::uint8_t>(std::size_t(width) * height * 3, 150)};
+    ASSERT_TRUE(saveDayPhoto(*context, on, kGid, platform::encodeJpeg(image, 80), nullptr));
   }
   void breakPhoto(Date on) {
     std::ofstream(dayPhotoFiles(*context, on, kGid).full) << "no picture";
   }
   // The first pass alone, for a book of the kind.
-  std::vector<report::BookCommand> record(int kind = 1) {
-    const auto settings = report::bookSettings(*context, report::kInnerPage, kind);
-    const auto days = report::loadReportDays(*store, kGid, 8, 0, day(5, 1, 2026), listData);
-    const report::RowPainter rows(*context, settings, LADANEYA_IMAGES_DIR, listData);
-    report::BookRecorder recorder(settings, rows);
-    report::DiaryPages(recorder, settings, rows).drawPages(days);
+  std::vector<reports::BookCommand> record(int kind = 1) {
+    const auto settings = reports::bookSettings(*context, reports::kInnerPage, kind);
+    const auto days = reports::loadReportDays(*store, kGid, 8, 0, day(5, 1, 2026), listData);
+    const reports::RowPainter rows(*context, settings, LADANEYA_IMAGES_DIR, listData);
+    reports::BookRecorder recorder(settings, rows);
+    reports::DiaryPages(recorder, settings, rows).drawPages(days);
     return recorder.commands();
   }
-  std::vector<report::BookPage> prepare(int kind = 1, int year = 0) {
+  std::vector<reports::BookPage> prepare(int kind = 1, int year = 0) {
     std::string error;
-    const auto pages = report::prepareBook(*store, {kGid, kind, year, report::bookFile(*context)},
-                                           {LADANEYA_IMAGES_DIR, {}, {}}, &error);
+    const auto pages = reports::prepareBook(*store, {kGid, kind, year, reports::bookFile(*context)},
+                                            {LADANEYA_IMAGES_DIR, {}, {}}, &error);
     EXPECT_TRUE(pages) << error;
-    return pages.value_or(std::vector<report::BookPage>{});
+    return pages.value_or(std::vector<reports::BookPage>{});
   }
 };
 
-std::string funcs(const std::vector<report::BookCommand>& commands) {
+std::string funcs(const std::vector<reports::BookCommand>& commands) {
   std::string out;
   for (const auto& c : commands)
     out += (out.empty() ? "" : " ") + c.func + "@" + std::to_string(c.page);
   return out;
 }
 
-std::vector<int> numbers(const std::vector<report::BookPage>& pages) {
+std::vector<int> numbers(const std::vector<reports::BookPage>& pages) {
   std::vector<int> out;
   for (const auto& p : pages) out.push_back(p.page);
   return out;
@@ -132,10 +132,10 @@ TEST_F(BookTest, BookPdfHasThePagesAtTheirSizesAndTheCreator) {
   put("note", "Первая запись дневника", day(6, 1, 2026));
   photo(day(6, 1, 2026), 400, 600);
   photo(day(8, 1, 2026));
-  const auto file = report::bookFile(*context);
+  const auto file = reports::bookFile(*context);
   EXPECT_EQ(file, context->documentsDir() / "book.pdf");
   std::string error;
-  ASSERT_TRUE(report::makeBook(*store, {kGid, 2, 0, file}, {LADANEYA_IMAGES_DIR, {}, {}}, &error))
+  ASSERT_TRUE(reports::makeBook(*store, {kGid, 2, 0, file}, {LADANEYA_IMAGES_DIR, {}, {}}, &error))
       << error;
   renderPages(file, "book");
   const auto pdf = readPdf(file);
@@ -152,10 +152,11 @@ TEST_F(BookTest, BookPdfHasThePagesAtTheirSizesAndTheCreator) {
   // A kind outside 1 to 5 is refused, and a failure half way leaves the book that was there,
   // and no temporary file.
   const auto before = readWholeFile(file);
-  EXPECT_FALSE(report::makeBook(*store, {kGid, 6, 0, file}, {LADANEYA_IMAGES_DIR, {}, {}}, &error));
+  EXPECT_FALSE(
+      reports::makeBook(*store, {kGid, 6, 0, file}, {LADANEYA_IMAGES_DIR, {}, {}}, &error));
   EXPECT_EQ(error, "a book's kind is a number from 1 to 5, not 6");
-  const auto folder = report::bookFolder(*context);
-  EXPECT_FALSE(report::saveBook({folder / "book1.jpg", folder / "book99.jpg"}, file, "x", &error));
+  const auto folder = reports::bookFolder(*context);
+  EXPECT_FALSE(reports::saveBook({folder / "book1.jpg", folder / "book99.jpg"}, file, "x", &error));
   EXPECT_THAT(error, HasSubstr("book99.jpg"));
   EXPECT_EQ(readWholeFile(file), before);
   EXPECT_FALSE(std::filesystem::exists(atomicTempPath(file)));

@@ -19,11 +19,11 @@ class DiaryReportTest : public DayTest {
  protected:
   // Makes the profile's report, renders its pages for a look, and reads it back.
   PdfFile report(const std::string& name, int year = 1) {
-    const auto file = report::reportFile(*context);
+    const auto file = reports::reportFile(*context);
     std::string error;
-    EXPECT_TRUE(report::saveDiaryReport(*store, kGid, year,
-                                        report::diaryReportInput(*store, kGid, year), file,
-                                        {LADANEYA_IMAGES_DIR, {}}, &error))
+    EXPECT_TRUE(reports::saveDiaryReport(*store, kGid, year,
+                                         reports::diaryReportInput(*store, kGid, year), file,
+                                         {LADANEYA_IMAGES_DIR, {}}, &error))
         << error;
     renderPages(file, name);
     auto pdf = readPdf(file);
@@ -34,13 +34,13 @@ class DiaryReportTest : public DayTest {
     openEdition(1);
     addPregnancy(*store, kGid, day(5, 1, 2026), "60");
   }
-  void photo(Date on, const Image& image) {
-    const auto jpeg = encodeJpeg(image, 80);
+  void photo(Date on, const platform::Image& image) {
+    const auto jpeg = platform::encodeJpeg(image, 80);
     ASSERT_TRUE(saveDayPhoto(*context, on, kGid, jpeg, nullptr));
   }
 };
 
-Image grey(int width, int height) {
+platform::Image grey(int width, int height) {
   return {width, height, std::vector<std::uint8_t>(std::size_t(width) * height * 3, 128)};
 }
 
@@ -111,10 +111,10 @@ TEST_F(DiaryReportTest, ALongNoteRunsOverPagesWithItsHeadingsOnlyOnTheFirst) {
 
 // The room left for the next day's row under a first day with that note, as the pages count it.
 double roomUnder(const Context& context, const std::string& first) {
-  const report::PdfSettings s = report::pdfPrepare(context, report::kReportPage);
+  const reports::PdfSettings s = reports::pdfPrepare(context, reports::kReportPage);
   const double afterHeadings = s.top() + s.wh + 3 * s.ot + s.dh + s.ot;
   const double y = afterHeadings +
-                   report::textHeight(first, {s.fontsize, false}, s.rowTextWidth()) + s.ot +
+                   reports::textHeight(first, {s.fontsize, false}, s.rowTextWidth()) + s.ot +
                    3 * s.ot;
   return s.page.h - 10 * s.ot - y - (s.dh + s.ot);
 }
@@ -180,14 +180,14 @@ TEST_F(DiaryReportTest, AFileThatCannotBeWrittenLeavesNothingBehind) {
   pregnancy();
   const auto missing = dir.path() / "no-such-folder" / "report.pdf";
   std::string error;
-  EXPECT_FALSE(report::saveDiaryReport(*store, kGid, 1, report::diaryReportInput(*store, kGid, 1),
-                                       missing, {LADANEYA_IMAGES_DIR, {}}, &error));
+  EXPECT_FALSE(reports::saveDiaryReport(*store, kGid, 1, reports::diaryReportInput(*store, kGid, 1),
+                                        missing, {LADANEYA_IMAGES_DIR, {}}, &error));
   EXPECT_THAT(error, HasSubstr("report.pdf"));
   EXPECT_FALSE(std::filesystem::exists(missing.parent_path()));
-  EXPECT_EQ(report::getReportSize(missing), 0);
-  const auto file = report::reportFile(*context);
+  EXPECT_EQ(reports::getReportSize(missing), 0);
+  const auto file = reports::reportFile(*context);
   std::ofstream(file) << std::string(3 * 1048576 + 10, 'x');
-  EXPECT_EQ(report::getReportSize(file), 3);
+  EXPECT_EQ(reports::getReportSize(file), 3);
 }
 
 }  // namespace

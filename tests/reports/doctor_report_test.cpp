@@ -8,17 +8,17 @@
 namespace lad::testing {
 namespace {
 
-using report::DoctorReport;
+using reports::DoctorReport;
 using ::testing::HasSubstr;
 using ::testing::Not;
 
 class DoctorReportTest : public DayTest {
  protected:
   PdfFile report(DoctorReport kind, const std::string& name) {
-    const auto file = report::doctorReportFile(*context, kind);
+    const auto file = reports::doctorReportFile(*context, kind);
     std::string error;
-    EXPECT_TRUE(report::saveDoctorReport(*store, kind, day(6, 1, 2026), kGid, LADANEYA_IMAGES_DIR,
-                                         file, &error))
+    EXPECT_TRUE(reports::saveDoctorReport(*store, kind, day(6, 1, 2026), kGid, LADANEYA_IMAGES_DIR,
+                                          file, &error))
         << error;
     renderPages(file, name);
     auto pdf = readPdf(file);

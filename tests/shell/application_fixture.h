@@ -132,9 +132,10 @@ class ApplicationTest : public ::testing::Test {
   }
   // A grey photo of that size, as the browser sends a chosen picture.
   static std::string jpegDataUrl(int width, int height) {
-    const Image image{width, height,
-                      std::vector<std::uint8_t>(static_cast<std::size_t>(width * height * 3), 160)};
-    const auto jpeg = encodeJpeg(image, 85);
+    const platform::Image image{
+        width, height,
+        std::vector<std::uint8_t>(static_cast<std::size_t>(width * height * 3), 160)};
+    const auto jpeg = platform::encodeJpeg(image, 85);
     return "data:image/jpeg;base64," + base64Encode(Bytes(jpeg.begin(), jpeg.end()));
   }
   // Digits typed on the lock's pad.

@@ -67,7 +67,7 @@ class CheckListsTest : public testing::ApplicationTest {
 };
 
 TEST_F(CheckListsTest, ATickOfThePlanOffersItsTextForTheDiaryAndUntickingLeavesTheDiary) {
-  auto page = shell::checks::doctorPage(*app, host, kGid);
+  auto page = shell::doctorPage(*app, host, kGid);
   Value view = page->view();
   // The plan opens on the span of weeks that holds week 12.
   const auto highlight = content(view)["highlight"].intValue();
@@ -105,7 +105,7 @@ TEST_F(CheckListsTest, ATickOfThePlanOffersItsTextForTheDiaryAndUntickingLeavesT
 }
 
 TEST_F(CheckListsTest, TheHelpOfAnAnalysisSharesTheTickOfThePlanItem) {
-  auto page = shell::checks::doctorPage(*app, host, kGid);
+  auto page = shell::doctorPage(*app, host, kGid);
   const auto links = targets(page->view(), "link");
   ASSERT_FALSE(links.empty());
   ASSERT_TRUE(page->tap(links[0]).ok());
@@ -122,13 +122,13 @@ TEST_F(CheckListsTest, TheHelpOfAnAnalysisSharesTheTickOfThePlanItem) {
   const auto ticked = ticks(1);
   ASSERT_EQ(ticked.size(), 1u);
   int shown = 0;
-  const Value plan = shell::checks::doctorPage(*app, host, kGid)->view();
+  const Value plan = shell::doctorPage(*app, host, kGid)->view();
   for (const auto& box : targets(plan, "tick")) shown += tickOf(plan, box);
   EXPECT_GE(shown, 1);
 }
 
 TEST_F(CheckListsTest, HospitalListsAreSharedByEveryProfileAndKeepTicksOfRemovedItems) {
-  auto page = shell::checks::hospitalListsPage(*app, host);
+  auto page = shell::hospitalListsPage(*app, host);
   const auto links = targets(page->view(), "link");
   ASSERT_EQ(links.size(), 4u);
   ASSERT_TRUE(page->tap(links[0]).ok());
@@ -155,8 +155,8 @@ TEST_F(CheckListsTest, HospitalListsAreSharedByEveryProfileAndKeepTicksOfRemoved
 
 TEST_F(CheckListsTest, TheChildsDiaryTakesThePlanTextAsAVaccination) {
   launchApp(2);
-  shell::checks::insertIntoNote(*app, kGid, "Прививка БЦЖ", clock->now());
-  shell::checks::insertIntoNote(*app, kGid, "Осмотр педиатра", clock->now());
+  shell::insertIntoNote(*app, kGid, "Прививка БЦЖ", clock->now());
+  shell::insertIntoNote(*app, kGid, "Осмотр педиатра", clock->now());
   EXPECT_EQ(diary("priv"), "Прививка БЦЖ\nОсмотр педиатра");
   EXPECT_EQ(diary("doctor"), "");
 }

@@ -34,7 +34,9 @@ class ChildDayTest : public testing::ApplicationTest {
   static std::string caption(Session& s, const std::string& field) {
     return rowWith(s, "field", field)["caption"].text();
   }
-  List storedFeedings() { return loadKormForDate(app->store(), clock->now(), newID2(1, 1)); }
+  List storedFeedings() {
+    return health::loadKormForDate(app->store(), clock->now(), newID2(1, 1));
+  }
 
   Date today_ = clock->now();
 };

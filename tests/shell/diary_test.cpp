@@ -105,8 +105,8 @@ TEST_F(DiaryTest, TheDayPhotoIsWrittenWithItsSmallCopyAndGoesWithTheDeletedDay) 
   const DayPhotoFiles files = dayPhotoFiles(app->context(), clock->now(), gid());
   std::string why;
   const std::string bytes = readWholeFile(files.small).value_or("");
-  const auto small =
-      decodeImage({reinterpret_cast<const std::uint8_t*>(bytes.data()), bytes.size()}, &why);
+  const auto small = platform::decodeImage(
+      {reinterpret_cast<const std::uint8_t*>(bytes.data()), bytes.size()}, &why);
   ASSERT_TRUE(small) << why;
   EXPECT_EQ(small->width, 160);
   EXPECT_EQ(small->height, 80);

@@ -27,8 +27,8 @@ class ReportPanelTest : public ApplicationTest {
     addPregnancy(app->store(), kGid, first, "60");
     generateDiary(app->store(), kGid, first, 10, 0);
   }
-  report::ReportRequest request(const std::filesystem::path& target) const {
-    report::ReportRequest r;
+  reports::ReportRequest request(const std::filesystem::path& target) const {
+    reports::ReportRequest r;
     r.gid = kGid;
     r.target = target;
     return r;
@@ -111,9 +111,9 @@ class BookScreenTest : public ApplicationTest {
     addPregnancy(app->store(), kBookGid, first, "60");
     // Five days of photos and nothing else: a picture page of four, then one of one.
     for (int d = 1; d <= 5; ++d) {
-      const Image image{320, 240, std::vector<std::uint8_t>(320 * 240 * 3, 40 * d)};
+      const platform::Image image{320, 240, std::vector<std::uint8_t>(320 * 240 * 3, 40 * d)};
       ASSERT_TRUE(saveDayPhoto(app->context(), dates.addDays(first, d), kBookGid,
-                               encodeJpeg(image, 80), nullptr));
+                               platform::encodeJpeg(image, 80), nullptr));
     }
     session = greetedSession();
     ASSERT_TRUE(tap(*session, "card:" + std::string(kBookGid)).ok());

@@ -19,30 +19,29 @@ namespace {
 
 using ::testing::HasSubstr;
 using ::testing::StartsWith;
-namespace week = shell::week;
 
 // The edges of the week tables: the first and last weeks with a picture, fruit or length, the
 // month turning over, and an organ's wheel before, inside and after its weeks.
 TEST(WeekFacts, TheTablesEdgesFollowTheDay) {
-  EXPECT_EQ(week::movieFrames(1).front(), "2w001.jpg");
-  EXPECT_EQ(week::movieFrames(50).front(), "37w001.jpg");
-  EXPECT_EQ(week::fruitCaption(3), week::fruitCaption(0));
-  EXPECT_NE(week::fruitCaption(4), week::fruitCaption(3));
-  EXPECT_EQ(week::fruitCaption(45), week::fruitCaption(38));
+  EXPECT_EQ(shell::movieFrames(1).front(), "2w001.jpg");
+  EXPECT_EQ(shell::movieFrames(50).front(), "37w001.jpg");
+  EXPECT_EQ(shell::fruitCaption(3), shell::fruitCaption(0));
+  EXPECT_NE(shell::fruitCaption(4), shell::fruitCaption(3));
+  EXPECT_EQ(shell::fruitCaption(45), shell::fruitCaption(38));
 
-  EXPECT_EQ(week::bodyPageLength(28, 9), "-");
-  EXPECT_EQ(week::bodyPageLength(29, 9), "2 мм.");
-  EXPECT_EQ(week::bodyPageLength(63, 9), "14 мм.");
-  EXPECT_EQ(week::bodyPageLength(64, 16.5), "16.5 мм.");
+  EXPECT_EQ(shell::bodyPageLength(28, 9), "-");
+  EXPECT_EQ(shell::bodyPageLength(29, 9), "2 мм.");
+  EXPECT_EQ(shell::bodyPageLength(63, 9), "14 мм.");
+  EXPECT_EQ(shell::bodyPageLength(64, 16.5), "16.5 мм.");
 
-  EXPECT_EQ(week::bodyMonth(29), 1);
-  EXPECT_EQ(week::bodyMonth(30), 2);
-  EXPECT_EQ(week::bodyMonth(400), 9);
+  EXPECT_EQ(shell::bodyMonth(29), 1);
+  EXPECT_EQ(shell::bodyMonth(30), 2);
+  EXPECT_EQ(shell::bodyMonth(400), 9);
 
-  const auto heart = week::organs()[3];  // weeks 5 to 10
-  EXPECT_EQ(week::organDegrees(heart, 20), 0);
-  EXPECT_EQ(week::organDegrees(heart, 52), 174);
-  EXPECT_EQ(week::organDegrees(heart, 70), 360);
+  const auto heart = shell::organs()[3];  // weeks 5 to 10
+  EXPECT_EQ(shell::organDegrees(heart, 20), 0);
+  EXPECT_EQ(shell::organDegrees(heart, 52), 174);
+  EXPECT_EQ(shell::organDegrees(heart, 70), 360);
 }
 
 // The texts of one group's body rows, as the content file holds them.
@@ -102,7 +101,7 @@ class WeekPagesTest : public ApplicationTest {
     addPregnancy(app->store(), gid, dates.addDays(clock->now(), 1 - day), "60");
     return gid;
   }
-  std::filesystem::path folder() const { return week::contentFolder(app->context()); }
+  std::filesystem::path folder() const { return shell::contentFolder(app->context()); }
 };
 
 TEST_F(WeekPagesTest, TodayShowsTheCardsPictureAndTextsOfThePresentWeek) {
@@ -197,7 +196,7 @@ TEST_F(WeekPagesTest, WomanShowsTheMonthsBodyAndTheFruitAndOpensTheWeeksTexts) {
   // Week 3 has no size yet (the month and fruit of other weeks are the tables' edges above).
   view = shell::WomanPage(*app, host, pregnancyOnDay(20), 1).view();
   EXPECT_EQ((*child(view, "text", "id", "fruit"))["text"].text(),
-            std::string(week::fruitCaption(0)) + " -");
+            std::string(shell::fruitCaption(0)) + " -");
 }
 
 }  // namespace

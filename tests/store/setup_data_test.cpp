@@ -97,15 +97,15 @@ TEST_F(SetupDataTest, EditorDatesThatDoNotReadAreLeftOutAndNothingElseIsLost) {
 
 TEST_F(SetupDataTest, ThePortraitIsWrittenAsJpegAndGoesWithTheProfile) {
   const std::string gid = newID();
-  const Image red{4, 3, Bytes(4 * 3 * 3, 0)};
+  const platform::Image red{4, 3, Bytes(4 * 3 * 3, 0)};
   std::string error;
   List rows = editorRows("01.02.2026", "15.02.2026", "08.11.2026", "Ева");
-  rows.push_back(photoRow(1, encodeJpeg(red, 90)));
+  rows.push_back(photoRow(1, platform::encodeJpeg(red, 90)));
   saveSetupData(*store, kSetupFromEditor, setupArrayToDic(*store, rows, gid, &error), gid);
   EXPECT_EQ(error, "");
   const auto portrait = portraitFile(*context, gid);
   const std::string jpeg = testing::readFile(portrait);
-  ASSERT_TRUE(decodeImage(Bytes(jpeg.begin(), jpeg.end()), &error)) << error;
+  ASSERT_TRUE(platform::decodeImage(Bytes(jpeg.begin(), jpeg.end()), &error)) << error;
 
   // A picture that cannot be read leaves the portrait in place and says so.
   rows.back() = photoRow(1, Bytes{'n', 'o'});
