@@ -1,6 +1,6 @@
 // Browser test of the contraction counter: opened by its shortcut, three contractions timed on
-// the server's test clock, the charts and the trend message drawn, a row swiped away, and one
-// timed across a locked screen.
+// the server's test clock, the charts and the trend message drawn, a row swiped away by touch
+// and one more timed at once, and one timed across a locked screen.
 import assert from 'node:assert/strict';
 import * as e2e from './harness.mjs';
 
@@ -104,9 +104,12 @@ async function checkCounter({ browser, base, outDir }) {
   // The swipe belongs to the row: the page under it does not follow the finger.
   const row = page.locator('.ring-page .list .row').last();
   assert.equal(await swipe(page, row, -200), '', 'the page stays while a row is swiped');
-  await row.locator('button.delete').click();
+  // The finger's next taps count: the swipe left no fling of the browser's to swallow them.
+  await row.locator('button.delete').tap();
   await page.waitForFunction(() => document.querySelectorAll('.ring-page .list .row').length === 3);
   await e2e.waitForText(page, '[data-info="trend"]', TOO_FEW);
+  await timeOne(page, 300, 40);
+  assert.equal(await page.locator('.ring-page .list .row').count(), 4, 'timed after a delete');
   await e2e.closeClean({ context, errors });
 
   // A second phone times one across its locked screen.

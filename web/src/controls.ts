@@ -35,6 +35,7 @@ export function addSwipeToDelete(row: HTMLElement, target: string, caption: stri
   remove.classList.add('delete');
   row.classList.add('swipeable');
   row.append(remove);
+  keepSidewaysTouches(row);
   let startX: number | null = null;
   row.addEventListener('pointerdown', (event) => (startX = event.clientX));
   row.addEventListener('pointerup', (event) => {
@@ -43,6 +44,32 @@ export function addSwipeToDelete(row: HTMLElement, target: string, caption: stri
     startX = null;
     if (Math.abs(dx) >= SWIPE_DISTANCE_PX) row.classList.toggle('swiped', dx < 0);
   });
+}
+
+/**
+ * A finger moving sideways on the row moves nothing of the browser's: left to it, the move
+ * would start a scroll whose fling swallows the next tap, the one on the delete button.
+ */
+function keepSidewaysTouches(row: HTMLElement): void {
+  let x = 0;
+  let y = 0;
+  row.addEventListener(
+    'touchstart',
+    (event) => {
+      x = event.touches[0]?.clientX ?? 0;
+      y = event.touches[0]?.clientY ?? 0;
+    },
+    { passive: true },
+  );
+  row.addEventListener(
+    'touchmove',
+    (event) => {
+      const touch = event.touches[0];
+      if (touch && event.cancelable && Math.abs(touch.clientX - x) > Math.abs(touch.clientY - y))
+        event.preventDefault();
+    },
+    { passive: false },
+  );
 }
 
 /** A button that takes a picture from the camera or the album and sends it. */
