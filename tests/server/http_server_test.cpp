@@ -53,6 +53,7 @@ TEST_F(ServerTest, ServesStaticFilesAndRefusesUnknownPaths) {
   auto c = client();
   auto index = c->Get("/");
   ASSERT_TRUE(index);
+  EXPECT_EQ(index->status, 200);
   EXPECT_EQ(index->get_header_value("X-Content-Type-Options"), "nosniff");
 
   auto nothing = c->Get("/api/nothing");
@@ -172,8 +173,6 @@ TEST_F(ServerTest, ManyClientsAtOnceAllGetCorrectAnswers) {
 
   // An even number of toggles, each taken whole, leaves the switch where it was.
   static_assert(kThreads * kRounds % 2 == 0);
-  const auto showRecAfter = rowOf(Json::parse(client()->Get("/api/view")->body), "menu:56");
-  EXPECT_EQ(showRecAfter["checked"], showRecBefore["checked"]);
   EXPECT_EQ(switchOnDisk(dataDir(), "showRec"), showRecBefore["checked"].get<bool>());
 }
 
