@@ -34,5 +34,12 @@ TEST(Png, AlphaSixteenBitAndPaletteSamplesBecomeRgbOverWhite) {
             (std::vector<Rgb>{kRed, kBlue, kWhite, kBlue}));
 }
 
+TEST(Png, IsConvertedToJpeg) {
+  const Image source = quadrants(40, 30);
+  const auto jpeg = toJpeg(pngOf(40, 30, PNG_FORMAT_RGB, source.rgb.data()), 100, nullptr);
+  ASSERT_TRUE(jpeg && jpeg->size() > 2 && (*jpeg)[0] == 0xFF && (*jpeg)[1] == 0xD8);
+  expectQuarters(*decodeImage(*jpeg, nullptr), {kRed, kGreen, kBlue, kWhite});
+}
+
 }  // namespace
 }  // namespace lad::platform::test
