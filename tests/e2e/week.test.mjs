@@ -93,7 +93,7 @@ async function checkPregnancy(page, outDir, p, device) {
     page.screenshot({ path: path.join(outDir, `week-${p.week}-${what}-${device}.png`), fullPage });
   await checkToday(page, p);
   await shot('today', false);
-  await checkScreens(page, shot);
+  if (device === 'phone') await checkScreens(page, shot); // they snap alike on a tablet
   await checkBaby(page, p);
   await shot('baby');
   await checkWoman(page, p);
