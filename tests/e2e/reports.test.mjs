@@ -40,6 +40,7 @@ async function checkDevice(browser, base, device, name, outDir) {
 
   await choose(page, 'Вся беременность');
   const diary = await finishedReport(page);
+  assert.equal(diary, '/doc/report/report.pdf');
   await e2e.snap(page, outDir, `reports-ready-${name}`);
   assert.deepEqual(await fetchHead(page, diary), {
     status: 200,
