@@ -32,6 +32,15 @@ class ProfileEditorTest : public lad::testing::ApplicationTest {
   std::unique_ptr<Session> session;
 };
 
+// A date row's wheel opens on the row's own date: confirmed untouched, it gives the date back.
+TEST_F(ProfileEditorTest, ADateWheelOpensOnItsRowsDate) {
+  tap("menu:31");
+  ASSERT_TRUE(change("sdat1", "01.05.2026").ok());
+  tap("field:sdat1");
+  ASSERT_TRUE(pick(*session, lad::testing::openedPositions(session->view()["popup"])).ok());
+  EXPECT_EQ(rowWith(*session, "field", "sdat1")["source"].text(), "01.05.2026");
+}
+
 TEST_F(ProfileEditorTest, AnEmptiedRequiredDateKeepsTheEditorOpenAndCancelKeepsTheData) {
   tap("menu:31");
   EXPECT_FALSE(change("nosuchfield", "x").ok());
