@@ -5,7 +5,6 @@
 
 #include <thread>
 
-#include "shell/popup_menu.h"
 #include "shell/report_panel.h"
 #include "store/day_photo.h"
 #include "tests/fixtures/diary_generator.h"
@@ -62,7 +61,7 @@ TEST_F(ReportPanelTest, TheMenuChoiceTheDayAndThePanelOfTheFinishedReport) {
   RecordingHost host;
   shell::ReportPanel panel(*app, host);
   EXPECT_TRUE(panel.ask(kGid).ok());
-  ASSERT_TRUE(dynamic_cast<shell::PopupMenu*>(host.popup.get()));
+  ASSERT_TRUE(host.popup);
   EXPECT_TRUE(host.answer(3, "Отменить").ok());
   EXPECT_FALSE(panel.shown());
 
