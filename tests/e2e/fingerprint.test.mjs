@@ -60,6 +60,5 @@ await e2e.runBrowserTest('fingerprint', async ({ browser, base, outDir, server }
   await page.tap(KEY);
   await page.waitForSelector('.row[data-id]');
   await e2e.snap(page, outDir, 'fingerprint-open');
-  assert.deepEqual(errors, [], 'no uncaught errors in the page');
-  await context.close();
+  await e2e.closeClean({ context, errors });
 });

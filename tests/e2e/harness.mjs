@@ -163,7 +163,7 @@ export async function advanceClock(page, seconds) {
   assert.equal(response.status(), 200, 'the test clock moves');
 }
 
-/** Opens the picker of an editor row and turns each wheel to the row with the given text. */
+/** Opens the picker of an editor row and turns its first wheels to the rows with the texts. */
 export async function pickOnWheels(page, target, texts) {
   await page.tap(`button[data-id="${target}"]`);
   await page.waitForSelector('.popup-cover .wheel');
@@ -173,6 +173,7 @@ export async function pickOnWheels(page, target, texts) {
   );
   await page.evaluate((wanted) => {
     document.querySelectorAll('.popup-cover .wheel').forEach((wheel, i) => {
+      if (wanted[i] === undefined) return; // left on the row it opened on
       const rows = [...wheel.querySelectorAll('.wheel-row')];
       const at = rows.findIndex((row) => row.textContent === wanted[i]);
       if (at < 0) throw new Error(`no row "${wanted[i]}" on wheel ${i}`);
