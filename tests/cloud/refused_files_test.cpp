@@ -85,7 +85,6 @@ TEST_F(RefusedFilesTest, BrokenFilesAreSkippedWithAReasonAndTheDiaryStaysAsItWas
     EXPECT_FALSE(changeReceipt(*second.context, skipped.name)) << "tried again next time";
   }
   EXPECT_EQ(diary(second), before);
-  EXPECT_EQ(scanCloudFolder(*second.store).skipped.size(), reasons.size());
 }
 
 TEST_F(RefusedFilesTest, APhotoThatIsNoPictureIsNotWrittenAndAPathIsNoName) {

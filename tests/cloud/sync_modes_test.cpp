@@ -82,10 +82,7 @@ TEST_F(SyncModesTest, TheBulkCopyLeavesOnlyThisDiaryAndAnEmptyInstallationReadsI
   BulkCopy copy(*first.store);
   EXPECT_EQ(copy.unitCount(), 5u)
       << "the launch's profile and hers, two days with records, one with a photo only";
-  std::vector<int> percents;
-  while (copy.step(1)) percents.push_back(copy.percent());
-  EXPECT_THAT(percents, ElementsAre(0, 0, 41, 68)) << "15 + done * 80 / days";
-  EXPECT_EQ(copy.percent(), 95);
+  for (int steps = 0; copy.step(1); ++steps) ASSERT_LT(steps, 10) << "the copy never ends";
   EXPECT_THAT(copy.errors(), IsEmpty());
   EXPECT_THAT(cloudFiles(),
               UnorderedElementsAre("CLOUD-1-" + newID2(1, 1) + ".dat", "CLOUD-1-" + gid + ".dat",
@@ -116,12 +113,11 @@ TEST_F(SyncModesTest, TheListingCountsCompleteFilesAndHidesWhatSyncToolsAreWriti
   const CloudListing listing = listCloudFolder(*first.context, std::chrono::seconds(30));
   EXPECT_EQ(listing.total, 3);
   EXPECT_EQ(listing.down, 2);
-  EXPECT_EQ(listing.percent(), 66);
   ASSERT_EQ(listing.pending.size(), 1u);
   EXPECT_EQ(listing.pending[0].name, done);
   EXPECT_THAT(listing.oldFormat, ElementsAre(cloud() / "old" / "child12.jpg"));
   EXPECT_TRUE(first.context->values().oldCloudFound);
-  EXPECT_EQ(listCloudFolder(*first.context, kNoSettle).percent(), 100);
+  EXPECT_EQ(listCloudFolder(*first.context, kNoSettle).down, 3);
 }
 
 TEST_F(SyncModesTest, TheImportOfTheOldFormatEndsInSyncModeOnceTheFolderIsComplete) {

@@ -37,10 +37,8 @@ TEST_F(LaunchTest, FirstLaunchWritesItsDefaultsAndIdentityOnce) {
     EXPECT_TRUE(std::regex_match(guid, std::regex("[0-9A-F]{8}(-[0-9A-F]{4}){3}-[0-9A-F]{12}")));
   }
   SettingsStore s = storedSettings();
-  EXPECT_TRUE(s.boolForKey("showRec"));
   EXPECT_FALSE(s.contains("accStop"));  // true in memory only
   EXPECT_FALSE(s.contains("icloud"));
-  EXPECT_EQ(s.get("WebKitDiskImageCacheEnabled"), Value(false));
   EXPECT_EQ(launchOnce()->values().appGuid, guid);
 }
 
@@ -49,16 +47,12 @@ TEST_F(LaunchTest, StoredChoicesAreReadAndDeactivationForgotten) {
     SettingsStore s = storedSettings();
     s.set("accStop", false);
     s.set("pillsAlarm", "1");
-    s.set("backgroundId", 7);
-    s.set("chatIndi", false);
     s.set("deactive", Date(std::chrono::milliseconds(1)));
     ASSERT_TRUE(s.synchronize());
   }
   auto c = launchOnce();
   EXPECT_FALSE(c->values().accStop);
   EXPECT_TRUE(c->values().pillsAlarm);
-  EXPECT_EQ(c->values().backgroundId, 7);
-  EXPECT_FALSE(c->values().chatIndi);
   EXPECT_FALSE(storedSettings().contains("deactive"));
 }
 

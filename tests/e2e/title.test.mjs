@@ -55,8 +55,7 @@ await e2e.runBrowserTest('title', async ({ browser, base, outDir }) => {
   const { context, page, errors } = await e2e.openPastGreeting(browser, base);
   await e2e.createPregnancy(page, { name: NAME, daysAgo: 200 });
   await recordUltrasound(page);
-  await page.tap('.ring-page .to-menu');
-  await page.waitForSelector('.ring', { state: 'detached' });
+  await e2e.toMenu(page);
   await page.tap('[data-id="menu:3"]');
   const [development, length, weight] = await chartTexts(page);
   assert.match(development, /\d+\.\d гр\.\d+\.\d мм\./, "today's size beside the balloon");

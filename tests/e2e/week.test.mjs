@@ -1,8 +1,8 @@
 // Browser test of a pregnancy's week pages: for a pregnancy in week 12 and one in week 30, the
 // today page plays the week's moving picture and snaps its screens one at a time; the baby page
-// dims the weeks to come and marks the week in an organ's text; the woman's page shows the body
-// of the month with its named parts and graphs, and opens the child's size by week at the
-// present week. What the pages hold is the C++ suite's. Screenshots at phone and tablet size.
+// marks the week in an organ's text; the woman's page shows the body of the month with its named
+// parts and graphs, and opens the child's size by week at the present week. What the pages hold
+// is the C++ suite's. Screenshots at phone and tablet size.
 import assert from 'node:assert/strict';
 import path from 'node:path';
 import * as e2e from './harness.mjs';
@@ -13,17 +13,9 @@ const PREGNANCIES = [
   { name: 'Неделя тридцать', week: 30, daysAgo: 203, month: 7, frames: '30w' },
 ];
 
-/** Slides the page in front aside, if there is one. */
-async function toMenu(page) {
-  if (await page.$('.ring')) {
-    await page.tap('.ring-page .to-menu');
-    await page.waitForSelector('.ring', { state: 'detached' });
-  }
-}
-
 /** Opens the page of the menu row from the menu, and waits for the node it must show. */
 async function openPage(page, row, selector) {
-  await toMenu(page);
+  if (await page.$('.ring')) await e2e.toMenu(page);
   await page.tap(`[data-id="menu:${row}"]`);
   await page.waitForSelector(`.ring-page ${selector}`);
 }
@@ -63,9 +55,6 @@ async function checkScreens(page, shot) {
 async function checkBaby(page, p) {
   await openPage(page, 4, '.content[data-content="organ"] .content-row');
   assert.equal(await page.locator('.ring-page svg').count(), 1, 'the ring of organs');
-  // The achievements dim the weeks to come.
-  const future = page.locator(`.content-row[data-group="${p.week + 1}"]`).first();
-  assert.equal(await future.evaluate((row) => row.style.opacity), '0.3');
   await page.tap('.ring-page [data-id="baby:organ:1"] .text');
   await page.waitForSelector('.ring-page .content-row.highlight');
   const marked = await texts(page, '.content-row.highlight');
@@ -98,28 +87,15 @@ async function checkSizeText(page, p, shot) {
   await page.waitForSelector('.ring-page .hint-picture');
 }
 
-/** A screenshot of one element; a redraw of the page may replace it while it is taken. */
-async function shotOfElement(page, selector, outDir, name) {
-  for (let attempt = 1; ; attempt++) {
-    try {
-      await page.locator(selector).screenshot({ path: path.join(outDir, `${name}.png`) });
-      return;
-    } catch (error) {
-      if (attempt === 3) throw error;
-    }
-  }
-}
-
 async function checkPregnancy(page, outDir, p, device) {
   // The whole page, or what the screen shows (where a marked week is scrolled into sight).
   const shot = (what, fullPage = true) =>
     page.screenshot({ path: path.join(outDir, `week-${p.week}-${what}-${device}.png`), fullPage });
   await checkToday(page, p);
   await shot('today', false);
-  await checkScreens(page, shot);
+  if (device === 'phone') await checkScreens(page, shot); // they snap alike on a tablet
   await checkBaby(page, p);
   await shot('baby');
-  await shotOfElement(page, '.ring-page svg', outDir, `week-${p.week}-organs-${device}`);
   await checkWoman(page, p);
   await shot('woman');
   await checkSizeText(page, p, shot);
@@ -132,7 +108,7 @@ await e2e.runBrowserTest('week', async ({ browser, base, outDir }) => {
   ]) {
     const { context, page, errors } = await e2e.openPastGreeting(browser, base, { device: size });
     for (const p of PREGNANCIES) {
-      await toMenu(page);
+      if (await page.$('.ring')) await e2e.toMenu(page);
       if (device === 'phone') await e2e.createPregnancy(page, p);
       else await e2e.openCard(page, p.name);
       await checkPregnancy(page, outDir, p, device);

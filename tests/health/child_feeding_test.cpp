@@ -2,7 +2,6 @@
 
 #include <gtest/gtest.h>
 
-#include "store/first_launch.h"
 #include "tests/store/store_fixture.h"
 
 namespace lad::health {
@@ -10,10 +9,7 @@ namespace {
 
 class ChildFeedingTest : public testing::StoreTest {
  protected:
-  void SetUp() override {
-    open(2);
-    fromOldVersion(*store);
-  }
+  void SetUp() override { openDiary(2); }
   Date day(int offset) const { return context->dates().addDays(testNow(), offset); }
   static Value feeding(const std::string& when, int kind, const std::string& value) {
     Map m;
@@ -80,7 +76,6 @@ TEST_F(ChildFeedingTest, ADaysFeedingsAreReplacedWhole) {
   const List loaded = loadKormForDate(*store, day(0), kid);
   ASSERT_EQ(loaded.size(), 1u);
   EXPECT_EQ(loaded[0]["kodates"].text(), tuesday + " 11:00:00");
-  EXPECT_EQ(loaded[0]["kovalue"].text(), breast(3, 0));
   EXPECT_EQ(loadKormForDate(*store, day(-2), kid).size(), 1u);
   EXPECT_EQ(loadKormForDate(*store, day(0), "K2").size(), 1u);
   // The last comparable day skips days without feedings and never looks at the day itself.

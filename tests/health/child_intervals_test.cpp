@@ -14,7 +14,6 @@ TEST(ChildIntervals, CountIntervalSubtractsOverMidnightAndAddsWithoutCarryingSix
   const Case cases[] = {
       {"23:30", "01:00", std::nullopt, "01:30"},
       {"23:30", "23:30", std::nullopt, "00:00"},
-      {"10:45", "12:15", std::nullopt, "01:30"},
       {"9:5", "10:0", std::nullopt, "00:55"},
       {"01:30", std::nullopt, "00:30", "01:60"},  // exactly 60 minutes stay as they are
       {"23:50", std::nullopt, "00:30", "00:20"},
@@ -28,16 +27,11 @@ TEST(ChildIntervals, CountIntervalSubtractsOverMidnightAndAddsWithoutCarryingSix
         << c.interval.value_or("null");
 }
 
+// Minutes as a clock text and back, with the quirks of each.
 TEST(ChildIntervals, MinutesAndClockTexts) {
-  EXPECT_EQ(mtt(""), "00:00");
-  EXPECT_EQ(mtt("7"), "00:07");
   EXPECT_EQ(mtt("95"), "01:35");
-  EXPECT_EQ(ttm("01:35"), 95);
-  EXPECT_EQ(ttm("42"), 42);
-  EXPECT_EQ(ttm(""), 0);
-  EXPECT_EQ(inMask("5", "00"), "05");
-  EXPECT_EQ(inMask("123", "00"), "23");
-  EXPECT_EQ(inMask("", "00"), "00");
+  EXPECT_EQ(ttm("42"), 42) << "a text without a colon is minutes";
+  EXPECT_EQ(inMask("123", "00"), "23") << "the mask's length wins";
 }
 
 Value markedRow(const char* mark, const char* source) {

@@ -3,7 +3,6 @@
 #include <gtest/gtest.h>
 
 #include "core/ids.h"
-#include "store/first_launch.h"
 #include "store/records.h"
 #include "tests/store/store_fixture.h"
 
@@ -12,10 +11,7 @@ namespace {
 
 class ChildTeethTest : public testing::StoreTest {
  protected:
-  void SetUp() override {
-    open(2);
-    fromOldVersion(*store);
-  }
+  void SetUp() override { openDiary(2); }
   Date day(int offset) const { return context->dates().addDays(testNow(), offset); }
   void record(int offset, const std::string& codes, const std::string& gid = newID2(1, 1)) {
     StoreBracket bracket = store->connectToBase();

@@ -2,7 +2,6 @@
 
 #include <gtest/gtest.h>
 
-#include "store/first_launch.h"
 #include "tests/store/store_fixture.h"
 
 namespace lad::health {
@@ -18,10 +17,7 @@ std::vector<std::int64_t> idsOf(const std::vector<Contraction>& rows) {
 
 class ContractionStoreTest : public lad::testing::StoreTest {
  protected:
-  void SetUp() override {
-    open();
-    fromOldVersion(*store);
-  }
+  void SetUp() override { openDiary(1); }
 };
 
 TEST_F(ContractionStoreTest, AddLoadAndDelete) {

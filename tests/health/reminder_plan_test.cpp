@@ -3,7 +3,6 @@
 #include <gtest/gtest.h>
 
 #include "core/ids.h"
-#include "store/first_launch.h"
 #include "store/pill_courses.h"
 #include "store/records.h"
 #include "store/values/regimen.h"
@@ -17,13 +16,8 @@ const std::string kGid = "00000000-0000-0000-0001-000000000001";
 
 class ReminderPlanTest : public lad::testing::StoreTest {
  protected:
-  void SetUp() override { launchEdition(1); }
-  void launchEdition(int appid) {
-    open(appid);
-    fromOldVersion(*store);
-  }
   // Today is Monday 30 March 2026, 10:00 in Berlin.
-  Date day(int d, int m = 3) const { return context->dates().encodeDate(d, m, 2026); }
+  void SetUp() override { openDiary(1); }
   Date at(int d, int m, const char* time) const {
     return *context->dates().dateFromString(context->dates().dateToString(day(d, m), "yyyy-MM-dd") +
                                             " " + time);
@@ -71,19 +65,14 @@ TEST_F(ReminderPlanTest, OnlyTwentyDaysWithValuesArePlanned) {
   EXPECT_EQ(plan.back().at, at(19, 4, "19:00"));
 }
 
-TEST_F(ReminderPlanTest, TheChildAndCycleDiariesPlanFromTheirOwnTables) {
-  launchEdition(2);
+TEST_F(ReminderPlanTest, TheChildsDiaryPlansFromItsOwnTableUnderTheChildsName) {
+  openDiary(2);
   lad::testing::addChild(*store, "CHILD", day(1, 1), "3.2", "50");
   put("alarm", "[" + reminder("18:00", "") + "," + reminder("19:00", "Купание") + "]", day(30),
       "CHILD");
   EXPECT_EQ(bodies(updateNoteAlarms(*store, testNow())),
             (std::vector<std::string>{"30.03 18:00 Малыш: Напоминание программы Крохомир",
                                       "30.03 19:00 Малыш: Купание"}));
-
-  launchEdition(3);
-  put("alarm", "[" + reminder("18:00", "") + "]", day(30));
-  EXPECT_EQ(bodies(updateNoteAlarms(*store, testNow())),
-            (std::vector<std::string>{"30.03 18:00 Напоминание программы Луновея"}));
 }
 
 TEST_F(ReminderPlanTest, IntakesJoinThePlanOnlyWithTheSwitchOn) {

@@ -8,6 +8,7 @@
 #include <vector>
 
 #include "core/edition.h"
+#include "health/day_schedule.h"
 #include "store/dictionary.h"
 #include "store/first_launch.h"
 #include "store/records.h"
@@ -58,6 +59,13 @@ class ScheduleTest : public StoreTest {
     writeFile(content() / name, text);
   }
   std::filesystem::path content() const { return resources.path() / "content"; }
+  // The rows of the day's schedule, each as "pos tp right|value".
+  std::vector<std::string> rows(Date on) {
+    std::vector<std::string> out;
+    for (const health::ScheduleRow& r : health::prepare(*store, on, kScheduleGid, listData))
+      out.push_back(r.pos + " " + std::to_string(r.tp) + " " + r.right + "|" + r.value);
+    return out;
+  }
 
   TempDir resources;
   List listData;

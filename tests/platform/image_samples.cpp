@@ -8,10 +8,6 @@ namespace {
 
 constexpr int kJpegTolerance = 24;
 
-void put(Image& image, int x, int y, const Rgb& colour) {
-  std::copy(colour.begin(), colour.end(), image.rgb.begin() + (y * image.width + x) * 3);
-}
-
 void appendNumber(std::vector<std::uint8_t>& out, std::uint32_t value, int size, bool little) {
   for (int i = 0; i < size; ++i) {
     const int shift = 8 * (little ? i : size - 1 - i);
@@ -27,7 +23,8 @@ Image quadrants(int width, int height) {
     for (int x = 0; x < width; ++x) {
       const bool right = x >= width / 2;
       const bool bottom = y >= height / 2;
-      put(image, x, y, bottom ? (right ? kWhite : kBlue) : (right ? kGreen : kRed));
+      const Rgb& colour = bottom ? (right ? kWhite : kBlue) : (right ? kGreen : kRed);
+      std::copy(colour.begin(), colour.end(), image.rgb.begin() + (y * width + x) * 3);
     }
   }
   return image;

@@ -58,13 +58,5 @@ TEST(TemplateRows, GuidsListsAndTheEndOfAnIllnessKeepTheirRules) {
   EXPECT_GT(seeds.size(), 30u);
 }
 
-TEST(TemplateRows, TheChildsDefaultBloodGroupIsTheUnknownEntryOfList4) {
-  SqliteConnection db = openResource("child.sqlite");
-  EXPECT_EQ(firstColumn(db,
-                        "select c.cotype || ' ' || c.coname from child p join childconst c "
-                        "on c.coguid = p.blood where p.chid=1"),
-            std::vector<std::string>{"4 Не известна"});
-}
-
 }  // namespace
 }  // namespace lad::testing

@@ -18,7 +18,6 @@ Translator translatorFor(int langid) {
 
 TEST(TranslationTable, GermanIsReadAndLineBreaksShow) {
   const Translator german = translatorFor(2);
-  EXPECT_EQ(german.translate("Сегодня"), "Heute");
   const std::string rating = german.translate(
       "Если у Вас есть время, поставьте пожалуйста оценку программе в AppStore. Высокий рейтинг - "
       "это дополнительный стимул к работе над ней");
@@ -30,35 +29,26 @@ TEST(TranslationTable, FrenchAndRussianReadNothing) {
   // The French query names a column that the table does not have.
   const Translator french = translatorFor(3);
   EXPECT_EQ(french.size(), 0u);
-  EXPECT_EQ(french.translate("Сегодня"), "Сегодня");
   EXPECT_EQ(translatorFor(1).size(), 0u);
 }
 
-TEST(TranslationTable, EveryMenuTextOfEveryEditionIsTranslated) {
-  const Translator german = translatorFor(2);
+// Every menu text of every edition and every template entry has its German text.
+TEST(TranslationTable, EveryMenuTextAndTemplateEntryIsTranslated) {
+  std::vector<std::string> texts;
   const auto russian = [](std::string_view text) { return std::string(text); };
-  for (int appid : {1, 2, 3, 14}) {
-    for (const Value& row : buildMenuTable(appid, 1, "%@", russian)) {
-      for (const char* key : {"name", "comment"}) {
-        // Built with "%@" as the version, the version line shows its untranslated text.
-        const std::string text = row[key].text();
-        if (!text.empty()) {
-          EXPECT_NE(german.translate(text), text) << appid << ": " << text;
-        }
-      }
-    }
-  }
-}
-
-TEST(TranslationTable, EveryTemplateEntryIsTranslated) {
-  const Translator german = translatorFor(2);
+  for (int appid : {1, 2, 3, 14})
+    for (const Value& row : buildMenuTable(appid, 1, "%@", russian))
+      for (const char* key : {"name", "comment"}) texts.push_back(row[key].text());
   for (auto [file, dictionary] : {std::pair{"pregnant.sqlite", "pregconst"},
                                   {"child.sqlite", "childconst"},
-                                  {"woman.sqlite", "womconst"}}) {
-    SqliteConnection db = openResource(file);
-    for (const std::string& name : firstColumn(db, std::string("select coname from ") + dictionary))
-      EXPECT_NE(german.translate(name), name) << file;
-  }
+                                  {"woman.sqlite", "womconst"}})
+    for (const std::string& name :
+         firstColumn(openResource(file), std::string("select coname from ") + dictionary))
+      texts.push_back(name);
+  const Translator german = translatorFor(2);
+  // Built with "%@" as the version, the version line shows its untranslated text.
+  for (const std::string& text : texts)
+    EXPECT_TRUE(text.empty() || german.translate(text) != text) << text;
 }
 
 std::vector<std::string> placeholders(const std::string& text) {

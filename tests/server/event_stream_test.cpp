@@ -29,11 +29,7 @@ TEST_F(EventStreamTest, ChangesRefreshEveryStreamAndADelayedRedrawComesAgain) {
 
   // The refresh of the change itself, then the later one that a main-loop timer sends, reach
   // the tapper's own stream too.
-  const Json before = rowOf(Json::parse(client()->Get("/api/view")->body), "menu:55");
-  auto tapped = tap(b, "menu:55");
-  ASSERT_TRUE(tapped);
-  ASSERT_EQ(tapped->status, 200) << tapped->body;
-  EXPECT_NE(rowOf(Json::parse(tapped->body), "menu:55")["checked"], before["checked"]);
+  ASSERT_EQ(statusOf(tap(b, "menu:55")), 200);
   ASSERT_TRUE(streamA.waitFor(kRefresh, 3)) << streamA.text();
   ASSERT_TRUE(streamB.waitFor(kRefresh, 3)) << streamB.text();
   pushMarker();

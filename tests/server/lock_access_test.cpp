@@ -52,20 +52,5 @@ TEST_F(LockAccessTest, OtherMachinesAreServedOnlyWithAPasswordSet) {
   EXPECT_TRUE(installation_->passwordSet());
 }
 
-// The fingerprint key is bound to the host name the browser used, with the port left off.
-TEST_F(LockAccessTest, AFingerprintRegistrationNamesTheHostOfTheRequest) {
-  const std::string session = openSession();
-  const httplib::Headers host{{"Host", "localhost:" + std::to_string(port_)}};
-  ASSERT_EQ(postEvent(R"({"type":"authenticator","available":true})", session, host)->status, 200);
-  tap(session, "menu:52");
-  typeCode(session, "24682468");
-  httplib::Headers viewHeaders = sessionHeaders(session);
-  viewHeaders.insert(host.begin(), host.end());
-  auto res = client()->Get("/api/view", viewHeaders);
-  ASSERT_TRUE(res);
-  EXPECT_EQ(Json::parse(res->body)["view"]["fingerprintRegister"]["rpId"], "localhost")
-      << res->body;
-}
-
 }  // namespace
 }  // namespace lad::server::test

@@ -75,11 +75,8 @@ TEST_F(PortraitRouteTest, ADaysPhotoIsServedUnderItsOwnNamesOnly) {
   EXPECT_EQ(shown->body, kJpeg);
   EXPECT_EQ(fetch("/doc/picture/23-11-2026-s.jpg", "")->status, 403);
   for (const char* name : {"..%2Fpicture-s%2F23-11-2026-s.jpg", "23-11-26-s.jpg", "x23-11-2026.jpg",
-                           "23-11-2026.png", "child-23-11-2026.jpg", "%00"}) {
-    auto res = fetch(std::string("/doc/picture/") + name, session);
-    ASSERT_TRUE(res) << name;
-    EXPECT_EQ(res->status, 400) << name;
-  }
+                           "23-11-2026.png", "child-23-11-2026.jpg", "%00"})
+    EXPECT_EQ(statusOf(fetch(std::string("/doc/picture/") + name, session)), 400) << name;
   EXPECT_EQ(fetch("/doc/picture/24-11-2026.jpg", session)->status, 404);
   EXPECT_EQ(fetch("/doc/picture/ABC-1-23-11-2026-s.jpg", session)->status, 404);
 }

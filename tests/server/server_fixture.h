@@ -69,6 +69,12 @@ inline std::optional<bool> switchOnDisk(const std::filesystem::path& dataDir,
   return value->boolValue();
 }
 
+// The status of a response, or 0 when none came.
+template <class Response>
+int statusOf(const Response& res) {
+  return res ? res->status : 0;
+}
+
 inline std::size_t countOf(std::string_view text, std::string_view needle) {
   std::size_t n = 0;
   for (auto at = text.find(needle); at != std::string_view::npos;
@@ -159,13 +165,11 @@ class ServerTest : public ::testing::Test {
  protected:
   // Set before SetUp for a server whose clock the test drives over HTTP.
   std::shared_ptr<ManualClock> testClock_;
-  static constexpr std::string_view kIndexHtml =
-      "<!doctype html>\n<title>Ладанея</title>\n<script src=\"app.js\"></script>\n";
   static constexpr std::string_view kAppJs = "document.title = 'app';\n";
 
   void SetUp() override {
     std::filesystem::create_directories(webDir());
-    writeFile(webDir() / "index.html", kIndexHtml);
+    writeFile(webDir() / "index.html", "<!doctype html>\n<script src=\"app.js\"></script>\n");
     writeFile(webDir() / "app.js", kAppJs);
     installation_ = std::make_unique<Installation>(greetedInstallation(dataDir()));
     HttpOptions options;
@@ -185,11 +189,7 @@ class ServerTest : public ::testing::Test {
     ASSERT_EQ(res->status, 200);
   }
 
-  void TearDown() override {
-    stopServer();
-    server_.reset();
-    installation_.reset();
-  }
+  void TearDown() override { stopServer(); }
 
   // Stops the server; false when run() did not return within the deadline.
   bool stopServer() {

@@ -1,10 +1,8 @@
-// Who may hold an event stream, how many, and what a locked browser hears on it (how many
+// Who may hold an event stream and what a locked browser hears on it (how many
 // streams one session keeps is the hub's test).
 #include <gtest/gtest.h>
 
-#include <memory>
 #include <string>
-#include <vector>
 
 #include "server_fixture.h"
 
@@ -19,7 +17,6 @@ TEST_F(StreamAccessTest, OnlyAKnownSessionGetsAStream) {
     auto res = raw.exchange(streamRequest(cookie));
     ASSERT_TRUE(res) << "no answer to a stream without a valid session: " << cookie;
     EXPECT_EQ(res->status, 401) << res->head;
-    EXPECT_EQ(res->header("Content-Type"), "application/json");
   }
   StreamReader stream(port_, openSession());
   ASSERT_TRUE(stream.waitFor("retry:"));
@@ -48,36 +45,6 @@ TEST_F(StreamAccessTest, LockedSessionHearsOnlyItsOwnLock) {
 
   pushMarker();
   EXPECT_EQ(countOf(beforeMarker(lockedStream), kRefresh), 1u) << lockedStream.text();
-}
-
-TEST_F(StreamAccessTest, ManyOpenStreamsLeaveTapsAnswered) {
-  constexpr int kStreams = 200;
-  constexpr int kStrangers = 30;  // streams asked for without a session
-  constexpr auto kPatience = std::chrono::seconds(2);
-  std::vector<std::string> sessions;
-  for (int i = 0; i < kStreams / 3 + 1; ++i) sessions.push_back(openSession());
-
-  std::vector<std::unique_ptr<LoopbackClient>> streams;
-  for (int i = 0; i < kStreams + kStrangers; ++i) {
-    streams.push_back(std::make_unique<LoopbackClient>(port_, kPatience));
-    ASSERT_TRUE(streams.back()->connected());
-    ASSERT_TRUE(streams.back()->send(streamRequest(i < kStreams ? sessions[i / 3] : "")));
-  }
-  // The last of each kind has been answered as it should.
-  EXPECT_NE(streams[kStreams - 1]->receiveOnce().find("retry:"), std::string::npos);
-  auto refused = streams.back()->receiveResponse();
-  ASSERT_TRUE(refused) << "a stream without a session was not answered";
-  EXPECT_EQ(refused->status, 401);
-
-  auto c = client();
-  c->set_read_timeout(kPatience);
-  auto view = c->Get("/api/view", sessionHeaders(sessions[0]));
-  ASSERT_TRUE(view) << "the view was not answered with " << kStreams << " streams open";
-  EXPECT_EQ(view->status, 200);
-  auto tapped = c->Post("/api/event", sessionHeaders(sessions[0]),
-                        R"({"type":"tap","target":"menu:51"})", "application/json");
-  ASSERT_TRUE(tapped) << "the tap was not answered with " << kStreams << " streams open";
-  EXPECT_EQ(tapped->status, 200);
 }
 
 }  // namespace

@@ -22,6 +22,12 @@ namespace lad::testing {
 inline const Value& nth(const Value& list, std::size_t i) {
   return list.asList()->at(i);
 }
+// The positions a picker's wheels were opened at.
+inline List openedPositions(const Value& picker) {
+  List positions;
+  for (const Value& wheel : *picker["wheels"].asList()) positions.push_back(wheel["selected"]);
+  return positions;
+}
 
 // Keeps what a screen opens over itself: the screen pushed, the popup with its action (which the
 // test answers) and the texts of the messages shown.

@@ -44,7 +44,6 @@ TEST_F(ApplicationTest, EveryTenthActivationAsksForAReview) {
   EXPECT_EQ(asked, 0);
   app->becomeActive();
   EXPECT_EQ(asked, 1);
-  EXPECT_EQ(settings().integerForKey("becomeActive"), 10);
   for (int i = 0; i < 10; ++i) app->becomeActive();
   EXPECT_EQ(asked, 2);
 }
@@ -68,17 +67,6 @@ TEST_F(ApplicationTest, TheLockReturnsAfterMoreThanFiveWholeSecondsAway) {
   EXPECT_TRUE(app->becomeActive().lockDue);
 }
 
-TEST_F(ApplicationTest, AHandedOverFileIsKeptAndTheMessageNamesWhereToUseIt) {
-  launchApp();
-  MessageBox m = app->openURL("/tmp/scan.pdf");
-  EXPECT_EQ(app->context().values().pendingPdf, "/tmp/scan.pdf");
-  EXPECT_EQ(m.caption, "Файл PDF");
-  EXPECT_TRUE(m.text.starts_with("Теперь Вам следует перейти в режим редактирования анализов"));
-  settings().set("doctorAuthCode", "K-17");
-  EXPECT_TRUE(app->openURL("/tmp/scan.pdf")
-                  .text.starts_with("Вы можете прикрепить этот файл к сообщению для Вашего врача"));
-}
-
 // The greeting's texts in order, with each row of buttons as "[caption|caption]".
 std::vector<std::string> blocksOf(const Value& view) {
   std::vector<std::string> out;
@@ -95,15 +83,8 @@ std::vector<std::string> blocksOf(const Value& view) {
   return out;
 }
 
-// The update's greeting keeps its text as it has always been, typos and all; a new installation
-// is offered the cloud except in the 3D edition.
-TEST_F(ApplicationTest, TheGreetingsOfAnUpdateAndOfANewInstallation) {
-  launchApp(3);
-  const Value update = WelcomeScreen(app->context(), Greeting::Update).view();
-  EXPECT_EQ(update["caption"].text(), "Луновея");
-  EXPECT_EQ(blocksOf(update).back(),
-            "Если у Вас возникнут сложности или вопросы по программе, к вашимa "
-            "услугам раздел Поддержка на главном экране программе.");
+// A new installation is offered the cloud except in the 3D edition.
+TEST_F(ApplicationTest, ANewInstallationsGreetingOffersTheCloudWhereTheEditionHasIt) {
   for (auto [appid, buttons] : {std::pair{1, "[Настройки|Облако]"}, {14, "[Настройки]"}}) {
     launchApp(appid);
     const auto blocks = blocksOf(WelcomeScreen(app->context(), Greeting::NewInstallation).view());
@@ -126,13 +107,11 @@ std::vector<std::string> shortcutUrls(const Value& manifest) {
 }
 
 TEST(AppManifest, EachEditionOffersItsShortcutsInItsLanguage) {
-  const std::vector<std::string> both{"/?shortcut=SCHVATKI", "/?shortcut=NEWNOTE"};
   const struct {
     int appid, langid;
     const char* lang;
     std::vector<std::string> urls;
-  } cases[] = {{1, 1, "ru", both},
-               {14, 1, "ru", both},
+  } cases[] = {{1, 1, "ru", {"/?shortcut=SCHVATKI", "/?shortcut=NEWNOTE"}},
                {2, 3, "fr", {"/?shortcut=NEWNOTE"}},
                {3, 2, "de", {"/?shortcut=NEWNOTE"}}};
   for (const auto& c : cases) {

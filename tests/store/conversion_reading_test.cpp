@@ -81,7 +81,7 @@ TEST_F(ConversionReadingTest, OldIndexListsReadAsTheirGuids) {
   }
 }
 
-TEST_F(ConversionReadingTest, OldStructuredValuesReadAsTheirSentences) {
+TEST_F(ConversionReadingTest, AnOldCourseReadsAsItsSentence) {
   const std::string course = oldValueToJson(
       kPregnancy, "pills",
       "5<table>2<td>0<table>1<td>0<table>10<table>17<table>9<td>0<table>01.03.2026<table>08:00",
@@ -93,14 +93,6 @@ TEST_F(ConversionReadingTest, OldStructuredValuesReadAsTheirSentences) {
        {dozaToRead(context, "2<td>0"), periodToRead(context, "1<td>0"),
         intervalToRead(context, "9<td>0", false), std::string("Общий анализ крови")})
     EXPECT_NE(sentence.find(part), std::string::npos) << sentence << " lacks " << part;
-
-  EXPECT_EQ(biosizeStringToRead(
-                context, oldValueToJson(kPregnancy, "biosize", "1<tr><tr>3<tr><tr>", nullptr)),
-            biosizeStringToRead(context, R"({"bio1":"1","bio3":"3"})"));
-  for (const char* keyword : {"sleep", "walk"})
-    EXPECT_EQ(intervalToRead2(
-                  oldValueToDic(kPregnancy, keyword, "22:00<table>06:00<table>08:00", nullptr)),
-              "с 22:00 до 06:00 (08:00)");
 }
 
 }  // namespace

@@ -25,8 +25,7 @@ class DayTest : public StoreTest {
     recovery = store->boleznId();
   }
   void put(const std::string& type, const std::string& value, Date on) {
-    StoreBracket bracket = store->connectToBase();
-    insertValue(*store, bracket, type, value, on, kGid, true, false);
+    StoreTest::put(type, value, on, kGid);
   }
   List load(int regim, int year, Date date) {
     return loadNoteData(*store, regim, year, date, kGid);

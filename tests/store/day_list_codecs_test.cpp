@@ -36,7 +36,6 @@ TEST(DayListCodecsTest, MeasurementLinesReadBothForms) {
   };
   for (const Case& c : cases)
     EXPECT_EQ(describe(multiFromString(c.value, c.kind)), c.expected) << c.value;
-  EXPECT_TRUE(multiFromString(std::nullopt, 4).empty());
 }
 
 TEST(DayListCodecsTest, CoursesAndSpansGiveTheirSentences) {

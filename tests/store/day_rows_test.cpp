@@ -45,24 +45,14 @@ TEST_F(DayRowsTest, EachKindShowsItsValue) {
       {7, "61.5", "61.5"},
       {14, "1", ""},
       {14, "2", "Первый день месячных"},
-      {14, "7", "Обычный день"},
       {15, R"({"rost":"45","ves":"2.5"})", "Рост: 45.0\nВес: 2.500"},
       {15, R"({"rost":"0","ves":"2.5"})", "Вес: 2.500"},
-      {15, "", ""},
       {16, R"({"type":"2","rost":"51","ves":"3.4","time":"10:20"})",
        "Кесарево сечение\nРост: 51\nВес: 3.4\nВремя родов: 10:20"},
       {16, R"({"type":"1","rost":"50"})", "Естественные роды\nРост: 50\nВес: \nВремя родов: "},
       {16, "51<tr>3.4", ""},
   };
   for (const Case& c : cases) EXPECT_EQ(textFor(c.tp, c.source, entries), c.text) << c.source;
-
-  Map row;
-  row.set("tp", 30);
-  row.set("source", R"([{"time":"07:30","pressure1":"120","pressure2":"80"}])");
-  updateNoteToday(*context, row, {}, std::nullopt);
-  EXPECT_EQ(row["text"].text(), "");
-  ASSERT_EQ(row["multiarray"].asList()->size(), 1u);
-  EXPECT_EQ((*row["multiarray"].asList())[0]["cap"].text(), "120/80");
 }
 
 TEST_F(DayRowsTest, ADayThroughItsRowsAndBackIsUnchanged) {
@@ -85,7 +75,6 @@ TEST_F(DayRowsTest, ADayThroughItsRowsAndBackIsUnchanged) {
   List rows;
   noteStructToTodayNote(*context, loaded, rows, listData);
   ASSERT_EQ(rows.size(), 15u);
-  EXPECT_EQ(rows[4]["source"].text(), "61,5");
   EXPECT_EQ(rows[12]["source"].text(), R"({"type":"1","rost":"50"})") << "the birth of that day";
   EXPECT_TRUE(rows[14]["isphoto"].boolValue());
   EXPECT_EQ(rows[14]["photopath"], loaded["photopath2"]);

@@ -37,12 +37,6 @@ TEST_F(DayStringsTest, AnIllnessCarriesIntoThePeriodAndColoursDaysUpToToday) {
             "1r1r1r1r1r1r1r1r1r1r1r"  // 20 to 30
             "111");                   // 31 March to 2 April, later than today
   EXPECT_EQ(all[4]["color"], plainDayColor()) << "the day of recovery is marked, not coloured";
-  EXPECT_TRUE(all[0]["compliteOK"].boolValue());
-
-  const List list = load(1, 0, first);
-  ASSERT_EQ(list.size(), 2u);
-  EXPECT_FALSE(list[0]["compliteOK"].boolValue()) << "the list regim makes no strings";
-  EXPECT_EQ(list[0]["color"], plainDayColor());
 }
 
 TEST_F(DayStringsTest, ADietRunsFromItsNumberToTheValue1000) {
@@ -75,7 +69,6 @@ TEST_F(DayStringsTest, WeightsShowTheirDifferenceFromTheBaseOfTheList) {
   };
   EXPECT_EQ(weights(load(5, 0, first)), "61.5 (+1.5); 59.5 (-0.5); 60.0; ");
   EXPECT_EQ(weights(load(3, 0, first)), "61.50; 59.50; 60.00; ") << "the weight table";
-  EXPECT_EQ(weights(load(8, 0, first)), "61.5; 59.5; 60.0; ") << "the photo book";
 
   openEdition(2);
   testing::addChild(*store, kGid, day(1, 3, 2025), "3.2", "50");
@@ -89,38 +82,6 @@ TEST_F(DayStringsTest, WeightsShowTheirDifferenceFromTheBaseOfTheList) {
   EXPECT_EQ((*april)["rost"].text(), "55.0 (+5.0)");
   EXPECT_EQ(weights(load(5, 2, {})), "9.500; 10.000 (+0.500); ")
       << "a later year takes its first weighing as the base";
-}
-
-TEST_F(DayStringsTest, EachEditionNamesItsDaysAndSections) {
-  openEdition(1);
-  testing::addPregnancy(*store, kGid, day(1, 3, 2026), "60");
-  put("note", "x", day(15, 3, 2026));
-  const List book = load(8, 0, day(1, 3, 2026));
-  EXPECT_EQ(book[0]["day"].text(), "15 марта 2026");
-  EXPECT_EQ(book[0]["group"].intValue(), 3);
-
-  openEdition(2);
-  testing::addChild(*store, kGid, day(31, 1, 2025), "3.2", "50");
-  put("note", "x", day(1, 3, 2025));
-  const List report = load(6, 1, {});
-  ASSERT_EQ(report.size(), 1u);
-  EXPECT_EQ(report[0]["day"].text(), "01.03.2025 суббота");
-  EXPECT_EQ(report[0]["month"].intValue(), 2) << "one whole month from 31 January";
-  EXPECT_EQ(load(5, 1, {})[29]["day"].text(), "01");
-  EXPECT_EQ(load(5, 1, {})[29]["weekday"].text(), "сб");
-
-  openEdition(3);
-  put("daytype", "2", day(3, 2, 2025));
-  put("ves", "55.5", day(3, 2, 2025));
-  const List woman = load(3, 2025, {});
-  ASSERT_EQ(woman.size(), 1u);
-  EXPECT_EQ(woman[0]["womantype"].text(), "Первый день месячных");
-  EXPECT_EQ(woman[0]["ves"].text(), "55.500");
-  EXPECT_EQ(woman[0]["day"].text(), "03.02.2025 понедельник");
-  EXPECT_FALSE(woman[0].asMap()->contains("weekday"));
-  const List year = load(4, 2025, {});
-  EXPECT_EQ(year[0]["tp"].intValue(), 1);
-  EXPECT_EQ(year[33]["group"].intValue(), 2);
 }
 
 }  // namespace

@@ -45,17 +45,6 @@ TEST_F(DictionaryTest, LoadingBuildsEntriesFiltersRemovedOnesAndMarksCheckedGuid
       << "an old index in the checked text marks nothing";
 }
 
-TEST_F(DictionaryTest, TheEndOfAnIllnessIsKnownAfterALoadThatPassesIt) {
-  EXPECT_EQ(store->boleznId(), "");
-  loadConstList(*store, 1, std::nullopt);
-  EXPECT_EQ(store->boleznId(), "") << "list 1 does not hold it";
-  loadConstList(*store, 3, std::nullopt);
-  EXPECT_EQ(store->boleznId(), seed(1));
-  store->setBoleznId("");
-  loadConstList(*store, 0, std::nullopt);
-  EXPECT_EQ(store->boleznId(), seed(1));
-}
-
 TEST_F(DictionaryTest, OnlyOrdinaryEntriesCanBeRemoved) {
   for (int deleted = 2; deleted <= 5; ++deleted) {
     const std::string guid = addConst(*store, 9, "Сок", deleted, std::nullopt);
@@ -65,14 +54,6 @@ TEST_F(DictionaryTest, OnlyOrdinaryEntriesCanBeRemoved) {
   const std::string own = addConst(*store, 9, "Кефир", 0, std::nullopt);
   EXPECT_TRUE(deleteConst(*store, own));
   EXPECT_FALSE(deleteConst(*store, own)) << "a removed entry is gone already";
-}
-
-TEST_F(DictionaryTest, AddingKeepsAGivenGuidInAnOpenBracket) {
-  {
-    StoreBracket bracket = store->connectToBase();
-    EXPECT_EQ(addConst(*store, 200, "Ферритин", 0, std::string("G-1"), &bracket), "G-1");
-  }
-  EXPECT_EQ(cell("select coname from pregconst where coguid='G-1'"), "Ферритин");
 }
 
 TEST_F(DictionaryTest, MergingAddsWhatIsMissingAndTheFirstArrivalWins) {

@@ -17,7 +17,6 @@ TEST_F(FirstLaunchTest, ANewPregnancyDiaryStartsTodayAndGreetsAsANewInstallation
   EXPECT_EQ(cell("select sdat1||' '||sdat2||' '||sbirthdate||' '||dat1||' '||startuse from preg "
                  "where pregid=1"),
             "2026-03-30 2026-04-12 2027-01-04 1774857600 2026-03-30");
-  EXPECT_EQ(context->values().startUse, "2026-03-30");
 
   // A later launch keeps the first day of use and the dates the user may since have changed.
   context->settings().set("FirstStart", false);
@@ -43,14 +42,6 @@ TEST_F(FirstLaunchTest, AChildIsBornTodayOnlyInANewFile) {
   openDiary(2);
   EXPECT_FALSE(context->settings().boolForKey("FirstStart"));
   EXPECT_EQ(cell("select sbirthdate from child where chid=1"), "2026-03-30");
-}
-
-TEST_F(FirstLaunchTest, TheWomansEditionNeverMarksAFirstStart) {
-  openDiary(3);
-  EXPECT_FALSE(context->settings().boolForKey("FirstStart"));
-  EXPECT_EQ(cell("select womguid from woman where womid=1"),
-            "00000000-0000-0000-0001-000000000001");
-  EXPECT_EQ(context->values().startUse, "2026-03-30");
 }
 
 TEST_F(FirstLaunchTest, AnUnreadableDatabaseStaysAsItIsAndTheDiaryIsEmpty) {

@@ -8,7 +8,6 @@
 
 #include "core/ids.h"
 #include "tests/support/test_files.h"
-#include "tests/support/translation_table.h"
 
 namespace lad {
 namespace {
@@ -59,7 +58,6 @@ class ReadingFormsTest : public ::testing::Test {
 TEST_F(ReadingFormsTest, ChecksReadTheFirstPartOfEachFoundName) {
   const TextCase cases[] = {
       {std::nullopt, ""},
-      {"", ""},
       {kChamomile, "Ромашка"},
       {kPills + "<tr>" + kChamomile, "Парацетамол\nРомашка"},
       {kUnknown + "<tr>" + kPills, "Парацетамол"},
@@ -71,7 +69,6 @@ TEST_F(ReadingFormsTest, ChecksReadTheFirstPartOfEachFoundName) {
 
 TEST_F(ReadingFormsTest, TeethReadWhetherTheyCameOrFellOut) {
   const TextCase cases[] = {
-      {std::nullopt, ""},
       {"", ""},
       {"100", "Прорезался "},
       {"101", "Выпал верхний второй коренной (55)"},
@@ -83,7 +80,6 @@ TEST_F(ReadingFormsTest, TeethReadWhetherTheyCameOrFellOut) {
 TEST_F(ReadingFormsTest, TestsJoinTheirWholeNamesByPosition) {
   const TextCase cases[] = {
       {std::nullopt, ""},
-      {kChamomile, ""},
       {R"({"captiontype": ")" + kChamomile + R"("})", ""},
       {testsOf({kChamomile}).substr(0, 20), ""},
       {testsOf({kChamomile, kPills}), "Ромашка<tr>1, Парацетамол"},
@@ -94,40 +90,15 @@ TEST_F(ReadingFormsTest, TestsJoinTheirWholeNamesByPosition) {
   expectReadings(cases, [&](const Text& value) { return analizyStringToRead(value, entries); });
 }
 
-TEST_F(ReadingFormsTest, DietsReadTheirNames) {
-  const TextCase cases[] = {
-      {std::nullopt, ""},           {"", ""},      {"11", "Кремлевская диета"}, {"12", ""},
-      {"1000", "Диета прекращена"}, {"диета", ""},
-  };
-  expectReadings(cases, [&](const Text& value) { return dietaStringToRead(russian, value); });
-}
-
 TEST_F(ReadingFormsTest, BodySizesReadOneLineEachInOrder) {
   const TextCase cases[] = {
       {std::nullopt, ""},
-      {"35", ""},
       {"{", ""},
       {R"({"bio5": "12", "bio1": "35.5", "bio2": "", "bio4": 40})",
        "Окружность головы: 35.5\nОбхват бедер: 40\nДлина стопы: 12"},
       {R"({"bio2": "", "bio3": "50"})", "Обхват талии: 50"},
   };
   expectReadings(cases, [&](const Text& value) { return biosizeStringToRead(russian, value); });
-}
-
-TEST_F(ReadingFormsTest, WordsAreTranslatedAndEntryNamesAreNot) {
-  testing::germanTranslator(dir.path() / "translate.sqlite",
-                            {{"Выпал ", "Ausgefallen "},
-                             {"верхний клык (53)", "oberer Eckzahn (53)"},
-                             {"Японская диета", "Japanische Diät"},
-                             {"Обхват груди: %@", "Brustumfang: %@"},
-                             {"Овуляция", "Eisprung"}});
-  Context german{ContextOptions{1, 2, dir.path() / "de", "1.0", nullptr, dir.path()}};
-  german.prepareTranslate();
-  EXPECT_EQ(toothStringToRead(german, "103"), "Ausgefallen oberer Eckzahn (53)");
-  EXPECT_EQ(dietaStringToRead(german, "41"), "Japanische Diät");
-  EXPECT_EQ(biosizeStringToRead(german, R"({"bio2": "60"})"), "Brustumfang: 60");
-  EXPECT_EQ(womanDayToRead(german, 4), "Eisprung");
-  EXPECT_EQ(checkStringToRead(kPills, entries), "Парацетамол");
 }
 
 }  // namespace

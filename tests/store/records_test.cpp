@@ -9,28 +9,12 @@
 namespace lad {
 namespace {
 
-const std::string kFirst = "00000000-0000-0000-0001-000000000001";
+const std::string kFirst = testing::kFirstProfile;
 const std::string kOther = "OTHER-PROFILE";
 
 class RecordsTest : public testing::StoreTest {
  protected:
   void SetUp() override { openDiary(1); }
-  static Value row(int tp, const char* field, Value source) {
-    Map m;
-    m.set("tp", tp);
-    m.set("field", field);
-    m.set("source", std::move(source));
-    return Value(std::move(m));
-  }
-  void put(const std::string& type, const std::string& value, Date on,
-           const std::string& gid = kFirst) {
-    StoreBracket bracket = store->connectToBase();
-    insertValue(*store, bracket, type, value, on, gid, true, false);
-  }
-  std::string valueOn(const std::string& type, Date on, const std::string& gid = kFirst) {
-    StoreBracket bracket = store->connectToBase();
-    return getDateValue(*store, bracket, on, type, gid);
-  }
   std::string rowsOf(const std::string& sdat, const std::string& gid = kFirst) {
     SqliteConnection db(store->liveFile(), SqliteConnection::Mode::ReadOnly);
     SqliteStatement st = db.prepare(

@@ -30,11 +30,5 @@ TEST_F(SelectionsTest, TicksComeAndGoPerListAndProfile) {
   EXPECT_EQ(cell("select count(*) from childselect where childguid='MINE'"), "2");
 }
 
-TEST_F(SelectionsTest, TheWomansEditionKeepsNoTicks) {
-  openDiary(3);
-  setCheckData(*store, 7, "ITEM-A", true, "MINE");
-  EXPECT_EQ(loadCheckData(*store, 7, "MINE"), Tags{});
-}
-
 }  // namespace
 }  // namespace lad

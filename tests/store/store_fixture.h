@@ -9,10 +9,14 @@
 #include "core/context.h"
 #include "core/launch.h"
 #include "store/first_launch.h"
+#include "store/records.h"
 #include "store/store.h"
 #include "tests/support/test_files.h"
 
 namespace lad::testing {
+
+// The first launch's own profile.
+inline const std::string kFirstProfile = "00000000-0000-0000-0001-000000000001";
 
 class StoreTest : public ::testing::Test {
  protected:
@@ -41,6 +45,25 @@ class StoreTest : public ::testing::Test {
   void execute(const std::string& sql) {
     StoreBracket bracket = store->connectToBase();
     ASSERT_TRUE(bracket.db()->execute(sql)) << sql;
+  }
+
+  // A record of the day written as the screens write one, and a record's value read back.
+  void put(const std::string& type, const std::string& value, Date on,
+           const std::string& gid = kFirstProfile) {
+    StoreBracket bracket = store->connectToBase();
+    insertValue(*store, bracket, type, value, on, gid, true, false);
+  }
+  std::string valueOn(const std::string& type, Date on, const std::string& gid = kFirstProfile) {
+    StoreBracket bracket = store->connectToBase();
+    return getDateValue(*store, bracket, on, type, gid);
+  }
+  // A row of the day's editor.
+  static Value row(int tp, const char* field, Value source) {
+    Map m;
+    m.set("tp", tp);
+    m.set("field", field);
+    m.set("source", std::move(source));
+    return Value(std::move(m));
   }
 
   std::filesystem::path reserv() const { return dir.path() / "Documents" / "reserv"; }
