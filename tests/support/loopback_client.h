@@ -53,13 +53,12 @@ class LoopbackClient {
     addr.sin_family = AF_INET;
     addr.sin_port = htons(static_cast<std::uint16_t>(port));
     addr.sin_addr.s_addr = htonl(INADDR_LOOPBACK);
-    connected_ = ::connect(fd_, reinterpret_cast<sockaddr*>(&addr), sizeof addr) == 0;
+    ::connect(fd_, reinterpret_cast<sockaddr*>(&addr), sizeof addr);
   }
   ~LoopbackClient() { ::close(fd_); }
   LoopbackClient(const LoopbackClient&) = delete;
   LoopbackClient& operator=(const LoopbackClient&) = delete;
 
-  bool connected() const { return connected_; }
   // True once a receive found the connection closed by the server.
   bool closedByPeer() const { return closedByPeer_; }
 
@@ -111,7 +110,6 @@ class LoopbackClient {
   }
 
   int fd_ = -1;
-  bool connected_ = false;
   bool closedByPeer_ = false;
   std::string pending_;
 };
