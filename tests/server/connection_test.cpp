@@ -1,5 +1,5 @@
 // The server's connections as raw bytes show them: never held by a client that stops half-way
-// through its request, and a body too large refused before it is sent.
+// through its request, and a body or a head too large refused before it is read.
 #include <gtest/gtest.h>
 
 #include <string>
@@ -32,6 +32,9 @@ TEST_F(ServerTest, RequestThatStopsHalfWayIsAnsweredNotHeld) {
   // A body larger than the server takes is refused at once, before it is sent.
   LoopbackClient large(port_);
   EXPECT_EQ(statusOf(large.exchange(postHead(HttpOptions().maxBodyBytes + 1))), 413);
+  // A head too large to read is refused with the parser's own status.
+  const std::string hugeHead = "GET / HTTP/1.1\r\nX-Pad: " + std::string(70000, 'x') + "\r\n\r\n";
+  EXPECT_EQ(statusOf(LoopbackClient(port_).exchange(hugeHead)), 431);
 }
 
 }  // namespace
