@@ -150,6 +150,7 @@ class Run {
     for (auto& s : sessions_) s.reset();
     app_.reset();
     app_ = std::make_unique<lad::shell::Application>(optionsOf(appid_, dir_, clock_));
+    documentsMade_ = 0;
   }
 
   // The session's view, checked: a JSON object with a kind. Writing it out cannot fail (texts
@@ -170,10 +171,19 @@ class Run {
 
   // The view before an event, taken from the views shown: the event makes them all stale.
   lad::Value beforeEvent() {
+    settle();
     shown();
     lad::Value before = std::move(*shown_[current_]);
     forget();
     return before;
+  }
+
+  // Reports and book pages on their way are made first: their progress shows in the views
+  // without any event, and would pass for a change made by a refused one.
+  void settle() {
+    const std::size_t made = app_->waitForDocuments();
+    if (made != documentsMade_) forget();
+    documentsMade_ = made;
   }
 
   void forget() {
@@ -230,6 +240,7 @@ class Run {
   std::unique_ptr<lad::shell::Session> sessions_[kSessions];
   std::optional<lad::Value> shown_[kSessions];
   std::size_t current_ = 0;
+  std::size_t documentsMade_ = 0;  // jobs of the installation's worker run when last settled
   std::multimap<lad::Date, std::function<EventResult()>> timers_;
 };
 

@@ -76,6 +76,9 @@ class Application {
   ReportMaker& reports() { return *reports_; }
   // The photo book being composed, else null. There is one at a time: its pages share a folder.
   std::shared_ptr<BookProject> book() const { return book_; }
+  // Blocks until the reports and book pages asked for so far are made; returns how many jobs
+  // of theirs have run since the start.
+  std::size_t waitForDocuments() { return documents_.waitUntilIdle(); }
   // A new book replaces the one composed before; its pages are drawn on the worker.
   void startBook(reports::BookRequest request);
   void endBook() { book_.reset(); }

@@ -18,6 +18,12 @@ void JobQueue::post(std::function<void()> job) {
   wake_.notify_one();
 }
 
+std::size_t JobQueue::waitUntilIdle() {
+  std::unique_lock lock(mutex_);
+  idle_.wait(lock, [this] { return !running_ && waiting_.empty(); });
+  return finished_;
+}
+
 void JobQueue::work() {
   std::unique_lock lock(mutex_);
   for (;;) {
@@ -25,9 +31,13 @@ void JobQueue::work() {
     if (stopping_) return;
     std::function<void()> job = std::move(waiting_.front());
     waiting_.pop_front();
+    running_ = true;
     lock.unlock();
     job();
     lock.lock();
+    running_ = false;
+    ++finished_;
+    if (waiting_.empty()) idle_.notify_all();
   }
 }
 

@@ -3,6 +3,7 @@
 #pragma once
 
 #include <condition_variable>
+#include <cstddef>
 #include <deque>
 #include <functional>
 #include <mutex>
@@ -19,13 +20,18 @@ class JobQueue {
   JobQueue& operator=(const JobQueue&) = delete;
 
   void post(std::function<void()> job);
+  // Blocks until every job posted so far has run; returns how many jobs have run in all.
+  std::size_t waitUntilIdle();
 
  private:
   void work();
 
   std::mutex mutex_;
   std::condition_variable wake_;
+  std::condition_variable idle_;
   std::deque<std::function<void()>> waiting_;
+  bool running_ = false;
+  std::size_t finished_ = 0;
   bool stopping_ = false;
   std::thread worker_;
 };

@@ -46,7 +46,9 @@ TEST_F(ReportPanelTest, EqualRequestsShareOneReportAndOthersWaitTheirTurn) {
   EXPECT_EQ(first, same);
   EXPECT_NE(first, other);
   waitFor(*broken);
-  // One worker takes them in turn: by the time the last one ended, all had.
+  // One worker takes them in turn: by the time the last one ended, all had, and the equal
+  // requests were one job.
+  EXPECT_EQ(app->waitForDocuments(), 3u);
   EXPECT_EQ(first->state, ReportJob::State::Done);
   EXPECT_EQ(other->state, ReportJob::State::Done);
   EXPECT_EQ(broken->state, ReportJob::State::Failed);
