@@ -9,14 +9,26 @@ namespace lad::drawing {
 namespace {
 
 // The default font map is per thread, and so is this context: measuring is safe from any
-// thread, and the fonts are loaded once per thread.
+// thread, and the fonts are loaded once per thread. The context lets go of the thread's font map
+// when the thread ends, so that the map and its fonts go with the thread.
+class ThreadContext {
+ public:
+  ThreadContext() : context_(pango_font_map_create_context(pango_cairo_font_map_get_default())) {
+    prepareTextContext(context_);
+  }
+  ~ThreadContext() { g_object_unref(context_); }
+  ThreadContext(const ThreadContext&) = delete;
+  ThreadContext& operator=(const ThreadContext&) = delete;
+
+  PangoContext* get() const { return context_; }
+
+ private:
+  PangoContext* context_;
+};
+
 PangoContext* threadContext() {
-  thread_local PangoContext* context = [] {
-    PangoContext* c = pango_font_map_create_context(pango_cairo_font_map_get_default());
-    prepareTextContext(c);
-    return c;
-  }();
-  return context;
+  thread_local const ThreadContext context;
+  return context.get();
 }
 
 }  // namespace

@@ -1,6 +1,9 @@
 #include "drawing/text_measure.h"
 
 #include <gtest/gtest.h>
+#include <pango/pangocairo.h>
+
+#include <thread>
 
 namespace lad::drawing {
 namespace {
@@ -39,6 +42,18 @@ TEST(TextMeasure, BreaksAtLineFeedsAndBetweenWordsInTheWidth) {
   EXPECT_EQ(wrapped[1].text, "двадцать два");
   EXPECT_NEAR(wrapped[1].baseline + measureText("22", f).h - wrapped[0].baseline,
               measureText(text, f, width).h, 0.01);
+}
+
+// Every thread that measures loads its own fonts; the installation's worker thread is started
+// anew with each launch, so a thread's fonts must go when it ends.
+TEST(TextMeasure, AThreadsFontsGoWithTheThread) {
+  gpointer fontMap = nullptr;
+  std::thread([&fontMap] {
+    EXPECT_GT(measureText("22", {9, false}).w, 0);
+    fontMap = pango_cairo_font_map_get_default();
+    g_object_add_weak_pointer(G_OBJECT(fontMap), &fontMap);
+  }).join();
+  EXPECT_EQ(fontMap, nullptr);
 }
 
 }  // namespace
