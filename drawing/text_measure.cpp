@@ -2,6 +2,8 @@
 
 #include <pango/pangocairo.h>
 
+#include <memory>
+
 #include "drawing/text_layout.h"
 
 namespace lad::drawing {
@@ -11,23 +13,14 @@ namespace {
 // The default font map is per thread, and so is this context: measuring is safe from any
 // thread, and the fonts are loaded once per thread. The context lets go of the thread's font map
 // when the thread ends, so that the map and its fonts go with the thread.
-class ThreadContext {
- public:
-  ThreadContext() : context_(pango_font_map_create_context(pango_cairo_font_map_get_default())) {
-    prepareTextContext(context_);
-  }
-  ~ThreadContext() { g_object_unref(context_); }
-  ThreadContext(const ThreadContext&) = delete;
-  ThreadContext& operator=(const ThreadContext&) = delete;
-
-  PangoContext* get() const { return context_; }
-
- private:
-  PangoContext* context_;
-};
-
 PangoContext* threadContext() {
-  thread_local const ThreadContext context;
+  thread_local const std::unique_ptr<PangoContext, void (*)(gpointer)> context(
+      [] {
+        PangoContext* c = pango_font_map_create_context(pango_cairo_font_map_get_default());
+        prepareTextContext(c);
+        return c;
+      }(),
+      g_object_unref);
   return context.get();
 }
 
