@@ -3,9 +3,9 @@
 #include <gtest/gtest.h>
 #include <pango/pangocairo.h>
 
-#include <atomic>
-#include <chrono>
 #include <thread>
+
+#include "tests/support/wait_counter.h"
 
 namespace lad::drawing {
 namespace {
@@ -50,17 +50,14 @@ TEST(TextMeasure, BreaksAtLineFeedsAndBetweenWordsInTheWidth) {
 // anew with each launch, so a thread's fonts must go when it ends. pango matches fonts on short
 // threads of its own that hold the font map for a moment, so it may go just after the thread.
 TEST(TextMeasure, AThreadsFontsGoWithTheThread) {
-  static std::atomic<bool> gone = false;
+  static lad::testing::WaitCounter gone;
   std::thread([] {
     EXPECT_GT(measureText("22", {9, false}).w, 0);
     g_object_weak_ref(
-        G_OBJECT(pango_cairo_font_map_get_default()), [](gpointer, GObject*) { gone = true; },
+        G_OBJECT(pango_cairo_font_map_get_default()), [](gpointer, GObject*) { gone.bump(); },
         nullptr);
   }).join();
-  const auto deadline = std::chrono::steady_clock::now() + std::chrono::seconds(10);
-  while (!gone && std::chrono::steady_clock::now() < deadline)
-    std::this_thread::sleep_for(std::chrono::milliseconds(1));
-  EXPECT_TRUE(gone);
+  EXPECT_TRUE(gone.waitAtLeast(1));
 }
 
 }  // namespace
