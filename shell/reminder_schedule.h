@@ -1,10 +1,11 @@
 // The reminders on their way to the user: the plan worked out from the diary, each kept until
 // its minute comes. The plan is worked out again when the diary or the medicine switch changed,
-// or a browser came up; what fell due before is taken out first, so that no new plan drops a
-// reminder whose minute has just come.
+// or a browser came up, from the last look on; what fell due since then in the old plan or in
+// the new one comes once, so that no new plan drops a reminder whose minute has just come.
 #pragma once
 
 #include <cstdint>
+#include <optional>
 #include <vector>
 
 #include "health/reminder_plan.h"
@@ -30,6 +31,7 @@ class ReminderSchedule {
 
  private:
   std::vector<health::PlannedReminder> plan_;
+  std::optional<Date> lastLook_;  // the `now` of the last takeDue
   bool stale_ = true;
   std::uint64_t dataVersion_ = 0;
   bool pillsAlarm_ = false;

@@ -50,5 +50,18 @@ TEST_F(ReminderScheduleTest, AReminderWhoseMinuteCameSurvivesTheNewPlanAndComesO
   EXPECT_TRUE(schedule.plan().empty());
 }
 
+TEST_F(ReminderScheduleTest, AReminderWrittenBetweenTwoLooksWhoseMinuteCameInBetweenComesOnce) {
+  remind(R"([{"time":"10:05","temp":"Витамины"}])");
+  EXPECT_TRUE(schedule.takeDue(*store, at("10:01"), 1, false).empty());
+
+  // Written at 10:02 for 10:03, next looked at only at 10:06 (a clock that jumped, a slow look):
+  // both come, in time order, the one both plans hold only once.
+  remind(R"([{"time":"10:03","temp":"Прогулка"},{"time":"10:05","temp":"Витамины"}])");
+  EXPECT_EQ(texts(schedule.takeDue(*store, at("10:06"), 2, false)),
+            (std::vector<std::string>{"Прогулка", "Витамины"}));
+  schedule.invalidate();
+  EXPECT_TRUE(schedule.takeDue(*store, at("10:07"), 2, false).empty()) << "not twice";
+}
+
 }  // namespace
 }  // namespace lad::shell
