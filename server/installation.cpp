@@ -17,9 +17,14 @@ namespace {
 
 constexpr std::size_t kMaxSessions = 256;
 
-std::string viewBody(shell::Session& s) {
+// The view with its place among the answers the main loop made: "seq" grows with every request
+// of this run of the server and "run" names the run, so that a browser whose requests were
+// answered out of order shows the newest state.
+std::string viewBody(shell::Session& s, const std::string& run, std::uint64_t seq) {
   Map m;
   m.set("view", s.view());
+  m.set("run", run);
+  m.set("seq", static_cast<std::int64_t>(seq));
   return Value(std::move(m)).toJson();
 }
 
@@ -103,7 +108,7 @@ void Installation::evictOldestSession() {
 Reply Installation::view(const std::string& session, const std::string& host) {
   return loop_.call([&] {
     Reply reply;
-    reply.body = viewBody(sessionFor(session, host, reply));
+    reply.body = viewBody(sessionFor(session, host, reply), run_, useCounter_);
     return reply;
   });
 }
@@ -123,7 +128,7 @@ Reply Installation::event(const std::string& session, std::string_view body,
       return reply;
     }
     afterEvent(result, reply.session);
-    reply.body = viewBody(s);
+    reply.body = viewBody(s, run_, useCounter_);
     return reply;
   });
 }

@@ -11,6 +11,7 @@
 #include <unordered_map>
 
 #include "core/context.h"
+#include "core/ids.h"
 #include "server/cloud_follower.h"
 #include "server/event_hub.h"
 #include "server/main_loop.h"
@@ -106,7 +107,8 @@ class Installation {
   std::unique_ptr<shell::Application> app_;
   std::unordered_map<std::string, SessionEntry> sessions_;
   std::unique_ptr<CloudFollower> cloud_;  // goes first: its watcher posts to the loop
-  std::uint64_t useCounter_ = 0;
+  std::uint64_t useCounter_ = 0;          // counts the requests, which the main loop takes in turn
+  const std::string run_ = newID();
   bool shutDown_ = false;
 };
 

@@ -93,6 +93,32 @@ async function waitForSwitch(page, checked, why) {
   });
 }
 
+/** A tap held on its way reaches the server after a later request from the same page: the
+ *  tap's answer, made last, is the one that stays on screen, whichever answer arrives first. */
+async function checkCrossedAnswers(page) {
+  let release;
+  const held = new Promise((resolve) => (release = resolve));
+  let taken;
+  const tapTaken = new Promise((resolve) => (taken = resolve));
+  await page.route('**/api/event', async (route) => {
+    if (route.request().postDataJSON()?.type === 'tap') {
+      taken();
+      await held;
+    }
+    await route.continue();
+  });
+  await page.tap('[data-id="menu:8"]'); // opens the diary, which changes nothing stored
+  await tapTaken;
+  const visible = page.waitForResponse((r) => r.request().postDataJSON()?.type === 'visible');
+  await page.evaluate(() => document.dispatchEvent(new Event('visibilitychange')));
+  await visible;
+  release();
+  await page.waitForSelector('.ring-page .diary').catch(() => {
+    throw new Error('the answer made last did not stay on screen');
+  });
+  await page.unroute('**/api/event');
+}
+
 /** The first page of a launch is greeted; closing the greeting shows the menu, and a reload
  *  does not greet again. */
 async function checkGreetingOnce(context, base, outDir) {
@@ -141,6 +167,7 @@ async function checkInBrowser(browser, base, outDir) {
 
   await page.evaluate(() => window.scrollTo(0, 0)); // the sticky header then sits on top
   await e2e.snap(page, outDir, 'menu', true);
+  await checkCrossedAnswers(page);
   assert.deepEqual(errors, [], 'no uncaught errors in the page');
 }
 

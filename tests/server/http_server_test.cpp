@@ -40,7 +40,12 @@ TEST_F(ServerTest, ViewDescribesTheMainMenuAndKeepsTheSession) {
   auto again = c->Get("/api/view", sessionHeaders(session));
   ASSERT_TRUE(again);
   EXPECT_FALSE(again->has_header("Set-Cookie"));
-  EXPECT_EQ(again->body, first->body);
+  // The same view, answered later in the same run: answers that cross on the way are put back
+  // in order by the browser.
+  Json later = Json::parse(again->body);
+  EXPECT_EQ(later["view"], body["view"]);
+  EXPECT_EQ(later["run"], body["run"]);
+  EXPECT_GT(later["seq"].get<std::int64_t>(), body["seq"].get<std::int64_t>());
 
   // A session the server does not know is replaced by a new one.
   auto stale = c->Get("/api/view", sessionHeaders("no-such-session"));
@@ -123,7 +128,7 @@ TEST_F(ServerTest, RefusesBadEventsWithoutChangingAnything) {
   EXPECT_EQ(settingsNow(), settingsBefore);
   auto viewAfter = client()->Get("/api/view", sessionHeaders(session));
   ASSERT_TRUE(viewAfter);
-  EXPECT_EQ(viewAfter->body, viewBefore->body);
+  EXPECT_EQ(Json::parse(viewAfter->body)["view"], Json::parse(viewBefore->body)["view"]);
 }
 
 TEST_F(ServerTest, TapTogglesTheSwitchAndWritesTheSettings) {

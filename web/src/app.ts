@@ -1,6 +1,6 @@
 // Entry point: loads the view, sends the user's taps, follows the server's pushes.
 // When the server cannot be reached the last view stays up and loading is retried quietly.
-import { fetchView, RefusedError, sendEvent } from './api.js';
+import { type Answer, fetchView, RefusedError, sendEvent } from './api.js';
 import { listen } from './events.js';
 import { authenticatorEvent, runCeremonies } from './fingerprint.js';
 import { showNotice } from './notice.js';
@@ -10,14 +10,15 @@ import { editorValueOf, holdsUnsentValue, markSent } from './editor.js';
 import { popupValueOf } from './popup.js';
 import { show } from './screen.js';
 import { registerWorker } from './update.js';
-import type { ClientEvent, Screen } from './view.js';
+import type { ClientEvent } from './view.js';
 import { onViewportChange, viewportEvent } from './viewport.js';
 
 const RETRY_FIRST_MS = 1000;
 const RETRY_MAX_MS = 30000;
 
 const root = document.getElementById('app') ?? document.body;
-let newest = 0; // number of the newest request; answers to older ones are dropped
+// The place of the answer on screen: answers made before it are dropped.
+let shown = { run: '', seq: 0 };
 let viewportSent = false;
 let activated = false;
 let pendingTaps = 0; // taps sent or waiting: they go out one by one, in order
@@ -27,11 +28,12 @@ let retryDelay = RETRY_FIRST_MS;
 let retryTimer: number | undefined;
 
 /** Runs a request whose answer is a view and shows it. Resolves to whether the server answered. */
-async function request(load: () => Promise<Screen>): Promise<boolean> {
-  const ticket = ++newest;
+async function request(load: () => Promise<Answer>): Promise<boolean> {
   try {
-    const view = await load();
-    if (ticket === newest) {
+    const { view, run, seq } = await load();
+    // The first answer of a server that started again is shown whatever its number.
+    if (run !== shown.run || seq > shown.seq) {
+      shown = { run, seq };
       show(root, view);
       tiltOn = view.tilt === true;
       runCeremonies(view, send);
