@@ -108,7 +108,8 @@ void Installation::evictOldestSession() {
 Reply Installation::view(const std::string& session, const std::string& host) {
   return loop_.call([&] {
     Reply reply;
-    reply.body = viewBody(sessionFor(session, host, reply), run_, useCounter_);
+    shell::Session& s = sessionFor(session, host, reply);
+    reply.body = viewBody(s, run_, useCounter_);
     return reply;
   });
 }
