@@ -15,8 +15,7 @@ void takeUpTo(std::vector<health::PlannedReminder>& plan, Date now,
   plan.erase(plan.begin(), firstLater);
 }
 
-// Adds to `due` the reminders of `fresh` it does not hold yet, each as often as `fresh` holds it
-// more, and keeps it in time order.
+// Adds to `due` what `fresh` holds beyond it (a reminder in both counts once), in time order.
 void addOnce(std::vector<health::PlannedReminder>& due,
              std::vector<health::PlannedReminder> fresh) {
   std::vector<health::PlannedReminder> given = due;
