@@ -49,7 +49,7 @@ void Reply::refuse(int refusalStatus, const std::string& message) {
   body = Value(std::move(m)).toJson();
 }
 
-Installation::Installation(ContextOptions options) {
+Installation::Installation(ContextOptions options) : run_(newID()) {
   loop_.call([&] {
     app_ = std::make_unique<shell::Application>(std::move(options));
     const std::string& problem = app_->context().settings().loadProblem();

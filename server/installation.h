@@ -11,7 +11,6 @@
 #include <unordered_map>
 
 #include "core/context.h"
-#include "core/ids.h"
 #include "server/cloud_follower.h"
 #include "server/event_hub.h"
 #include "server/main_loop.h"
@@ -108,7 +107,7 @@ class Installation {
   std::unordered_map<std::string, SessionEntry> sessions_;
   std::unique_ptr<CloudFollower> cloud_;  // goes first: its watcher posts to the loop
   std::uint64_t useCounter_ = 0;          // counts the requests, which the main loop takes in turn
-  const std::string run_ = newID();
+  const std::string run_;                 // names this run of the server in its answers
   bool shutDown_ = false;
 };
 
