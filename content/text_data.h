@@ -28,7 +28,6 @@ class TextData {
   void justGroup(int n) { filter_.groupid = n; }
   void nextGroup();
   void prevGroup();
-  int groupId() const { return filter_.groupid; }
   // Loads only a span of six groups of the next file prepared (see queries.h).
   void specialPartial(int n);
   int partialStart() const { return filter_.partialStart; }
@@ -40,7 +39,6 @@ class TextData {
 
   const TextLayout& layout() const { return layout_; }
   TickList& checks() { return layout_.checks; }
-  const std::string& loadedName() const { return name_; }
 
  private:
   void reload();

@@ -33,11 +33,4 @@ void TickList::uncheckAll() {
   for (Tick& t : items_) t.checked = false;
 }
 
-std::optional<std::string> TickList::firstCheckedGuid() const {
-  const auto it =
-      std::find_if(items_.begin(), items_.end(), [](const Tick& t) { return t.checked; });
-  if (it == items_.end()) return std::nullopt;
-  return it->guid;
-}
-
 }  // namespace lad::content

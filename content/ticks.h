@@ -1,7 +1,6 @@
 // The tick boxes of a laid-out text, in text order; the box at index i has tag 1001 + i.
 #pragma once
 
-#include <optional>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -25,7 +24,6 @@ class TickList {
   // State of the first box with the identifier; false when there is none.
   bool isChecked(std::string_view guid) const;
   void uncheckAll();
-  std::optional<std::string> firstCheckedGuid() const;
 
   const std::vector<Tick>& items() const { return items_; }
 

@@ -16,20 +16,15 @@ std::unique_ptr<icu::TimeZone> openTimeZone(const std::string& name) {
   return tz;
 }
 
-Clock::Clock(const std::string& zone) : zone_(zone), tz_(openTimeZone(zone)) {}
+// Opening the zone checks its name.
+Clock::Clock(const std::string& zone) : zone_(zone) {
+  openTimeZone(zone);
+}
 
 Clock::~Clock() = default;
 
 Date Clock::now() const {
   return std::chrono::time_point_cast<std::chrono::milliseconds>(std::chrono::system_clock::now());
-}
-
-int Clock::utcOffsetSeconds(Date at) const {
-  int32_t raw = 0, dst = 0;
-  UErrorCode status = U_ZERO_ERROR;
-  tz_->getOffset(static_cast<UDate>(at.time_since_epoch().count()), false, raw, dst, status);
-  if (U_FAILURE(status)) return 0;
-  return (raw + dst) / 1000;
 }
 
 std::string Clock::hostZone() {

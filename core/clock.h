@@ -28,14 +28,11 @@ class Clock {
 
   virtual Date now() const;
   const std::string& zone() const { return zone_; }
-  // Offset of the zone from UTC at that moment, daylight saving included.
-  int utcOffsetSeconds(Date at) const;
 
   static std::string hostZone();
 
  private:
   std::string zone_;
-  std::unique_ptr<icu::TimeZone> tz_;
 };
 
 // A clock that stands still until told to move.

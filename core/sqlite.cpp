@@ -120,8 +120,4 @@ std::int64_t SqliteStatement::columnInt(int column) const {
   return sqlite3_column_int64(stmt_, column);
 }
 
-double SqliteStatement::columnDouble(int column) const {
-  return sqlite3_column_double(stmt_, column);
-}
-
 }  // namespace lad

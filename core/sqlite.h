@@ -72,7 +72,6 @@ class SqliteStatement {
   bool isNull(int column) const;
   std::optional<std::string> columnText(int column) const;  // nullopt for NULL
   std::int64_t columnInt(int column) const;
-  double columnDouble(int column) const;
   sqlite3_stmt* handle() const { return stmt_; }
 
  private:

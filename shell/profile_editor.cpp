@@ -96,8 +96,7 @@ void ProfileEditor::askRemoval() {
 
 EventResult ProfileEditor::finish() {
   std::string photoError;
-  saved_ = dialog_->finish(&photoError);
-  cloud::cloudProfileChanged(app_.store(), saved_);
+  cloud::cloudProfileChanged(app_.store(), dialog_->finish(&photoError));
   closed_ = true;
   if (!photoError.empty())
     host_.showMessage(MessageBox::make(app_.context(), photoError, "Ошибка"));

@@ -26,9 +26,6 @@ class ProfileEditor : public Screen {
   EventResult change(std::string_view target, const Value& value) override;
   bool closed() const override { return closed_; }
 
-  // The profile saved or removed, once the screen has closed that way.
-  const std::string& savedGuid() const { return saved_; }
-
  private:
   EventResult save();
   void pickDate(std::string field, const Map& row);
@@ -39,7 +36,6 @@ class ProfileEditor : public Screen {
   ScreenHost& host_;
   std::unique_ptr<SettingsDialog> dialog_;
   PhotoPreviews previews_;
-  std::string saved_;
   bool closed_ = false;
 };
 

@@ -54,12 +54,6 @@ int editionBit(int appid) {
 
 }  // namespace
 
-std::optional<Keyword> keywordFor(int appid, std::string_view name) {
-  for (const KeywordRow& row : kKeywords)
-    if ((row.editions & editionBit(appid)) && row.keyword.name == name) return row.keyword;
-  return std::nullopt;
-}
-
 std::vector<Keyword> keywordsOf(int appid) {
   std::vector<Keyword> keywords;
   for (const KeywordRow& row : kKeywords)

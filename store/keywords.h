@@ -2,7 +2,6 @@
 // and the dictionary list it draws on.
 #pragma once
 
-#include <optional>
 #include <string_view>
 #include <vector>
 
@@ -44,9 +43,6 @@ struct Keyword {
   int list;  // dictionary list (cotype), 0 for none
   ValueForm form;
 };
-
-// The keyword as a field of the edition's day; nullopt when the edition has no such field.
-std::optional<Keyword> keywordFor(int appid, std::string_view name);
 
 // Every field of the edition's day, in the order of the table.
 std::vector<Keyword> keywordsOf(int appid);

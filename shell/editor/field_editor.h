@@ -41,7 +41,6 @@ class FieldEditor {
   FieldEditor* nested();
   // Closes the nested editor into its row; a refusal leaves it open and says why.
   std::optional<MessageBox> commitNested();
-  void cancelNested() { nested_.reset(); }
 
   // The editor's node, with the nested editor's node over it while one is open.
   Value view() const;

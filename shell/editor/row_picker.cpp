@@ -47,10 +47,6 @@ std::unique_ptr<WheelPicker> rowPicker(const Context& context, const Map& row) {
   return std::make_unique<WheelPicker>(context, *set, pickerCaption(row), row["source"].text());
 }
 
-std::string intakeTimeTarget(std::string_view field, std::size_t n) {
-  return fieldTarget(field) + ":" + std::to_string(n);
-}
-
 std::optional<IntakeTime> intakeTimeOf(std::string_view target) {
   const std::string_view rest = targetField(target);
   const auto colon = rest.rfind(':');

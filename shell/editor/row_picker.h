@@ -17,8 +17,7 @@ namespace lad::shell {
 // kind that is not picked on wheels.
 std::unique_ptr<WheelPicker> rowPicker(const Context& context, const Map& row);
 
-// One of the times of a row of intake times: its target ("field:pilltime:1") and back.
-std::string intakeTimeTarget(std::string_view field, std::size_t n);
+// One of the times of a row of intake times, read from its target ("field:pilltime:1").
 struct IntakeTime {
   std::string field;
   std::size_t n;
