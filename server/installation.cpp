@@ -240,6 +240,10 @@ void Installation::deliverReminders() {
   const auto due = app_->reminders().takeDue(app_->store(), context.clock().now(),
                                              app_->dataVersion(), context.values().pillsAlarm);
   for (const health::PlannedReminder& reminder : due) {
+    // The log says when a reminder went out, next to the requests that follow it.
+    std::fprintf(stderr, "reminder of %s shown in %zu browsers\n",
+                 context.dates().dateToString(reminder.at, "dd.MM.yyyy HH:mm").c_str(),
+                 sessions_.size());
     for (auto& [id, entry] : sessions_) entry.session->showReminder(reminder.body);
     // Its text goes only where the diary is open to read.
     hub_.publish(reminderMessage(context, reminder),
