@@ -13,7 +13,8 @@ namespace {
 
 TEST(FuzzReplayTest, EverySeedPasses) {
   int seeds = 0;
-  for (const auto& entry : std::filesystem::directory_iterator(LADANEYA_FUZZ_CORPUS)) {
+  for (const auto& entry : std::filesystem::recursive_directory_iterator(LADANEYA_FUZZ_CORPUS)) {
+    if (!entry.is_regular_file()) continue;
     const std::string bytes = lad::testing::readFile(entry.path());
     SCOPED_TRACE(entry.path().string());
     EXPECT_EQ(
