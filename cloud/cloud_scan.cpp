@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <system_error>
+#include <tuple>
 
 #include "cloud/change_apply.h"
 #include "cloud/change_folder.h"
@@ -70,8 +71,11 @@ CloudListing listCloudFolder(Context& context, std::chrono::milliseconds settle)
     }
     if (it->is_regular_file(error)) addEntry(context, *it, it.depth() == 0, settle, listing);
   }
-  std::stable_sort(listing.pending.begin(), listing.pending.end(),
-                   [](const auto& a, const auto& b) { return a.changed < b.changed; });
+  // Files written within one tick of the file system's clock share their date; their names then
+  // decide, not the folder's order, so a profile (kind 1) comes before its days (kind 2).
+  std::sort(listing.pending.begin(), listing.pending.end(), [](const auto& a, const auto& b) {
+    return std::tie(a.changed, a.name) < std::tie(b.changed, b.name);
+  });
   return listing;
 }
 

@@ -28,7 +28,7 @@ struct PendingChange {
 inline constexpr std::chrono::milliseconds kSettleTime{1500};
 
 struct CloudListing {
-  std::vector<PendingChange> pending;            // oldest change first
+  std::vector<PendingChange> pending;            // oldest change first, then by name
   std::vector<std::filesystem::path> oldFormat;  // complete files of the old format
   int total = 0;                                 // files seen, complete or not
   int down = 0;                                  // complete files
